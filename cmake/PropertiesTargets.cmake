@@ -1,0 +1,26 @@
+# What every target of the project has in common.
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTORCC ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_INCLUDE_CURRENT_DIR OFF)
+set(CMAKE_INSTALL_RPATH "$ORIGIN:$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+
+find_program(PROPERTIES_CCACHE ccache)
+if(PROPERTIES_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${PROPERTIES_CCACHE}")
+endif()
+
+# Warnings are errors in the project's own code.
+add_library(properties_warnings INTERFACE)
+target_compile_options(properties_warnings INTERFACE
+    -Wall -Wextra -Wpedantic -Werror -Wshadow -Woverloaded-virtual -Wnon-virtual-dtor -Wconversion -Wold-style-cast
+    -Wcast-align -Wunused -Wduplicated-cond -Wlogical-op -Wformat=2)
+
+if(PROPERTIES_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()

@@ -1,0 +1,94 @@
+#include <graphics/TStateText.h>
+
+#include <QColor>
+#include <QLocale>
+#include <QPainterPath>
+#include <QPointF>
+#include <QSizeF>
+
+namespace {
+
+QString Number(double value)
+{
+    constexpr double zero = 0.0; // Minus zero is written as zero: the two are equal.
+    return QString::number(value == zero ? zero : value, 'g', QLocale::FloatingPointShortest);
+}
+
+QString Pair(double first, double second)
+{
+    return QStringLiteral("(%1,%2)").arg(Number(first), Number(second));
+}
+
+} // namespace
+
+void TStateText::Append(const char* name, const QString& value)
+{
+    line += QLatin1Char(' ') + QLatin1String(name) + QLatin1Char('=') + value;
+}
+
+TStateText& TStateText::Add(const char* name, const QString& text)
+{
+    QString quoted = text;
+    quoted.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
+    quoted.replace(QLatin1Char('"'), QLatin1String("\\\""));
+    quoted.replace(QLatin1Char('\n'), QLatin1String("\\n"));
+    Append(name, QLatin1Char('"') + quoted + QLatin1Char('"'));
+    return *this;
+}
+
+TStateText& TStateText::Add(const char* name, const char* text)
+{
+    return Add(name, QString::fromUtf8(text));
+}
+
+TStateText& TStateText::Add(const char* name, bool value)
+{
+    Append(name, value ? QStringLiteral("yes") : QStringLiteral("no"));
+    return *this;
+}
+
+TStateText& TStateText::Add(const char* name, int value)
+{
+    Append(name, QString::number(value));
+    return *this;
+}
+
+TStateText& TStateText::Add(const char* name, double value)
+{
+    Append(name, Number(value));
+    return *this;
+}
+
+TStateText& TStateText::Add(const char* name, float value)
+{
+    return Add(name, static_cast<double>(value));
+}
+
+TStateText& TStateText::Add(const char* name, const QPointF& point)
+{
+    Append(name, Pair(point.x(), point.y()));
+    return *this;
+}
+
+TStateText& TStateText::Add(const char* name, const QSizeF& size)
+{
+    Append(name, Pair(size.width(), size.height()));
+    return *this;
+}
+
+TStateText& TStateText::Add(const char* name, const QColor& color)
+{
+    Append(name, color.isValid() ? color.name(QColor::HexArgb) : QStringLiteral("default"));
+    return *this;
+}
+
+TStateText& TStateText::Add(const char* name, const QPainterPath& path)
+{
+    QString points;
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const QPainterPath::Element element = path.elementAt(i);
+        points += QString::number(element.type) + Pair(element.x, element.y);
+    }
+    Append(name, points);
+    return *this;
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+
+class QColor;
+class QPainterPath;
+class QPointF;
+class QSizeF;
+
+/**
+ * Builds the canonical line that says an item's whole state: the kind, then `name=value` pairs in the order in which
+ * they are added. Numbers are written with the fewest digits that read back as the same value, so that two lines are
+ * equal exactly when the states are.
+ */
+class TStateText
+{
+public:
+    explicit TStateText(const QString& kind) : line(kind) {}
+
+    TStateText& Add(const char* name, const QString& text);
+    TStateText& Add(const char* name, const char* text);
+    TStateText& Add(const char* name, bool value);
+    TStateText& Add(const char* name, int value);
+    TStateText& Add(const char* name, double value);
+    TStateText& Add(const char* name, float value);
+    TStateText& Add(const char* name, const QPointF& point);
+    TStateText& Add(const char* name, const QSizeF& size);
+    TStateText& Add(const char* name, const QColor& color);
+    TStateText& Add(const char* name, const QPainterPath& path);
+
+    const QString& Line() const { return line; }
+
+private:
+    void Append(const char* name, const QString& value);
+
+    QString line;
+};

@@ -1,0 +1,26 @@
+#include <objects/TGraphicsHoleItem.h>
+
+#include <objects/DrawingStyle.h>
+
+#include <QPainter>
+
+QPainterPath TGraphicsHoleItem::Outline() const
+{
+    QPainterPath path;
+    path.addEllipse(Rect());
+    return path;
+}
+
+void TGraphicsHoleItem::Draw(QPainter& painter, double) const
+{
+    QPen rim(AltColor().isValid() ? AltColor() : DrawingStyle::holeRim, 1);
+    rim.setCosmetic(true);
+    painter.setPen(rim);
+    painter.setBrush(DrawingStyle::hole);
+    painter.drawEllipse(Rect());
+}
+
+double TGraphicsHoleItem::StackingHeight() const
+{
+    return DrawingStyle::stackingOfDrilled;
+}

@@ -1,0 +1,251 @@
+#include <objects/TGraphicsPadItem.h>
+
+#include <graphics/TStateText.h>
+#include <objects/DrawingStyle.h>
+
+#include <QFont>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/** A rectangle whose four corners are cut so that all eight sides of a square one are equal. */
+QPainterPath Octagon(const QRectF& box)
+{
+    constexpr double cutOfRegularOctagon = 0.29289321881345254; // 1 - sqrt(1/2), of the side
+    const double cut = cutOfRegularOctagon * std::min(box.width(), box.height());
+    QPainterPath path;
+    path.addPolygon(QVector<QPointF>{{box.left() + cut, box.top()},
+                                     {box.right() - cut, box.top()},
+                                     {box.right(), box.top() + cut},
+                                     {box.right(), box.bottom() - cut},
+                                     {box.right() - cut, box.bottom()},
+                                     {box.left() + cut, box.bottom()},
+                                     {box.left(), box.bottom() - cut},
+                                     {box.left(), box.top() + cut}});
+    path.closeSubpath();
+    return path;
+}
+
+/** A rectangle whose opposite sides differ in length by @p taper. */
+QPainterPath Trapezoid(const QRectF& box, const QSizeF& taper)
+{
+    const double dx = taper.height() / 2;
+    const double dy = taper.width() / 2;
+    QPainterPath path;
+    path.addPolygon(QVector<QPointF>{{box.left() - dx / 2, box.top() - dy / 2},
+                                     {box.right() + dx / 2, box.top() + dy / 2},
+                                     {box.right() - dx / 2, box.bottom() - dy / 2},
+                                     {box.left() + dx / 2, box.bottom() + dy / 2}});
+    path.closeSubpath();
+    return path;
+}
+
+QPainterPath Rounded(const QRectF& box, double radius)
+{
+    QPainterPath path;
+    path.addRoundedRect(box, radius, radius);
+    return path;
+}
+
+} // namespace
+
+template <class Value>
+void TGraphicsPadItem::StoreGeometry(Value& field, const Value& value)
+{
+    prepareGeometryChange();
+    field = value;
+    Refresh();
+}
+
+void TGraphicsPadItem::UpdateTextPaths()
+{
+    numberPath = QPainterPath();
+    update();
+}
+
+void TGraphicsPadItem::SetWidth(double width)
+{
+    SetSize(width, Height());
+}
+
+void TGraphicsPadItem::SetHeight(double height)
+{
+    SetSize(Width(), height);
+}
+
+void TGraphicsPadItem::SetPadShape(TypePadShape shape)
+{
+    StoreGeometry(padShape, shape);
+}
+
+void TGraphicsPadItem::SetTypeSMD(bool smd)
+{
+    const Osmirel::Layer start = StartLayer();
+    const Osmirel::Layer through = start == Osmirel::CopperBottom ? Osmirel::CopperTop : Osmirel::CopperBottom;
+    SetLayers(start, smd ? start : through);
+}
+
+void TGraphicsPadItem::SetPadSide(Osmirel::Layer side)
+{
+    if (IsSMD()) {
+        SetLayers(side, side);
+    }
+}
+
+void TGraphicsPadItem::SetMaskClearance(float clearance)
+{
+    const auto closed = static_cast<float>(-std::min(Width(), Height()) / 2);
+    TGraphicsViaItem::SetMaskClearance(std::max(clearance, closed));
+}
+
+void TGraphicsPadItem::SetPasteClearance(float clearance)
+{
+    StoreGeometry(pasteClearance, clearance);
+}
+
+void TGraphicsPadItem::SetCornerRatio(double ratio)
+{
+    StoreGeometry(cornerRatio, ratio);
+}
+
+void TGraphicsPadItem::SetTaper(const QSizeF& difference)
+{
+    StoreGeometry(taper, difference);
+}
+
+void TGraphicsPadItem::SetCopperOffset(const QPointF& offset)
+{
+    StoreGeometry(copperOffset, offset);
+}
+
+void TGraphicsPadItem::SetDrillStretch(const QSizeF& stretch)
+{
+    StoreGeometry(drillStretch, stretch);
+}
+
+void TGraphicsPadItem::SetExtraCopper(const QPainterPath& path)
+{
+    StoreGeometry(extraCopper, path);
+}
+
+QRectF TGraphicsPadItem::boundingRect() const
+{
+    const double slant = (taper.width() + taper.height()) / 2;
+    const double margin =
+        std::max({0.0, static_cast<double>(MaskClearance()), static_cast<double>(pasteClearance)}) + slant;
+    const QRectF copper = OffsetCopperRect() | extraCopper.boundingRect();
+    const auto diameter = static_cast<double>(Drill());
+    const double holeWidth = diameter + drillStretch.width();
+    const double holeHeight = diameter + drillStretch.height();
+    return copper.adjusted(-margin, -margin, margin, margin)
+           | QRectF(-holeWidth / 2, -holeHeight / 2, holeWidth, holeHeight);
+}
+
+QPainterPath TGraphicsPadItem::Outline() const
+{
+    QPainterPath path = CopperGrownBy(0);
+    if (!extraCopper.isEmpty()) {
+        path.addPath(extraCopper);
+        path.setFillRule(Qt::WindingFill);
+    }
+    return path;
+}
+
+QPainterPath TGraphicsPadItem::CopperGrownBy(double margin) const
+{
+    QRectF box = OffsetCopperRect();
+    if (padShape == ShapeSquare) {
+        box.setHeight(box.width());
+        box.moveCenter(copperOffset);
+    }
+    box.adjust(-margin, -margin, margin, margin);
+    const double shorterSide = std::min(box.width(), box.height());
+    switch (padShape) {
+    case ShapeRound: {
+        QPainterPath path;
+        path.addEllipse(box);
+        return path;
+    }
+    case ShapeObround: return Rounded(box, shorterSide / 2);
+    case ShapeOctagon:
+    case ShapeLongOctagon: return Octagon(box);
+    case ShapeSquare:
+    case ShapeRectangle: break;
+    }
+    return taper.isNull() ? Rounded(box, cornerRatio * shorterSide) : Trapezoid(box, taper);
+}
+
+void TGraphicsPadItem::Draw(QPainter& painter, double pixelsPerUnit) const
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(!IsSMD() && !AltColor().isValid() ? DrawingStyle::plating : Color());
+    painter.drawPath(Outline());
+    DrawHole(painter);
+    if (MaskEnabled()) {
+        DrawOpening(painter, Osmirel::MaskTop, Osmirel::MaskBottom,
+                    CopperGrownBy(static_cast<double>(MaskClearance())));
+    }
+    if (pasteEnabled) {
+        DrawOpening(painter, Osmirel::PasteTop, Osmirel::PasteBottom,
+                    CopperGrownBy(static_cast<double>(pasteClearance)));
+    }
+    DrawNumber(painter, pixelsPerUnit);
+}
+
+void TGraphicsPadItem::DrawHole(QPainter& painter) const
+{
+    const auto diameter = static_cast<double>(Drill());
+    if (IsSMD() || diameter <= 0) {
+        return;
+    }
+    const double width = diameter + drillStretch.width();
+    const double height = diameter + drillStretch.height();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(DrawingStyle::hole);
+    painter.drawRoundedRect(QRectF(-width / 2, -height / 2, width, height), diameter / 2, diameter / 2);
+}
+
+void TGraphicsPadItem::DrawNumber(QPainter& painter, double pixelsPerUnit) const
+{
+    const QRectF box = OffsetCopperRect();
+    const double textHeight = 0.6 * std::min(box.width(), box.height());
+    if (number.isEmpty() || textHeight * pixelsPerUnit < DrawingStyle::smallestReadableText) {
+        return;
+    }
+    if (numberPath.isEmpty()) {
+        QFont font;
+        font.setPixelSize(100);
+        QPainterPath text;
+        text.addText(0, 0, font, number);
+        const QRectF extent = text.boundingRect();
+        numberPath = QTransform::fromScale(0.01, 0.01).translate(-extent.center().x(), -extent.center().y()).map(text);
+    }
+    const double fitting = std::min(textHeight, 0.8 * box.width() / std::max(numberPath.boundingRect().width(), 0.1));
+    painter.save();
+    painter.translate(box.center());
+    // The number reads upright however the package is turned; it is never seen from behind.
+    painter.rotate(-std::fmod(parentItem() ? parentItem()->rotation() + rotation() : rotation(), 360.0));
+    painter.scale(fitting, fitting);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(DrawingStyle::textOnCopper);
+    painter.drawPath(numberPath);
+    painter.restore();
+}
+
+void TGraphicsPadItem::Describe(TStateText& state) const
+{
+    TGraphicsViaItem::Describe(state);
+    state.Add("number", number)
+        .Add("name", name)
+        .Add("shape", static_cast<int>(padShape))
+        .Add("paste", pasteEnabled)
+        .Add("pasteClearance", pasteClearance)
+        .Add("cornerRatio", cornerRatio)
+        .Add("taper", taper)
+        .Add("copperOffset", copperOffset)
+        .Add("drillStretch", drillStretch)
+        .Add("extraCopper", extraCopper);
+}

@@ -1,0 +1,143 @@
+#include <objects/TGraphicsViaItem.h>
+
+#include <graphics/TStateText.h>
+#include <objects/DrawingStyle.h>
+#include <workspace/TWorkspace.h>
+
+#include <QPainter>
+
+#include <algorithm>
+
+TGraphicsViaItem::TGraphicsViaItem(QGraphicsItem* parent) : TGraphicsItem(parent)
+{
+    TGraphicsItem::SetLayer(Osmirel::CopperTop);
+    setZValue(DrawingStyle::stackingOfDrilled);
+}
+
+void TGraphicsViaItem::SetSize(double width, double height)
+{
+    prepareGeometryChange();
+    StoreSize({width, height});
+    Refresh();
+}
+
+void TGraphicsViaItem::SetViaGroup(const QString& name)
+{
+    viaGroup = name;
+    const TDrillPair* pair = Workspace() ? Workspace()->Layers().DrillPair(name) : nullptr;
+    if (pair) {
+        startLayer = pair->first;
+        endLayer = pair->last;
+    }
+    Refresh();
+}
+
+void TGraphicsViaItem::SetMaskClearance(float clearance)
+{
+    prepareGeometryChange();
+    StoreMaskClearance(clearance);
+    Refresh();
+}
+
+void TGraphicsViaItem::SetLayers(Osmirel::Layer start, Osmirel::Layer end)
+{
+    startLayer = start;
+    endLayer = end;
+    SetLayer(start);
+    Refresh();
+}
+
+QList<Osmirel::Layer> TGraphicsViaItem::EtchLayers() const
+{
+    return Workspace() ? Workspace()->Layers().CopperLayers(startLayer, endLayer) : QList<Osmirel::Layer>();
+}
+
+void TGraphicsViaItem::SetNet(const QString& name)
+{
+    net = name;
+    Refresh();
+}
+
+bool TGraphicsViaItem::IsOnVisibleLayer() const
+{
+    if (startLayer == endLayer) {
+        return TGraphicsItem::IsOnVisibleLayer();
+    }
+    const QList<Osmirel::Layer> layers = EtchLayers();
+    return layers.isEmpty() || std::any_of(layers.cbegin(), layers.cend(), [this](Osmirel::Layer copper) {
+               return Workspace()->Layers().IsVisible(copper);
+           });
+}
+
+QRectF TGraphicsViaItem::boundingRect() const
+{
+    const double margin = std::max(0.0, static_cast<double>(maskClearance));
+    return CopperRect().adjusted(-margin, -margin, margin, margin);
+}
+
+QPainterPath TGraphicsViaItem::Outline() const
+{
+    QPainterPath path;
+    path.addEllipse(CopperRect());
+    return path;
+}
+
+void TGraphicsViaItem::Draw(QPainter& painter, double) const
+{
+    const bool isThrough = startLayer == Osmirel::CopperTop && endLayer == Osmirel::CopperBottom;
+    const QColor plating = isThrough ? DrawingStyle::plating : DrawingStyle::blindPlating;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(AltColor().isValid() ? AltColor() : plating);
+    painter.drawEllipse(CopperRect());
+
+    const double shownDrill = std::min({static_cast<double>(drill), Width(), Height()});
+    painter.setBrush(DrawingStyle::hole);
+    painter.drawEllipse(QPointF(), shownDrill / 2, shownDrill / 2);
+
+    if (maskEnabled) {
+        const double margin = static_cast<double>(maskClearance);
+        QPainterPath opening;
+        opening.addEllipse(CopperRect().adjusted(-margin, -margin, margin, margin));
+        DrawOpening(painter, Osmirel::MaskTop, Osmirel::MaskBottom, opening);
+    }
+}
+
+void TGraphicsViaItem::DrawOpening(QPainter& painter, Osmirel::Layer top, Osmirel::Layer bottom,
+                                   const QPainterPath& opening) const
+{
+    if (!Workspace()) {
+        return;
+    }
+    painter.setBrush(Qt::NoBrush);
+    for (const Osmirel::Layer side : {top, bottom}) {
+        const TLayer* sideLayer = Workspace()->Layers().Layer(side);
+        const bool hasCopperThere = side == top
+                                        ? startLayer == Osmirel::CopperTop || endLayer == Osmirel::CopperTop
+                                        : startLayer == Osmirel::CopperBottom || endLayer == Osmirel::CopperBottom;
+        if (sideLayer && sideLayer->visible && hasCopperThere) {
+            QPen pen(sideLayer->color, 1);
+            pen.setCosmetic(true);
+            painter.setPen(pen);
+            painter.drawPath(opening);
+        }
+    }
+}
+
+double TGraphicsViaItem::StackingHeight() const
+{
+    return startLayer == endLayer ? TGraphicsItem::StackingHeight() : DrawingStyle::stackingOfDrilled;
+}
+
+void TGraphicsViaItem::Describe(TStateText& state) const
+{
+    TGraphicsItem::Describe(state);
+    state.Add("width", Width())
+        .Add("height", Height())
+        .Add("drill", drill)
+        .Add("thermal", static_cast<int>(thermal))
+        .Add("drillPair", viaGroup)
+        .Add("start", static_cast<int>(startLayer))
+        .Add("end", static_cast<int>(endLayer))
+        .Add("mask", maskEnabled)
+        .Add("maskClearance", maskClearance);
+}

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <graphics/TGraphicsItem.h>
+
+/** A plated hole that joins copper layers: a via of the board, and the base of its pads. */
+class TGraphicsViaItem : public TGraphicsItem
+{
+public:
+    /** How pours connect to the item. */
+    enum TypeThermal : int { ThermalAuto = 0, ThermalYes = 1, ThermalNo = 2 };
+
+    explicit TGraphicsViaItem(QGraphicsItem* parent = nullptr);
+
+    int type() const override { return ItemType::Via; }
+    QString KindName() const override { return QStringLiteral("via"); }
+
+    /** Width and height of the copper in scene units. */
+    double Width() const { return size.width(); }
+    double Height() const { return size.height(); }
+    /** Sets width and height in scene units and repaints. */
+    void SetSize(double width, double height);
+
+    /** Drill diameter in scene units, 0 for no hole. The setter stores only. */
+    float Drill() const { return drill; }
+    void SetDrill(float diameter) { drill = diameter; }
+
+    /** How pours connect. The setter stores only. */
+    TypeThermal Thermal() const { return thermal; }
+    void SetThermal(TypeThermal type) { thermal = type; }
+
+    /** Name of the drill pair that tells which copper layers are joined. */
+    const QString& ViaGroup() const { return viaGroup; }
+    /** Sets the drill pair, takes its layers when the document knows the name, and repaints. */
+    void SetViaGroup(const QString& name);
+
+    /** Whether the solder mask is open over the copper. The setter stores only. */
+    bool MaskEnabled() const { return maskEnabled; }
+    void SetMaskEnabled(bool on) { maskEnabled = on; }
+
+    /** How far the mask opening reaches beyond the copper, in scene units. */
+    float MaskClearance() const { return maskClearance; }
+    /** Sets the mask clearance and repaints. */
+    void SetMaskClearance(float clearance);
+
+    /** First and last layer that the item has copper on; equal for a surface pad. */
+    Osmirel::Layer StartLayer() const { return startLayer; }
+    Osmirel::Layer EndLayer() const { return endLayer; }
+    /** Sets both layers and repaints. */
+    void SetLayers(Osmirel::Layer start, Osmirel::Layer end);
+
+    /** The copper layers of the document that the item reaches, from the top down. */
+    QList<Osmirel::Layer> EtchLayers() const;
+
+    QString Net() const override { return net; }
+    /** Sets the net's name and repaints. */
+    void SetNet(const QString& name);
+
+    bool IsOnVisibleLayer() const override;
+    QRectF boundingRect() const override;
+    QPainterPath Outline() const override;
+
+protected:
+    void Describe(TStateText& state) const override;
+    void Draw(QPainter& painter, double pixelsPerUnit) const override;
+    double StackingHeight() const override;
+
+    /** Stores width and height without repainting. */
+    void StoreSize(const QSizeF& newSize) { size = newSize; }
+    void StoreMaskClearance(float clearance) { maskClearance = clearance; }
+
+    /** The copper's rectangle around the item's position. */
+    QRectF CopperRect() const { return {-size.width() / 2, -size.height() / 2, size.width(), size.height()}; }
+
+    /** Draws the openings of mask and paste as outlines, where those layers exist and are visible. */
+    void DrawOpening(QPainter& painter, Osmirel::Layer top, Osmirel::Layer bottom, const QPainterPath& opening) const;
+
+private:
+    QSizeF size;
+    float drill = 0;
+    TypeThermal thermal = ThermalAuto;
+    QString viaGroup;
+    bool maskEnabled = false;
+    float maskClearance = 0;
+    Osmirel::Layer startLayer = Osmirel::CopperTop;
+    Osmirel::Layer endLayer = Osmirel::CopperBottom;
+    QString net;
+};

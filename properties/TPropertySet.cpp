@@ -1,0 +1,101 @@
+#include "properties/TPropertySet.h"
+
+#include "properties/rows/TAbstractProperty.h"
+#include "properties/TPropertyWidget.h"
+#include "properties/TTreeWidget.h"
+
+#include <application/TUndoCommand.h>
+
+#include <QMetaMethod>
+
+TPropertySet::TPropertySet(const QString& setName) : name(setName) {}
+
+TPropertySet::~TPropertySet()
+{
+    // Silence all rows first: an editor that loses the focus with its row would else report half-typed text.
+    for (const QPointer<TAbstractProperty>& row : qAsConst(owned)) {
+        if (row) {
+            row->blockSignals(true);
+        }
+    }
+    const QList<QPointer<TAbstractProperty>> rows = owned;
+    for (const QPointer<TAbstractProperty>& row : rows) {
+        delete row;
+    }
+}
+
+void TPropertySet::KeyPressEvent(QKeyEvent*) {}
+
+void TPropertySet::Own(TAbstractProperty* row)
+{
+    owned.append(row);
+}
+
+void TPropertySet::AddProperty(TAbstractProperty* property)
+{
+    if (!property || properties.contains(property)) {
+        return;
+    }
+    properties.append(property);
+    if (!owned.contains(property)) {
+        Own(property);
+    }
+}
+
+QList<TAbstractProperty*> TPropertySet::Properties() const
+{
+    QList<TAbstractProperty*> rows;
+    for (const QPointer<TAbstractProperty>& row : properties) {
+        if (row) {
+            rows.append(row);
+        }
+    }
+    return rows;
+}
+
+void TPropertySet::AddToPropertyWidget(TPropertyWidget* newPanel)
+{
+    if (!newPanel) {
+        return;
+    }
+    panel = newPanel;
+    newPanel->SetTitle(name.isNull() ? QLatin1String("") : name);
+
+    // All items first and the editors then: each item that is inserted makes the tree measure every editor again.
+    TTreeWidget* tree = newPanel->Tree();
+    const QList<TAbstractProperty*> rows = Properties();
+    QList<QTreeWidgetItem*> items;
+    for (TAbstractProperty* row : rows) {
+        items.append(row);
+    }
+    tree->addTopLevelItems(items);
+
+    int rowHeight = 0; // Unknown until the first row that has an editor.
+    for (TAbstractProperty* row : rows) {
+        if (!row->Editor()) {
+            continue;
+        }
+        if (rowHeight == 0) {
+            rowHeight = tree->visualItemRect(row).height();
+        }
+        PlaceEditor(*row, rowHeight);
+    }
+    tree->resizeColumnToContents(TAbstractProperty::labelColumn);
+}
+
+void TPropertySet::PlaceEditor(TAbstractProperty& row, int height) const
+{
+    row.Editor()->setFixedHeight(height);
+    row.setFlags(Qt::ItemIsEnabled);
+    panel->Tree()->setItemWidget(&row, TAbstractProperty::editorColumn, row.Editor());
+    row.SetVisible(!row.IsHidden());
+}
+
+void TPropertySet::Emit(TUndoCommand* command)
+{
+    if (isSignalConnected(QMetaMethod::fromSignal(&TPropertySet::sigCmd))) {
+        emit sigCmd(command);
+    } else {
+        delete command;
+    }
+}

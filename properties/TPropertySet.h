@@ -1,0 +1,103 @@
+#pragma once
+
+#include <properties/Export.h>
+
+#include <graphics/TGraphicsItem.h>
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+
+class QKeyEvent;
+class TAbstractProperty;
+class TPropertyWidget;
+class TUndoCommand;
+
+/**
+ * The base of every property set: the rows that edit one selection, and the protocol by which an edit becomes an
+ * undoable command or, for items that bypass undo, a direct write.
+ *
+ * A set is made for one selection, reads it in its constructor, and is then owned by the panel that shows it. The
+ * items must outlive the last edit, not the set itself: destroying a set touches no item.
+ */
+class PROPERTIES_EXPORT TPropertySet : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** @p setName is the name that the panel's title shows, translated. */
+    explicit TPropertySet(const QString& setName);
+    ~TPropertySet() override;
+
+    /** Takes keys that the application forwards; the base ignores them. */
+    virtual void KeyPressEvent(QKeyEvent* event);
+
+    const QString& Name() const { return name; }
+
+    /** Appends a row to those shown; the set owns it. A row that was added before is not added again. */
+    void AddProperty(TAbstractProperty* property);
+
+    /** The shown rows in display order. */
+    QList<TAbstractProperty*> Properties() const;
+
+    /** Puts the rows into the panel's tree and titles the panel. Called by the panel. */
+    void AddToPropertyWidget(TPropertyWidget* panel);
+
+signals:
+    /** A new command, owned by the receiver. Without a receiver the command is deleted and nothing changes. */
+    void sigCmd(TUndoCommand* cmd);
+
+protected:
+    /** Makes a row that belongs to this set, whether or not it is shown later with `AddProperty`. */
+    template <class Row, class... Arguments>
+    Row* NewRow(Arguments&&... arguments)
+    {
+        auto* row = new Row(std::forward<Arguments>(arguments)...);
+        Own(row);
+        return row;
+    }
+
+    /**
+     * The editing protocol: makes and emits a @p Command over the items with the value as the editor gave it, or, when
+     * the first item bypasses undo, writes the value to every item just as the command would. Without items nothing
+     * happens.
+     */
+    template <class Command, class Item, class Value>
+    void Edit(const QList<Item*>& items, const Value& value)
+    {
+        using Attribute = typename Command::Attribute;
+        Edit<Command>(items, value, [converted = Attribute::FromEditor(value)](Item& item) {
+            Attribute::Write(static_cast<typename Attribute::Item&>(item), converted);
+        });
+    }
+
+    /** The editing protocol for an attribute whose direct write differs from the command: @p write is given each item.
+     */
+    template <class Command, class Item, class Value, class Write>
+    void Edit(const QList<Item*>& items, const Value& value, Write write)
+    {
+        if (items.isEmpty()) {
+            return;
+        }
+        if (!items.first()->HasTFlag(TGraphicsItem::UndoBypass)) {
+            Emit(new Command(items, value));
+            return;
+        }
+        for (Item* item : items) {
+            write(*item);
+        }
+    }
+
+    /** Emits a command. The set may be gone when this returns: its receiver can show another one. */
+    void Emit(TUndoCommand* command);
+
+private:
+    void Own(TAbstractProperty* row);
+    void PlaceEditor(TAbstractProperty& row, int height) const;
+
+    QString name;
+    QPointer<TPropertyWidget> panel;
+    // A tree that is destroyed takes its rows along, so the rows are watched.
+    QList<QPointer<TAbstractProperty>> properties; ///< The shown rows in display order.
+    QList<QPointer<TAbstractProperty>> owned;      ///< All rows, shown or not.
+};

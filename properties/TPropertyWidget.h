@@ -1,0 +1,53 @@
+#pragma once
+
+#include <properties/Export.h>
+
+#include <QPointer>
+#include <QWidget>
+
+class QTreeWidgetItem;
+class TPropertySet;
+class TTreeWidget;
+
+/**
+ * The panel: shows the rows of one property set, in a tree of labels and editors, and names the set in the title of
+ * its parent widget (the dock or window that holds the panel).
+ */
+class PROPERTIES_EXPORT TPropertyWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit TPropertyWidget(QWidget* parent);
+    /** Deletes the shown set. */
+    ~TPropertyWidget() override;
+
+    /**
+     * Deletes the shown set and shows another, which the panel owns from then on; null shows none.
+     *
+     * A set that is shown must not be given again: it is deleted like any shown set, and the panel is then empty.
+     */
+    void SetPropertySet(TPropertySet* set);
+
+    /** The shown set, null if there is none. */
+    TPropertySet* PropertySet() const;
+
+    /** The tree that holds the rows; owned by the panel. */
+    TTreeWidget* Tree() const { return tree; }
+
+    /** Puts the panel's own window title into the current language. */
+    void UpdateTranslate();
+
+    /** Titles the parent widget: "Properties", followed by the set's name if one is given. */
+    void SetTitle(const QString& setName);
+
+    QSize sizeHint() const override;
+
+private slots:
+    /** Gives the keyboard focus to the editor of a clicked row. */
+    void slotClickItem(QTreeWidgetItem* item, int column);
+
+private:
+    TTreeWidget* tree;
+    QPointer<TPropertySet> current;
+};

@@ -1,0 +1,123 @@
+#pragma once
+
+#include "properties/commands/Attributes.h"
+#include "properties/commands/TAttributeCommand.h"
+
+#include <properties/Export.h>
+
+#include <objects/TGraphicsPadItem.h>
+
+namespace Attributes {
+
+struct PadWidth : Length<TGraphicsPadItem>, OfKind<ItemType::Pad>
+{
+    static double Read(const TGraphicsPadItem& pad) { return pad.Width(); }
+    static void Write(TGraphicsPadItem& pad, double width) { pad.SetWidth(width); }
+};
+
+/** The height of a pad. Intended: its old value is the pad's width, so that undo makes the pad as high as it was wide.
+ */
+struct PadHeight : Length<TGraphicsPadItem>, OfKind<ItemType::Pad>
+{
+    static double Read(const TGraphicsPadItem& pad) { return pad.Width(); }
+    static void Write(TGraphicsPadItem& pad, double height) { pad.SetHeight(height); }
+};
+
+/** Pads whatever their type number says: intended for the texts, which are set on every pad given. */
+struct EveryPad
+{
+    static bool Accepts(const TGraphicsItem& item) { return dynamic_cast<const TGraphicsPadItem*>(&item) != nullptr; }
+};
+
+struct PadNumber : Plain<TGraphicsPadItem, QString>, EveryPad
+{
+    static QString Read(const TGraphicsPadItem& pad) { return pad.Number(); }
+    static void Write(TGraphicsPadItem& pad, const QString& number)
+    {
+        pad.SetNumber(number);
+        pad.UpdateTextPaths();
+    }
+};
+
+struct PadName : Plain<TGraphicsPadItem, QString>, EveryPad
+{
+    static QString Read(const TGraphicsPadItem& pad) { return pad.Name(); }
+    static void Write(TGraphicsPadItem& pad, const QString& name)
+    {
+        pad.SetName(name);
+        pad.UpdateTextPaths();
+    }
+};
+
+struct PadShape : Choice<TGraphicsPadItem, TGraphicsPadItem::TypePadShape>, OfKind<ItemType::Pad>
+{
+    static Value Read(const TGraphicsPadItem& pad) { return pad.PadShape(); }
+    static void Write(TGraphicsPadItem& pad, Value shape) { pad.SetPadShape(shape); }
+};
+
+/** The layer of a surface pad; the old value is the end layer, which is the start layer as well. */
+struct PadSide : Plain<TGraphicsPadItem, Osmirel::Layer>, OfKind<ItemType::Pad>
+{
+    static Osmirel::Layer Read(const TGraphicsPadItem& pad) { return pad.EndLayer(); }
+    static void Write(TGraphicsPadItem& pad, Osmirel::Layer side) { pad.SetPadSide(side); }
+};
+
+/** Whether a pad is a surface pad. */
+struct PadType : Plain<TGraphicsPadItem, bool>, OfKind<ItemType::Pad>
+{
+    static bool Read(const TGraphicsPadItem& pad) { return pad.IsSMD(); }
+    static void Write(TGraphicsPadItem& pad, bool smd) { pad.SetTypeSMD(smd); }
+};
+
+} // namespace Attributes
+
+/** Sets the width of pads in millimetres. */
+class PROPERTIES_EXPORT TCmdPadWidth
+    : public TMergingCommand<Attributes::PadWidth, CommandId::PadWidth, MergeRule::TakeOver>
+{
+public:
+    TCmdPadWidth(const QList<TGraphicsItem*>& selection, double millimetres);
+};
+
+/** Sets the height of pads in millimetres. Intended: undo sets it to the width that each pad had before. */
+class PROPERTIES_EXPORT TCmdPadHeight
+    : public TMergingCommand<Attributes::PadHeight, CommandId::PadHeight, MergeRule::TakeOver>
+{
+public:
+    TCmdPadHeight(const QList<TGraphicsItem*>& selection, double millimetres);
+};
+
+/** Sets the number of every pad given, without a look at its type number. */
+class PROPERTIES_EXPORT TCmdPadNumber : public TAttributeCommand<Attributes::PadNumber>
+{
+public:
+    TCmdPadNumber(const QList<TGraphicsItem*>& selection, const QString& number);
+};
+
+/** Sets the name of every pad given, without a look at its type number. */
+class PROPERTIES_EXPORT TCmdPadName : public TAttributeCommand<Attributes::PadName>
+{
+public:
+    TCmdPadName(const QList<TGraphicsItem*>& selection, const QString& name);
+};
+
+/** Sets the shape of pads: a value of `TGraphicsPadItem::TypePadShape`. */
+class PROPERTIES_EXPORT TCmdPadShape : public TAttributeCommand<Attributes::PadShape>
+{
+public:
+    TCmdPadShape(const QList<TGraphicsItem*>& selection, int shape);
+};
+
+/** Moves surface pads to a layer. */
+class PROPERTIES_EXPORT TCmdPadSide : public TAttributeCommand<Attributes::PadSide>
+{
+public:
+    TCmdPadSide(const QList<TGraphicsItem*>& selection, Osmirel::Layer side);
+};
+
+/** Makes pads surface pads, or pads that go through the board. */
+class PROPERTIES_EXPORT TCmdPadType : public TAttributeCommand<Attributes::PadType>
+{
+public:
+    TCmdPadType(const QList<TGraphicsItem*>& selection, bool smd);
+};

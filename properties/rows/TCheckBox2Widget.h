@@ -1,0 +1,23 @@
+#pragma once
+
+#include <properties/Export.h>
+
+#include <QWidget>
+
+class QCheckBox;
+
+/** Two labelled check boxes side by side. Every change of state is reported, one made by the program too. */
+class PROPERTIES_EXPORT TCheckBox2Widget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    TCheckBox2Widget(const QString& text1, const QString& text2, QWidget* parent);
+
+    QCheckBox* const box1;
+    QCheckBox* const box2;
+
+signals:
+    void sigChecked1(bool on);
+    void sigChecked2(bool on);
+};

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <properties/Export.h>
+
+#include <QWidget>
+
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+
+/**
+ * Shows a text as a framed label that turns into a line editor on a double click.
+ *
+ * Return and leaving the editor commit the text, Escape discards it. A commit may be reported more than once, as often
+ * as the toolkit reports the end of the edit.
+ */
+class PROPERTIES_EXPORT TLineEdit : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /** With @p markEmpty an empty text is shown on a red background. */
+    TLineEdit(const QString& text, bool markEmpty, QWidget* parent);
+
+    /** Shows a text; emits nothing. */
+    void setText(const QString& text);
+    /** The committed text, as the label shows it. */
+    QString Text() const;
+
+    void SetBackgroundColor(const QColor& color);
+
+    /** Whether a double click starts editing; true from construction. */
+    bool IsEditable() const { return editable; }
+    void SetEditable(bool on) { editable = on; }
+
+    QLabel* const label;
+    QLineEdit* const edit; ///< Hidden except while editing.
+
+signals:
+    void textChanged(const QString& text);
+
+protected:
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private slots:
+    void slotEndEdit();
+
+private:
+    void ShowLabel();
+
+    QCheckBox* const check; ///< Never shown: its style is the label's when nothing is marked.
+    bool markEmpty;
+    bool editable = true;
+};

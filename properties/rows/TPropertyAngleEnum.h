@@ -1,0 +1,23 @@
+#pragma once
+
+#include "properties/rows/TPropertyChoice.h"
+
+/** A row that picks a rotation of 0, 90, 180 or 270 degrees. */
+class PROPERTIES_EXPORT TPropertyAngleEnum : public TPropertyChoice
+{
+    Q_OBJECT
+
+public:
+    explicit TPropertyAngleEnum(const QString& label);
+
+    /** The current angle in degrees; 0 when there is none. */
+    float CurrentAngle() const;
+    /** Makes the angle current; for any other than those offered nothing happens. */
+    void SetCurrentAngle(float degrees);
+
+signals:
+    void sigAngleChanged(float degrees);
+
+private slots:
+    void slotRowChanged(int row);
+};

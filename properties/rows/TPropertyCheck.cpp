@@ -1,0 +1,27 @@
+#include "properties/rows/TPropertyCheck.h"
+
+#include "properties/rows/EditorBox.h"
+
+#include <QCheckBox>
+
+TPropertyCheck::TPropertyCheck(const QString& label) : TAbstractProperty(label, nullptr), box(new QCheckBox)
+{
+    auto* container = new QWidget;
+    SetEditor(container);
+    constexpr int leftMargin = 5;
+    EditorBox::LayOut(container, {{box, 0}})->setContentsMargins(leftMargin, 0, 0, 0);
+    container->setFocusProxy(box);
+    connect(box, SIGNAL(toggled(bool)), this, SIGNAL(sigStateChanged(bool)));
+}
+
+bool TPropertyCheck::CurrentState() const
+{
+    return box && box->isChecked();
+}
+
+void TPropertyCheck::SetCurrentState(bool on)
+{
+    if (box) {
+        box->setChecked(on);
+    }
+}

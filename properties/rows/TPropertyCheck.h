@@ -1,0 +1,23 @@
+#pragma once
+
+#include "properties/rows/TAbstractProperty.h"
+
+class QCheckBox;
+
+/** A row with one check box. Every change of state is reported, one made by the program too. */
+class PROPERTIES_EXPORT TPropertyCheck : public TAbstractProperty
+{
+    Q_OBJECT
+
+public:
+    explicit TPropertyCheck(const QString& label);
+
+    bool CurrentState() const;
+    void SetCurrentState(bool on);
+
+signals:
+    void sigStateChanged(bool on);
+
+private:
+    QPointer<QCheckBox> box;
+};

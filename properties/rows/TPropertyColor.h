@@ -1,0 +1,22 @@
+#pragma once
+
+#include "properties/rows/TPropertyChoice.h"
+
+#include <QColor>
+
+/** A row that picks a colour from a fixed palette, or "Default". The colour of an item is the item's text. */
+class PROPERTIES_EXPORT TPropertyColor : public TPropertyChoice
+{
+    Q_OBJECT
+
+public:
+    /** Shows @p current, or "Default" when it is invalid. */
+    TPropertyColor(const QString& label, const QColor& current);
+
+signals:
+    /** An invalid colour stands for "Default". */
+    void sigColorChanged(const QColor& color);
+
+private slots:
+    void slotRowChanged(int row);
+};

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "properties/rows/TPropertyChoice.h"
+
+#include <QStringList>
+
+/** A row that picks one of several texts, each of which stands for a whole number. */
+class PROPERTIES_EXPORT TPropertyEnum : public TPropertyChoice
+{
+    Q_OBJECT
+
+public:
+    /** An empty list, to be filled with `AddItem`. */
+    explicit TPropertyEnum(const QString& label);
+    /** One item for each text, with the values 0, 1, 2, … */
+    TPropertyEnum(const QString& label, QStringList texts);
+
+    void AddItem(const QString& text, int value);
+
+    /** Value of the current item; −1 when there is none. */
+    int CurrentEnum() const;
+    /** Makes the item of that value current; without such an item nothing happens. */
+    void SetCurrentEnum(int value);
+    /** Makes the item of that text current; an unknown text becomes a new first item without a value. */
+    void SetCurrentText(const QString& text);
+
+signals:
+    void sigEnumChanged(int value);
+    void sigTextChanged(const QString& text);
+
+private slots:
+    void slotRowChanged(int row);
+};

@@ -1,0 +1,31 @@
+#include "properties/rows/TPropertyFloatSpin.h"
+
+#include "properties/rows/EditorBox.h"
+
+#include <workspace/TDoubleSpinBox.h>
+
+#include <QCheckBox>
+
+TPropertyFloatSpin::TPropertyFloatSpin(const QString& label, double min, double max, double step, int decimals)
+    : TAbstractProperty(label, nullptr), spin(new TDoubleSpinBox), check(new QCheckBox(tr("En")))
+{
+    auto* box = new QWidget;
+    SetEditor(box);
+    box->setFixedHeight(EditorBox::fixedHeight);
+    EditorBox::LayOut(box, {{check, 0}, {spin, 1}});
+    box->setFocusProxy(spin);
+
+    // The decimals come first: a range is rounded to those that the box has when it is set.
+    spin->setDecimals(decimals);
+    spin->setRange(min, max);
+    spin->setSingleStep(step);
+    check->hide();
+
+    connect(spin, SIGNAL(valueChanged(double)), this, SLOT(slotDoubleToFloat(double)));
+    connect(check, SIGNAL(clicked(bool)), this, SIGNAL(sigCheckChanged(bool)));
+}
+
+void TPropertyFloatSpin::slotDoubleToFloat(double value)
+{
+    emit sigValueChanged(value);
+}

@@ -1,0 +1,50 @@
+#include "properties/rows/TPropertySize.h"
+
+#include "properties/rows/EditorBox.h"
+
+#include <workspace/TDoubleSpinBox.h>
+
+#include <QLabel>
+
+TPropertySize::TPropertySize(const QString& label, double min, double max, double step, int decimals)
+    : TAbstractProperty(label, nullptr), width(new TDoubleSpinBox), height(new TDoubleSpinBox)
+{
+    auto* box = new QWidget;
+    SetEditor(box);
+    EditorBox::LayOut(box, {{width, 1}, {new QLabel(QStringLiteral("x")), 0}, {height, 1}});
+    box->setFocusProxy(width);
+
+    for (TDoubleSpinBox* spin : {width, height}) {
+        spin->setDecimals(decimals);
+        spin->setRange(min, max);
+        spin->setSingleStep(step);
+    }
+
+    connect(width, SIGNAL(valueChanged(double)), this, SIGNAL(sigWidthChanged(double)));
+    connect(width, SIGNAL(valueChanged(double)), this, SLOT(slotWidthChanged(double)));
+    connect(height, SIGNAL(valueChanged(double)), this, SIGNAL(sigHeightChanged(double)));
+}
+
+void TPropertySize::SetSuffix(const QString& suffix)
+{
+    width->setSuffix(suffix);
+    height->setSuffix(suffix);
+}
+
+void TPropertySize::SetDoubleHeight(bool on)
+{
+    doubleHeight = on;
+    slotWidthChanged(width->value());
+}
+
+void TPropertySize::slotWidthChanged(double newWidth)
+{
+    if (height->isEnabled()) {
+        return;
+    }
+    const QPointer<TPropertySize> self(this); // A receiver may replace the set, and with it this row.
+    height->setValue(doubleHeight ? 2 * newWidth : newWidth);
+    if (self) {
+        emit sigHeightChanged(newWidth); // Intended: the last word is the width itself, in the doubled mode too.
+    }
+}

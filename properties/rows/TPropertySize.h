@@ -1,0 +1,35 @@
+#pragma once
+
+#include "properties/rows/TAbstractProperty.h"
+
+class TDoubleSpinBox;
+
+/**
+ * A row that edits a width and a height side by side, usually in millimetres.
+ *
+ * While the height box is disabled the height follows the width: it is the same, or twice as much in the doubled mode.
+ */
+class PROPERTIES_EXPORT TPropertySize : public TAbstractProperty
+{
+    Q_OBJECT
+
+public:
+    TPropertySize(const QString& label, double min, double max, double step, int decimals);
+
+    void SetSuffix(const QString& suffix);
+    /** Sets whether a height that follows the width is twice the width, and lets it follow at once. */
+    void SetDoubleHeight(bool on);
+
+    TDoubleSpinBox* const width;
+    TDoubleSpinBox* const height;
+
+signals:
+    void sigWidthChanged(double width);
+    void sigHeightChanged(double height);
+
+private slots:
+    void slotWidthChanged(double newWidth);
+
+private:
+    bool doubleHeight = false;
+};

@@ -1,0 +1,20 @@
+#include "properties/rows/TPropertyText.h"
+
+#include "properties/rows/EditorBox.h"
+#include "properties/rows/TLineEdit.h"
+
+#include <QCheckBox>
+
+TPropertyText::TPropertyText(const QString& label, const QString& text, bool markEmpty)
+    : TAbstractProperty(label, nullptr),
+      line(new TLineEdit(text, markEmpty, nullptr)),
+      visible(new QCheckBox(tr("Show")))
+{
+    auto* box = new QWidget;
+    SetEditor(box);
+    EditorBox::LayOut(box, {{line, 1}, {visible, 0}});
+    visible->hide();
+    visible->setChecked(true);
+    connect(line, SIGNAL(textChanged(QString)), this, SIGNAL(sigTextChanged(QString)));
+    connect(visible, SIGNAL(clicked(bool)), this, SIGNAL(sigVisibleChanged(bool)));
+}

@@ -1,0 +1,263 @@
+#include "properties/sets/TPropertySetForPad.h"
+
+#include "properties/commands/TCmdMask.h"
+#include "properties/commands/TCmdPad.h"
+#include "properties/commands/TCmdVia.h"
+#include "properties/rows/TPropertySize.h"
+#include "properties/sets/RowValues.h"
+#include "properties/sets/TDisplayUnit.h"
+
+#include <workspace/TDoubleSpinBox.h>
+
+struct TPropertySetForPad::Values
+{
+    // Shown as the first pad's, whether or not the others agree: that is intended.
+    double width = 0;
+    double height = 0;
+    double drill = 0;
+    double maskClearance = 0;
+    double pasteClearance = 0;
+    // Shown when all pads agree.
+    TGathered<QString> number;
+    TGathered<QString> name;
+    TGathered<Osmirel::Layer> side;
+    TGathered<bool> smd;
+    TGathered<TGraphicsPadItem::TypePadShape> shape;
+    TGathered<TGraphicsViaItem::TypeThermal> thermal;
+    TGathered<bool> maskEnable;
+    TGathered<bool> pasteEnable;
+
+    void AddFirst(const TGraphicsPadItem& pad);
+    void Add(const TGraphicsPadItem& pad);
+};
+
+void TPropertySetForPad::Values::AddFirst(const TGraphicsPadItem& pad)
+{
+    width = pad.Width();
+    height = pad.Height();
+    drill = Attributes::ViaDrill::Read(pad);
+    maskClearance = Attributes::MaskClearance::Read(pad);
+    pasteClearance = Attributes::PasteClearance::Read(pad);
+}
+
+void TPropertySetForPad::Values::Add(const TGraphicsPadItem& pad)
+{
+    number.Add(pad.Number());
+    name.Add(pad.Name());
+    side.Add(pad.StartLayer());
+    smd.Add(Attributes::PadType::Read(pad));
+    shape.Add(Attributes::PadShape::Read(pad));
+    thermal.Add(Attributes::ViaThermal::Read(pad));
+    maskEnable.Add(Attributes::MaskEnable::Read(pad));
+    pasteEnable.Add(Attributes::PasteEnable::Read(pad));
+}
+
+TPropertySetForPad::TPropertySetForPad(const QList<TGraphicsItem*>& selection, const QList<Osmirel::Layer>& layers)
+    : TPropertySet(selection.size() == 1 ? tr("Pad") : tr("Pads"))
+{
+    Values values;
+    for (TGraphicsItem* item : selection) {
+        if (item->type() != ItemType::Pad) {
+            continue;
+        }
+        const auto& pad = static_cast<const TGraphicsPadItem&>(*item);
+        if (items.isEmpty()) {
+            values.AddFirst(pad);
+        }
+        values.Add(pad);
+        hasPackagePad = hasPackagePad || pad.parentItem();
+        items.append(item);
+    }
+    if (!items.isEmpty()) {
+        MakeRows(values, layers);
+    }
+}
+
+void TPropertySetForPad::MakeRows(const Values& values, const QList<Osmirel::Layer>& layers)
+{
+    MakeTextRows(values);
+    MakeCopperRows(values, layers);
+    MakeOpeningRows(values);
+
+    for (TAbstractProperty* row : std::initializer_list<TAbstractProperty*>{
+             number, hasPackagePad ? name.data() : nullptr, size, type, drill, side, shape, thermal, mask, paste}) {
+        AddProperty(row);
+    }
+}
+
+void TPropertySetForPad::MakeTextRows(const Values& values)
+{
+    number = NewRow<TPropertyText>(tr("Number:"), QString(), false);
+    RowValues::Show(*number, values.number);
+    number->line->SetEditable(!hasPackagePad);
+    connect(number, SIGNAL(sigTextChanged(QString)), this, SLOT(SetNumber(QString)));
+
+    name = NewRow<TPropertyText>(tr("Name:"), QString(), false);
+    RowValues::Show(*name, values.name);
+    name->line->SetEditable(false);
+    connect(name, SIGNAL(sigTextChanged(QString)), this, SLOT(SetName(QString)));
+}
+
+void TPropertySetForPad::MakeCopperRows(const Values& values, const QList<Osmirel::Layer>& layers)
+{
+    const TDisplayUnit unit(*items.first());
+
+    drill = NewRow<TPropertyFloatSpin>(tr("Drill:"), 0.1, 10.0, 0.1, 1);
+    drill->spin->setValue(unit.FromScene(values.drill));
+    drill->spin->setSuffix(unit.Suffix());
+    connect(drill, SIGNAL(sigValueChanged(qreal)), this, SLOT(SetDrill(double)));
+
+    side = NewRow<TPropertyLayer>(tr("Side:"), layers, items.first()->Workspace());
+    RowValues::Show(*side, values.side);
+    side->SetEnabled(!hasPackagePad);
+    connect(side, SIGNAL(sigLayerChanged(Osmirel::Layer)), this, SLOT(SetSide(Osmirel::Layer)));
+
+    type = NewRow<TPropertyEnum>(tr("Type:"));
+    type->AddItem(tr("SMT"), 1);
+    type->AddItem(tr("THT"), 0);
+    RowValues::Show(*type, values.smd);
+    type->SetEnabled(!hasPackagePad);
+    if (values.smd.AllEqual()) {
+        TypeChanged(values.smd.First() ? 1 : 0);
+    } else {
+        drill->SetVisible(false);
+        side->SetVisible(false);
+    }
+    connect(type, SIGNAL(sigEnumChanged(int)), this, SLOT(SetType(int)));
+    connect(type, SIGNAL(sigEnumChanged(int)), this, SLOT(TypeChanged(int)));
+
+    size = NewRow<TPropertySize>(tr("Size (W x H):"), 0.1, 100.0, 0.1, 2);
+    size->SetSuffix(unit.Suffix());
+
+    shape = NewRow<TPropertyEnum>(tr("Shape:"));
+    shape->AddItem(tr("Round"), TGraphicsPadItem::ShapeRound);
+    shape->AddItem(tr("Rectangle"), TGraphicsPadItem::ShapeRectangle);
+    shape->AddItem(tr("Obround"), TGraphicsPadItem::ShapeObround);
+    shape->AddItem(tr("Octagon"), TGraphicsPadItem::ShapeOctagon);
+    RowValues::Show(*shape, values.shape);
+    if (values.shape.AllEqual()) {
+        ShapeChanged(values.shape.First());
+    }
+    connect(shape, SIGNAL(sigEnumChanged(int)), this, SLOT(SetShape(int)));
+    connect(shape, SIGNAL(sigEnumChanged(int)), this, SLOT(ShapeChanged(int)));
+
+    // After the shape: the height of a locked row follows its width, and the row shows the first pad's own height.
+    size->width->setValue(unit.FromScene(values.width));
+    size->height->setValue(unit.FromScene(values.height));
+    connect(size, SIGNAL(sigWidthChanged(double)), this, SLOT(SetWidth(double)));
+    connect(size, SIGNAL(sigHeightChanged(double)), this, SLOT(SetHeight(double)));
+
+    thermal = NewRow<TPropertyEnum>(tr("Thermal:"));
+    thermal->AddItem(tr("By pour"), TGraphicsViaItem::ThermalAuto);
+    thermal->AddItem(tr("Yes"), TGraphicsViaItem::ThermalYes);
+    thermal->AddItem(tr("No"), TGraphicsViaItem::ThermalNo);
+    RowValues::Show(*thermal, values.thermal);
+    connect(thermal, SIGNAL(sigEnumChanged(int)), this, SLOT(SetThermal(int)));
+}
+
+void TPropertySetForPad::MakeOpeningRows(const Values& values)
+{
+    const TDisplayUnit unit(*items.first());
+
+    mask = NewRow<TPropertyFloatSpin>(tr("Mask:"), 0.0, 10.0, 0.1, 2);
+    RowValues::ShowCheck(*mask, values.maskEnable);
+    mask->spin->setValue(unit.FromScene(values.maskClearance));
+    mask->spin->setSuffix(unit.Suffix());
+    mask->SetEnabled(!hasPackagePad);
+    connect(mask, SIGNAL(sigValueChanged(qreal)), this, SLOT(SetMaskClearance(double)));
+    connect(mask, SIGNAL(sigCheckChanged(bool)), this, SLOT(SetMaskEnable(bool)));
+
+    paste = NewRow<TPropertyFloatSpin>(tr("Paste:"), 0.0, 10.0, 0.1, 2);
+    RowValues::ShowCheck(*paste, values.pasteEnable);
+    paste->spin->setValue(unit.FromScene(values.pasteClearance));
+    paste->spin->setSuffix(unit.Suffix());
+    paste->SetEnabled(!hasPackagePad);
+    connect(paste, SIGNAL(sigValueChanged(qreal)), this, SLOT(SetPasteClearance(double)));
+    connect(paste, SIGNAL(sigCheckChanged(bool)), this, SLOT(SetPasteEnable(bool)));
+}
+
+void TPropertySetForPad::SetNumber(QString newNumber)
+{
+    Edit<TCmdPadNumber>(items, newNumber);
+}
+
+void TPropertySetForPad::SetName(QString) {}
+
+void TPropertySetForPad::SetType(int smd)
+{
+    Edit<TCmdPadType>(items, smd != 0, [](TGraphicsItem& item) {
+        // Intended: the direct write makes surface pads whatever type was chosen.
+        static_cast<TGraphicsPadItem&>(item).SetTypeSMD(true);
+    });
+}
+
+void TPropertySetForPad::SetDrill(double newDrill)
+{
+    // The direct write reaches surface pads too, which the command leaves alone.
+    Edit<TCmdViaDrill>(items, newDrill);
+}
+
+void TPropertySetForPad::SetSide(Osmirel::Layer newSide)
+{
+    Edit<TCmdPadSide>(items, newSide);
+}
+
+void TPropertySetForPad::SetShape(int newShape)
+{
+    Edit<TCmdPadShape>(items, newShape);
+}
+
+void TPropertySetForPad::SetWidth(double width)
+{
+    Edit<TCmdPadWidth>(items, width);
+}
+
+void TPropertySetForPad::SetHeight(double height)
+{
+    Edit<TCmdPadHeight>(items, height);
+}
+
+void TPropertySetForPad::SetThermal(int newThermal)
+{
+    Edit<TCmdViaTherm>(items, newThermal);
+}
+
+void TPropertySetForPad::SetMaskEnable(bool on)
+{
+    Edit<TCmdMaskEn>(items, on);
+}
+
+void TPropertySetForPad::SetMaskClearance(double clearance)
+{
+    const auto own = static_cast<float>(Units::SceneFromMillimetres(clearance));
+    Edit<TCmdMaskClearance>(items, clearance, [own](TGraphicsItem& item) {
+        // Intended: the direct write goes through the pad's own setter, the command through the via's.
+        static_cast<TGraphicsPadItem&>(item).SetMaskClearance(own);
+    });
+}
+
+void TPropertySetForPad::SetPasteEnable(bool on)
+{
+    Edit<TCmdPasteEn>(items, on);
+}
+
+void TPropertySetForPad::SetPasteClearance(double clearance)
+{
+    Edit<TCmdPasteClearance>(items, clearance);
+}
+
+void TPropertySetForPad::TypeChanged(int smd)
+{
+    if (drill && side) {
+        drill->SetVisible(smd == 0);
+        side->SetVisible(smd == 1);
+    }
+}
+
+void TPropertySetForPad::ShapeChanged(int newShape)
+{
+    if (size) {
+        size->height->setEnabled(newShape == TGraphicsPadItem::ShapeRectangle);
+        size->SetDoubleHeight(newShape == TGraphicsPadItem::ShapeObround);
+    }
+}

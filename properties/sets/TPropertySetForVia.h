@@ -1,0 +1,38 @@
+#pragma once
+
+#include "properties/TPropertySet.h"
+
+#include <QStringList>
+
+class TPropertyEnum;
+class TPropertyFloatSpin;
+
+/** Edits vias. The rows show the first via's values; only the drill pair and the mask enable are compared. */
+class PROPERTIES_EXPORT TPropertySetForVia : public TPropertySet
+{
+    Q_OBJECT
+
+public:
+    /** Keeps the vias of @p items; @p viaGroups are the names of the drill pairs that the board defines. */
+    TPropertySetForVia(QList<TGraphicsItem*> items, QStringList viaGroups);
+
+public slots:
+    /** Lengths in millimetres. */
+    void SetDiam(qreal diameter);
+    void SetDrill(qreal diameter);
+    void SetThermal(int thermal);
+    void SetGroup(QString group);
+    void SetMaskEnable(bool on);
+    void SetMaskClearance(qreal clearance);
+
+private:
+    struct Values;
+    void MakeRows(const Values& values, const QStringList& viaGroups);
+
+    QList<TGraphicsItem*> items;
+    QPointer<TPropertyFloatSpin> diam;
+    QPointer<TPropertyFloatSpin> drill;
+    QPointer<TPropertyEnum> thermal;
+    QPointer<TPropertyEnum> group;
+    QPointer<TPropertyFloatSpin> mask;
+};
