@@ -42,6 +42,13 @@ void TPropertySet::AddProperty(TAbstractProperty* property)
     }
 }
 
+void TPropertySet::AddProperties(std::initializer_list<TAbstractProperty*> rows)
+{
+    for (TAbstractProperty* row : rows) {
+        AddProperty(row);
+    }
+}
+
 QList<TAbstractProperty*> TPropertySet::Properties() const
 {
     QList<TAbstractProperty*> rows;

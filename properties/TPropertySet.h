@@ -37,6 +37,9 @@ public:
     /** Appends a row to those shown; the set owns it. A row that was added before is not added again. */
     void AddProperty(TAbstractProperty* property);
 
+    /** Appends several rows in display order; a null among them stands for a row that is not shown. */
+    void AddProperties(std::initializer_list<TAbstractProperty*> rows);
+
     /** The shown rows in display order. */
     QList<TAbstractProperty*> Properties() const;
 

@@ -4,16 +4,34 @@
 #include "properties/rows/TPropertyEnum.h"
 #include "properties/rows/TPropertyFloatSpin.h"
 #include "properties/rows/TPropertyLayer.h"
+#include "properties/rows/TPropertySize.h"
 #include "properties/rows/TPropertyText.h"
 #include "properties/sets/TGathered.h"
+
+#include <workspace/TDoubleSpinBox.h>
 
 #include <QCheckBox>
 
 /**
- * Gives a row the value that all items share. When they differ the row stays at its editor's default (no current
- * item, an empty text, an unticked box) and is marked as mixed.
+ * Gives rows their values. A row for a value that all items share stays at its editor's default (no current item, an
+ * empty text, an unticked box) when they differ, and is marked as mixed.
  */
 namespace RowValues {
+
+/** A number, in the unit that the suffix names. */
+inline void Show(TPropertyFloatSpin& row, double value, const QString& suffix)
+{
+    row.spin->setSuffix(suffix);
+    row.spin->setValue(value);
+}
+
+/** A size, in the unit that the suffix names. The modes of a row whose height follows its width are set before. */
+inline void Show(TPropertySize& row, double width, double height, const QString& suffix)
+{
+    row.SetSuffix(suffix);
+    row.width->setValue(width);
+    row.height->setValue(height);
+}
 
 template <class Row, class Show>
 void ShowIfShared(Row& row, bool allEqual, Show show)

@@ -1,9 +1,7 @@
 #include "properties/sets/TPropertySetForHole.h"
 
 #include "properties/commands/TCmdPrimitive.h"
-#include "properties/rows/TPropertyFloatSpin.h"
-
-#include <workspace/TDoubleSpinBox.h>
+#include "properties/sets/RowValues.h"
 
 TPropertySetForHole::TPropertySetForHole(const QList<TGraphicsItem*>& items) : TPropertySet(tr("Hole"))
 {
@@ -15,8 +13,8 @@ TPropertySetForHole::TPropertySetForHole(const QList<TGraphicsItem*>& items) : T
         }
     }
     diam = NewRow<TPropertyFloatSpin>(tr("Diameter:"), 0.1, 99.0, 0.1, 2);
-    diam->spin->setSuffix(tr(" mm")); // Intended: always millimetres, whatever unit the workspace shows.
-    diam->spin->setValue(Units::MillimetresFromScene(static_cast<double>(diameter)));
+    // Intended: always millimetres, whatever unit the workspace shows.
+    RowValues::Show(*diam, Units::MillimetresFromScene(static_cast<double>(diameter)), tr(" mm"));
     connect(diam, SIGNAL(sigValueChanged(qreal)), this, SLOT(slotDiam(double)));
     AddProperty(diam);
 }

@@ -3,11 +3,8 @@
 #include "properties/commands/TCmdMask.h"
 #include "properties/commands/TCmdPad.h"
 #include "properties/commands/TCmdVia.h"
-#include "properties/rows/TPropertySize.h"
 #include "properties/sets/RowValues.h"
 #include "properties/sets/TDisplayUnit.h"
-
-#include <workspace/TDoubleSpinBox.h>
 
 struct TPropertySetForPad::Values
 {
@@ -79,10 +76,8 @@ void TPropertySetForPad::MakeRows(const Values& values, const QList<Osmirel::Lay
     MakeCopperRows(values, layers);
     MakeOpeningRows(values);
 
-    for (TAbstractProperty* row : std::initializer_list<TAbstractProperty*>{
-             number, hasPackagePad ? name.data() : nullptr, size, type, drill, side, shape, thermal, mask, paste}) {
-        AddProperty(row);
-    }
+    TAbstractProperty* const nameOfPackagePad = hasPackagePad ? name.data() : nullptr;
+    AddProperties({number, nameOfPackagePad, size, type, drill, side, shape, thermal, mask, paste});
 }
 
 void TPropertySetForPad::MakeTextRows(const Values& values)
@@ -103,8 +98,7 @@ void TPropertySetForPad::MakeCopperRows(const Values& values, const QList<Osmire
     const TDisplayUnit unit(*items.first());
 
     drill = NewRow<TPropertyFloatSpin>(tr("Drill:"), 0.1, 10.0, 0.1, 1);
-    drill->spin->setValue(unit.FromScene(values.drill));
-    drill->spin->setSuffix(unit.Suffix());
+    RowValues::Show(*drill, unit.FromScene(values.drill), unit.Suffix());
     connect(drill, SIGNAL(sigValueChanged(qreal)), this, SLOT(SetDrill(double)));
 
     side = NewRow<TPropertyLayer>(tr("Side:"), layers, items.first()->Workspace());
@@ -127,8 +121,6 @@ void TPropertySetForPad::MakeCopperRows(const Values& values, const QList<Osmire
     connect(type, SIGNAL(sigEnumChanged(int)), this, SLOT(TypeChanged(int)));
 
     size = NewRow<TPropertySize>(tr("Size (W x H):"), 0.1, 100.0, 0.1, 2);
-    size->SetSuffix(unit.Suffix());
-
     shape = NewRow<TPropertyEnum>(tr("Shape:"));
     shape->AddItem(tr("Round"), TGraphicsPadItem::ShapeRound);
     shape->AddItem(tr("Rectangle"), TGraphicsPadItem::ShapeRectangle);
@@ -142,8 +134,7 @@ void TPropertySetForPad::MakeCopperRows(const Values& values, const QList<Osmire
     connect(shape, SIGNAL(sigEnumChanged(int)), this, SLOT(ShapeChanged(int)));
 
     // After the shape: the height of a locked row follows its width, and the row shows the first pad's own height.
-    size->width->setValue(unit.FromScene(values.width));
-    size->height->setValue(unit.FromScene(values.height));
+    RowValues::Show(*size, unit.FromScene(values.width), unit.FromScene(values.height), unit.Suffix());
     connect(size, SIGNAL(sigWidthChanged(double)), this, SLOT(SetWidth(double)));
     connect(size, SIGNAL(sigHeightChanged(double)), this, SLOT(SetHeight(double)));
 
@@ -161,16 +152,14 @@ void TPropertySetForPad::MakeOpeningRows(const Values& values)
 
     mask = NewRow<TPropertyFloatSpin>(tr("Mask:"), 0.0, 10.0, 0.1, 2);
     RowValues::ShowCheck(*mask, values.maskEnable);
-    mask->spin->setValue(unit.FromScene(values.maskClearance));
-    mask->spin->setSuffix(unit.Suffix());
+    RowValues::Show(*mask, unit.FromScene(values.maskClearance), unit.Suffix());
     mask->SetEnabled(!hasPackagePad);
     connect(mask, SIGNAL(sigValueChanged(qreal)), this, SLOT(SetMaskClearance(double)));
     connect(mask, SIGNAL(sigCheckChanged(bool)), this, SLOT(SetMaskEnable(bool)));
 
     paste = NewRow<TPropertyFloatSpin>(tr("Paste:"), 0.0, 10.0, 0.1, 2);
     RowValues::ShowCheck(*paste, values.pasteEnable);
-    paste->spin->setValue(unit.FromScene(values.pasteClearance));
-    paste->spin->setSuffix(unit.Suffix());
+    RowValues::Show(*paste, unit.FromScene(values.pasteClearance), unit.Suffix());
     paste->SetEnabled(!hasPackagePad);
     connect(paste, SIGNAL(sigValueChanged(qreal)), this, SLOT(SetPasteClearance(double)));
     connect(paste, SIGNAL(sigCheckChanged(bool)), this, SLOT(SetPasteEnable(bool)));

@@ -5,35 +5,48 @@
 #include "properties/sets/RowValues.h"
 #include "properties/sets/TDisplayUnit.h"
 
-#include <workspace/TDoubleSpinBox.h>
-
 struct TPropertySetForVia::Values
 {
-    TGathered<double> diameter;
-    TGathered<double> drill;
-    TGathered<TGraphicsViaItem::TypeThermal> thermal;
+    // Shown as the first via's, whether or not the others agree: that is intended.
+    double diameter = 0;
+    double drill = 0;
+    double maskClearance = 0;
+    TGraphicsViaItem::TypeThermal thermal = TGraphicsViaItem::ThermalAuto;
+    // Shown when all vias agree.
     TGathered<QString> group;
     TGathered<bool> maskEnable;
-    TGathered<double> maskClearance;
+
+    void AddFirst(const TGraphicsViaItem& via);
+    void Add(const TGraphicsViaItem& via);
 };
+
+void TPropertySetForVia::Values::AddFirst(const TGraphicsViaItem& via)
+{
+    diameter = Attributes::ViaDiameter::Read(via);
+    drill = Attributes::ViaDrill::Read(via);
+    maskClearance = Attributes::MaskClearance::Read(via);
+    thermal = Attributes::ViaThermal::Read(via);
+}
+
+void TPropertySetForVia::Values::Add(const TGraphicsViaItem& via)
+{
+    group.Add(Attributes::ViaGroup::Read(via));
+    maskEnable.Add(Attributes::MaskEnable::Read(via));
+}
 
 TPropertySetForVia::TPropertySetForVia(QList<TGraphicsItem*> selection, QStringList viaGroups)
     : TPropertySet(tr("Vias"))
 {
     Values values;
     for (TGraphicsItem* item : qAsConst(selection)) {
-        if (!Attributes::ViaDiameter::Accepts(*item)) {
+        if (item->type() != ItemType::Via) {
             continue;
         }
         const auto& via = static_cast<const TGraphicsViaItem&>(*item);
         if (items.isEmpty()) {
-            values.diameter.Add(Attributes::ViaDiameter::Read(via));
-            values.drill.Add(Attributes::ViaDrill::Read(via));
-            values.thermal.Add(Attributes::ViaThermal::Read(via));
-            values.maskClearance.Add(Attributes::MaskClearance::Read(via));
+            values.AddFirst(via);
         }
-        values.group.Add(Attributes::ViaGroup::Read(via));
-        values.maskEnable.Add(Attributes::MaskEnable::Read(via));
+        values.Add(via);
         items.append(item);
     }
     if (!items.isEmpty()) {
@@ -46,19 +59,16 @@ void TPropertySetForVia::MakeRows(const Values& values, const QStringList& viaGr
     const TDisplayUnit unit(*items.first());
 
     diam = NewRow<TPropertyFloatSpin>(tr("Diameter:"), 0.1, 10.0, 0.1, 1);
-    diam->spin->setValue(unit.FromScene(values.diameter.First()));
-    diam->spin->setSuffix(unit.Suffix());
+    RowValues::Show(*diam, unit.FromScene(values.diameter), unit.Suffix());
     connect(diam, SIGNAL(sigValueChanged(qreal)), this, SLOT(SetDiam(qreal)));
 
     drill = NewRow<TPropertyFloatSpin>(tr("Drill:"), 0.1, 10.0, 0.1, 1);
-    drill->spin->setValue(unit.FromScene(values.drill.First()));
-    drill->spin->setSuffix(unit.Suffix());
+    RowValues::Show(*drill, unit.FromScene(values.drill), unit.Suffix());
     connect(drill, SIGNAL(sigValueChanged(qreal)), this, SLOT(SetDrill(qreal)));
 
     thermal = NewRow<TPropertyEnum>(tr("Thermal:"), QStringList{tr("Auto"), tr("Yes"), tr("No")});
     // Intended: the drill pairs decide whether the first via's thermal connection is shown.
-    RowValues::ShowIfShared(*thermal, values.group.AllEqual(),
-                            [&] { thermal->SetCurrentEnum(values.thermal.First()); });
+    RowValues::ShowIfShared(*thermal, values.group.AllEqual(), [&] { thermal->SetCurrentEnum(values.thermal); });
     connect(thermal, SIGNAL(sigEnumChanged(int)), this, SLOT(SetThermal(int)));
 
     group = NewRow<TPropertyEnum>(tr("Drill pair:"), viaGroups);
@@ -66,15 +76,12 @@ void TPropertySetForVia::MakeRows(const Values& values, const QStringList& viaGr
     connect(group, SIGNAL(sigTextChanged(QString)), this, SLOT(SetGroup(QString)));
 
     mask = NewRow<TPropertyFloatSpin>(tr("Mask:"), 0.1, 10.0, 0.1, 1);
-    mask->spin->setSuffix(unit.Name()); // Intended: no blank before this unit.
     RowValues::ShowCheck(*mask, values.maskEnable);
-    mask->spin->setValue(unit.FromScene(values.maskClearance.First()));
+    RowValues::Show(*mask, unit.FromScene(values.maskClearance), unit.Name()); // Intended: no blank before this unit.
     connect(mask, SIGNAL(sigValueChanged(qreal)), this, SLOT(SetMaskClearance(qreal)));
     connect(mask, SIGNAL(sigCheckChanged(bool)), this, SLOT(SetMaskEnable(bool)));
 
-    for (TAbstractProperty* row : std::initializer_list<TAbstractProperty*>{diam, drill, thermal, group, mask}) {
-        AddProperty(row);
-    }
+    AddProperties({diam, drill, thermal, group, mask});
 }
 
 void TPropertySetForVia::SetDiam(qreal diameter)

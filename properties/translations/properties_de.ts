@@ -1,0 +1,241 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>TLineEdit</name>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
+    </message>
+</context>
+<context>
+    <name>TPropertyColor</name>
+    <message>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+</context>
+<context>
+    <name>TPropertyFloatSpin</name>
+    <message>
+        <source>En</source>
+        <translation>An</translation>
+    </message>
+</context>
+<context>
+    <name>TPropertyLayer</name>
+    <message>
+        <source>Layer %1</source>
+        <translation>Lage %1</translation>
+    </message>
+</context>
+<context>
+    <name>TPropertyPadShape</name>
+    <message>
+        <source>Round</source>
+        <translation>Rund</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Quadrat</translation>
+    </message>
+    <message>
+        <source>Octangle</source>
+        <translation>Achteck</translation>
+    </message>
+    <message>
+        <source>Obround</source>
+        <translation>Langrund</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rechteck</translation>
+    </message>
+    <message>
+        <source>Octangle(long)</source>
+        <translation>Achteck (lang)</translation>
+    </message>
+</context>
+<context>
+    <name>TPropertyPenStyle</name>
+    <message>
+        <source>Solid</source>
+        <translation>Durchgezogen</translation>
+    </message>
+    <message>
+        <source>Dash</source>
+        <translation>Gestrichelt</translation>
+    </message>
+    <message>
+        <source>Dot</source>
+        <translation>Gepunktet</translation>
+    </message>
+    <message>
+        <source>Dash dot</source>
+        <translation>Strich-Punkt</translation>
+    </message>
+    <message>
+        <source>Dash dot dot</source>
+        <translation>Strich-Punkt-Punkt</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+</context>
+<context>
+    <name>TPropertySetForHole</name>
+    <message>
+        <source>Hole</source>
+        <translation>Bohrung</translation>
+    </message>
+    <message>
+        <source>Diameter:</source>
+        <translation>Durchmesser:</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+</context>
+<context>
+    <name>TPropertySetForPad</name>
+    <message>
+        <source>Pad</source>
+        <translation>Pad</translation>
+    </message>
+    <message>
+        <source>Pads</source>
+        <translation>Pads</translation>
+    </message>
+    <message>
+        <source>Number:</source>
+        <translation>Nummer:</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Drill:</source>
+        <translation>Bohrung:</translation>
+    </message>
+    <message>
+        <source>Side:</source>
+        <translation>Seite:</translation>
+    </message>
+    <message>
+        <source>Type:</source>
+        <translation>Typ:</translation>
+    </message>
+    <message>
+        <source>SMT</source>
+        <translation>SMT</translation>
+    </message>
+    <message>
+        <source>THT</source>
+        <translation>THT</translation>
+    </message>
+    <message>
+        <source>Size (W x H):</source>
+        <translation>Größe (B x H):</translation>
+    </message>
+    <message>
+        <source>Shape:</source>
+        <translation>Form:</translation>
+    </message>
+    <message>
+        <source>Round</source>
+        <translation>Rund</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rechteck</translation>
+    </message>
+    <message>
+        <source>Obround</source>
+        <translation>Langrund</translation>
+    </message>
+    <message>
+        <source>Octagon</source>
+        <translation>Achteck</translation>
+    </message>
+    <message>
+        <source>Thermal:</source>
+        <translation>Wärmefalle:</translation>
+    </message>
+    <message>
+        <source>By pour</source>
+        <translation>Wie Fläche</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>Mask:</source>
+        <translation>Lötstopp:</translation>
+    </message>
+    <message>
+        <source>Paste:</source>
+        <translation>Lotpaste:</translation>
+    </message>
+</context>
+<context>
+    <name>TPropertySetForVia</name>
+    <message>
+        <source>Vias</source>
+        <translation>Durchkontaktierungen</translation>
+    </message>
+    <message>
+        <source>Diameter:</source>
+        <translation>Durchmesser:</translation>
+    </message>
+    <message>
+        <source>Drill:</source>
+        <translation>Bohrung:</translation>
+    </message>
+    <message>
+        <source>Thermal:</source>
+        <translation>Wärmefalle:</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>Drill pair:</source>
+        <translation>Bohrpaar:</translation>
+    </message>
+    <message>
+        <source>Mask:</source>
+        <translation>Lötstopp:</translation>
+    </message>
+</context>
+<context>
+    <name>TPropertyText</name>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
+    </message>
+</context>
+<context>
+    <name>TPropertyWidget</name>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+</context>
+</TS>
