@@ -5,9 +5,12 @@
 
 TPropertyChoice::TPropertyChoice(const QString& label) : TAbstractProperty(label, nullptr)
 {
-    auto* box = new QComboBox;
-    SetEditor(box);
-    connect(box, SIGNAL(currentIndexChanged(int)), this, SLOT(slotRowChanged(int)));
+    SetEditor(new QComboBox);
+}
+
+void TPropertyChoice::ReportRowChanges()
+{
+    connect(Box(), SIGNAL(currentIndexChanged(int)), this, SLOT(slotRowChanged(int)));
 }
 
 QComboBox* TPropertyChoice::Box() const

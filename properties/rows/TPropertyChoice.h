@@ -23,6 +23,9 @@ public:
 protected:
     explicit TPropertyChoice(const QString& label);
 
+    /** Connects changes of the current item to the kind's slot, which exists only from the kind's constructor on. */
+    void ReportRowChanges();
+
     /** Adds an item at the end of the list; the current item stays. */
     void Append(const QString& text, const QVariant& data, const QIcon& icon = {});
     /** Adds an item on top of the list and makes it the current one, which is a change like any other. */
