@@ -2,6 +2,7 @@
 
 TPropertyAngleEnum::TPropertyAngleEnum(const QString& label) : TPropertyChoice(label)
 {
+    ReportRowChanges();
     for (const int degrees : {0, 90, 180, 270}) {
         Append(QString::number(degrees), static_cast<double>(degrees));
     }

@@ -19,6 +19,7 @@ const QStringList& Palette()
 
 TPropertyColor::TPropertyColor(const QString& label, const QColor& current) : TPropertyChoice(label)
 {
+    ReportRowChanges();
     Append(tr("Default"), QVariant());
     QStringList names = Palette();
     // Intended: the palette is in upper case and the name of a colour in lower case, so that a current colour which

@@ -2,7 +2,10 @@
 
 #include <QComboBox>
 
-TPropertyEnum::TPropertyEnum(const QString& label) : TPropertyChoice(label) {}
+TPropertyEnum::TPropertyEnum(const QString& label) : TPropertyChoice(label)
+{
+    ReportRowChanges();
+}
 
 TPropertyEnum::TPropertyEnum(const QString& label, QStringList texts) : TPropertyEnum(label)
 {

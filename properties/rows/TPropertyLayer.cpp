@@ -9,6 +9,7 @@
 TPropertyLayer::TPropertyLayer(const QString& label, QList<Osmirel::Layer> layers, TWorkspace* ws)
     : TPropertyChoice(label)
 {
+    ReportRowChanges();
     SetLayers(ws, layers);
 }
 

@@ -2,6 +2,7 @@
 
 TPropertyPadShape::TPropertyPadShape(const QString& label) : TPropertyChoice(label)
 {
+    ReportRowChanges();
     Append(tr("Round"), TGraphicsPadItem::ShapeRound);
     Append(tr("Square"), TGraphicsPadItem::ShapeSquare);
     Append(tr("Octangle"), TGraphicsPadItem::ShapeOctagon);

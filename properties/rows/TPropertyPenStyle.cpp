@@ -22,6 +22,7 @@ QIcon Sample(Qt::PenStyle style)
 
 TPropertyPenStyle::TPropertyPenStyle(const QString& label) : TPropertyChoice(label)
 {
+    ReportRowChanges();
     Box()->setIconSize(sampleSize);
     Append(tr("Solid"), static_cast<int>(Qt::SolidLine), Sample(Qt::SolidLine));
     Append(tr("Dash"), static_cast<int>(Qt::DashLine), Sample(Qt::DashLine));
