@@ -45,7 +45,6 @@ configure()
         { [[ -z $designs ]] || cached "$1" "PROPERTIES_DESIGNS_DIR:PATH=$designs"; } && return
 
     [[ -z $designs ]] || options+=("-DPROPERTIES_DESIGNS_DIR:PATH=$designs")
-    ! command -v ccache >/dev/null || options+=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
     cmake --fresh --preset "$1" -S "$root" "${options[@]}"
 }
 

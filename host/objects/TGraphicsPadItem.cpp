@@ -5,6 +5,7 @@
 
 #include <QFont>
 #include <QPainter>
+#include <QtMath>
 
 #include <algorithm>
 #include <cmath>
@@ -133,7 +134,7 @@ void TGraphicsPadItem::SetExtraCopper(const QPainterPath& path)
 
 QRectF TGraphicsPadItem::boundingRect() const
 {
-    const double slant = (taper.width() + taper.height()) / 2;
+    const double slant = (std::abs(taper.width()) + std::abs(taper.height())) / 2;
     const double margin =
         std::max({0.0, static_cast<double>(MaskClearance()), static_cast<double>(pasteClearance)}) + slant;
     const QRectF copper = OffsetCopperRect() | extraCopper.boundingRect();
@@ -146,12 +147,8 @@ QRectF TGraphicsPadItem::boundingRect() const
 
 QPainterPath TGraphicsPadItem::Outline() const
 {
-    QPainterPath path = CopperGrownBy(0);
-    if (!extraCopper.isEmpty()) {
-        path.addPath(extraCopper);
-        path.setFillRule(Qt::WindingFill);
-    }
-    return path;
+    const QPainterPath path = CopperGrownBy(0);
+    return extraCopper.isEmpty() ? path : path.united(extraCopper);
 }
 
 QPainterPath TGraphicsPadItem::CopperGrownBy(double margin) const
@@ -223,11 +220,15 @@ void TGraphicsPadItem::DrawNumber(QPainter& painter, double pixelsPerUnit) const
         const QRectF extent = text.boundingRect();
         numberPath = QTransform::fromScale(0.01, 0.01).translate(-extent.center().x(), -extent.center().y()).map(text);
     }
-    const double fitting = std::min(textHeight, 0.8 * box.width() / std::max(numberPath.boundingRect().width(), 0.1));
+    // The number reads upright however the package is turned; it is never seen from behind.
+    const double turned = std::fmod(parentItem() ? parentItem()->rotation() + rotation() : rotation(), 360.0);
+    const double radians = qDegreesToRadians(turned);
+    const double room = std::min(box.width() / std::max(std::abs(std::cos(radians)), 1e-6),
+                                 box.height() / std::max(std::abs(std::sin(radians)), 1e-6));
+    const double fitting = std::min(textHeight, 0.8 * room / std::max(numberPath.boundingRect().width(), 0.1));
     painter.save();
     painter.translate(box.center());
-    // The number reads upright however the package is turned; it is never seen from behind.
-    painter.rotate(-std::fmod(parentItem() ? parentItem()->rotation() + rotation() : rotation(), 360.0));
+    painter.rotate(-turned);
     painter.scale(fitting, fitting);
     painter.setPen(Qt::NoPen);
     painter.setBrush(DrawingStyle::textOnCopper);

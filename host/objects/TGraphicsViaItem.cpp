@@ -95,7 +95,7 @@ void TGraphicsViaItem::Draw(QPainter& painter, double) const
     painter.drawEllipse(QPointF(), shownDrill / 2, shownDrill / 2);
 
     if (maskEnabled) {
-        const double margin = static_cast<double>(maskClearance);
+        const auto margin = static_cast<double>(maskClearance);
         QPainterPath opening;
         opening.addEllipse(CopperRect().adjusted(-margin, -margin, margin, margin));
         DrawOpening(painter, Osmirel::MaskTop, Osmirel::MaskBottom, opening);

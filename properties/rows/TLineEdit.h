@@ -19,8 +19,8 @@ class PROPERTIES_EXPORT TLineEdit : public QWidget
     Q_OBJECT
 
 public:
-    /** With @p markEmpty an empty text is shown on a red background. */
-    TLineEdit(const QString& text, bool markEmpty, QWidget* parent);
+    /** With @p markWhenEmpty an empty text is shown on a red background. */
+    TLineEdit(const QString& text, bool markWhenEmpty, QWidget* parent);
 
     /** Shows a text; emits nothing. */
     void setText(const QString& text);

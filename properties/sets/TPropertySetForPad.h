@@ -19,8 +19,8 @@ class PROPERTIES_EXPORT TPropertySetForPad : public TPropertySet
     Q_OBJECT
 
 public:
-    /** Keeps the pads of @p items; @p layers are those that the "Side:" row offers. */
-    TPropertySetForPad(const QList<TGraphicsItem*>& items, const QList<Osmirel::Layer>& layers);
+    /** Keeps the pads of @p selection; @p layers are those that the "Side:" row offers. */
+    TPropertySetForPad(const QList<TGraphicsItem*>& selection, const QList<Osmirel::Layer>& layers);
 
 public slots:
     /** Lengths in millimetres. */

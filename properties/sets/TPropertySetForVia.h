@@ -13,8 +13,8 @@ class PROPERTIES_EXPORT TPropertySetForVia : public TPropertySet
     Q_OBJECT
 
 public:
-    /** Keeps the vias of @p items; @p viaGroups are the names of the drill pairs that the board defines. */
-    TPropertySetForVia(QList<TGraphicsItem*> items, QStringList viaGroups);
+    /** Keeps the vias of @p selection; @p viaGroups are the names of the drill pairs that the board defines. */
+    TPropertySetForVia(QList<TGraphicsItem*> selection, QStringList viaGroups);
 
 public slots:
     /** Lengths in millimetres. */
