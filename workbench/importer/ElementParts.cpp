@@ -1,0 +1,77 @@
+#include "workbench/importer/ElementParts.h"
+
+#include "workbench/importer/Measures.h"
+#include "workbench/importer/TBoardDraft.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr std::pair<const char*, char> writtenOutCharacters[] = {
+    {"slash", '/'}, {"backslash", '\\'}, {"lt", '<'},     {"gt", '>'},       {"colon", ':'},
+    {"comma", ','}, {"bar", '|'},        {"quote", '\''}, {"dblquote", '"'}, {"brace", '{'},
+    {"space", ' '}, {"dollar", '$'},     {"tab", '\t'},   {"return", '\n'},
+};
+
+/** Braces behind these characters mark up text: `~{RESET}` has a bar above it. */
+bool MarksUp(QChar character)
+{
+    return QLatin1String("~$^_").contains(character);
+}
+
+QString WithoutWrittenOutCharacters(QString name)
+{
+    for (int open = name.indexOf(QLatin1Char('{')); open >= 0; open = name.indexOf(QLatin1Char('{'), open + 1)) {
+        const int close = name.indexOf(QLatin1Char('}'), open);
+        if (close < 0 || (open > 0 && MarksUp(name[open - 1]))) {
+            continue;
+        }
+        const QStringRef word = name.midRef(open + 1, close - open - 1);
+        const auto known = std::find_if(std::begin(writtenOutCharacters), std::end(writtenOutCharacters),
+                                        [&word](const auto& entry) { return word == QLatin1String(entry.first); });
+        if (known != std::end(writtenOutCharacters)) {
+            name.replace(open, close - open + 1, QLatin1Char(known->second));
+        }
+    }
+    return name;
+}
+
+} // namespace
+
+QPointF ElementParts::Position(const TSexpression& list)
+{
+    return {Measures::SceneLength(list.Value(0).Millionths()), Measures::SceneLength(list.Value(1).Millionths())};
+}
+
+qint64 ElementParts::Angle(const TSexpression& at)
+{
+    const std::optional<TSexpression> angle = at.FindValue(2);
+    return angle ? angle->Millionths() : 0;
+}
+
+QString ElementParts::UserName(const TSexpression& atom)
+{
+    const QString name = atom.Text();
+    return name == QLatin1String("~") ? QString() : WithoutWrittenOutCharacters(name);
+}
+
+QString ElementParts::NetName(const TSexpression& element, const TBoardDraft& draft)
+{
+    constexpr int noNet = 0;
+    const std::optional<TSexpression> net = element.Find("net");
+    const int number = net ? net->Value(0).Integer() : noNet;
+    if (number == noNet) {
+        return {};
+    }
+    const auto named = draft.nets.constFind(number);
+    if (named == draft.nets.constEnd()) {
+        net->Fail(QStringLiteral("net %1 is not in the board's list of nets").arg(number));
+    }
+    return *named;
+}
+
+bool ElementParts::CoversBothSides(const TSexpression& tenting)
+{
+    return tenting.HasFlag("front") && tenting.HasFlag("back");
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QPointF>
+#include <QString>
+
+class TSexpression;
+struct TBoardDraft;
+
+/** What elements of many kinds have in common. */
+namespace ElementParts {
+
+/** The place that a list such as `(at x y ...)` names, in scene units. */
+QPointF Position(const TSexpression& list);
+
+/** The angle that ends `(at x y [angle])`, counterclockwise, in millionths of a degree; 0 if there is none. */
+qint64 Angle(const TSexpression& at);
+
+/** A name of the user's, with the written-out characters such as `{slash}` as themselves; a lone `~` is empty. */
+QString UserName(const TSexpression& atom);
+
+/** The name of the net that an element is on, by its `(net number ...)`; empty if it is on none. */
+QString NetName(const TSexpression& element, const TBoardDraft& draft);
+
+/** Whether a list such as `(tenting front back)` or `(tenting (front yes) (back no))` names both sides. */
+bool CoversBothSides(const TSexpression& tenting);
+
+} // namespace ElementParts

@@ -1,0 +1,72 @@
+// The tables and settings of a board that its items refer to.
+
+#include "workbench/importer/ElementParts.h"
+#include "workbench/importer/ElementReaders.h"
+#include "workbench/importer/TBoardDraft.h"
+
+namespace {
+
+/** The measure of a list such as `(name measure)`, unchanged if there is no such list. */
+template <class Measure>
+void ReadExtent(const TSexpression& element, std::string_view name, Measure& measure)
+{
+    if (const std::optional<TSexpression> list = element.Find(name)) {
+        measure = list->Value(0).Extent();
+    }
+}
+
+/** Whether the mask covers vias: newer files name the covered sides, older ones have a switch for both. */
+bool AreViasTented(const TSexpression& setup)
+{
+    if (const std::optional<TSexpression> tenting = setup.Find("tenting")) {
+        return ElementParts::CoversBothSides(*tenting);
+    }
+    const std::optional<TSexpression> plotting = setup.Find("pcbplotparams");
+    return !plotting || !plotting->Find("viasonmask") || !plotting->HasFlag("viasonmask");
+}
+
+} // namespace
+
+void ElementReaders::ReadLayers(const TSexpression& layers, TBoardDraft& draft)
+{
+    draft.layers.Read(layers, *draft.board->LayerManager());
+    draft.DrillPair(Osmirel::CopperTop, Osmirel::CopperBottom);
+}
+
+void ElementReaders::ReadSetup(const TSexpression& setup, TBoardDraft& draft)
+{
+    TPadDefaults& pads = draft.padDefaults;
+    if (const std::optional<TSexpression> margin = setup.Find("pad_to_mask_clearance")) {
+        pads.maskMargin = margin->Value(0).Millionths();
+    }
+    if (const std::optional<TSexpression> margin = setup.Find("pad_to_paste_clearance")) {
+        pads.pasteMargin = margin->Value(0).Millionths();
+    }
+    if (const std::optional<TSexpression> ratio = setup.Find("pad_to_paste_clearance_ratio")) {
+        pads.pasteRatio = ratio->Value(0).Decimal();
+    }
+    ReadExtent(setup, "via_drill", draft.viaDrills.via);
+    ReadExtent(setup, "uvia_drill", draft.viaDrills.microVia);
+    draft.viasTented = AreViasTented(setup);
+}
+
+void ElementReaders::ReadNet(const TSexpression& net, TBoardDraft& draft)
+{
+    const int number = net.Value(0).Integer();
+    if (draft.nets.contains(number)) {
+        net.Fail(QStringLiteral("net %1 is listed twice").arg(number));
+    }
+    draft.nets.insert(number, ElementParts::UserName(net.Value(1)));
+}
+
+void ElementReaders::ReadNetClass(const TSexpression& netClass, TBoardDraft& draft)
+{
+    TViaDrills drills;
+    ReadExtent(netClass, "via_drill", drills.via);
+    ReadExtent(netClass, "uvia_drill", drills.microVia);
+    for (const TSexpression value : netClass) {
+        if (value.Name() == "add_net") {
+            draft.netViaDrills.insert(ElementParts::UserName(value.Value(0)), drills);
+        }
+    }
+}

@@ -1,0 +1,55 @@
+#include "workbench/importer/ElementParts.h"
+#include "workbench/importer/ElementReaders.h"
+#include "workbench/importer/Measures.h"
+#include "workbench/importer/TFootprintFrame.h"
+
+#include <objects/TGraphicsPackageItem.h>
+
+namespace {
+
+/** The footprint's name with its library behind an at sign, where the file has it in front of a colon. */
+QString PackageName(const QString& libraryName)
+{
+    const int colon = libraryName.indexOf(QLatin1Char(':'));
+    return colon < 0 ? libraryName : libraryName.mid(colon + 1) + QLatin1Char('@') + libraryName.left(colon);
+}
+
+/** Takes over a text or property that says the component's reference designator or value. */
+void ReadField(const TSexpression& field, TGraphicsPackageItem& package)
+{
+    const bool isText = field.Name() == "fp_text";
+    const QString kind = field.Value(0).Text();
+    if (kind == (isText ? QLatin1String("reference") : QLatin1String("Reference"))) {
+        package.SetRefDes(ElementParts::UserName(field.Value(1)));
+    } else if (kind == (isText ? QLatin1String("value") : QLatin1String("Value"))) {
+        package.SetValue(ElementParts::UserName(field.Value(1)));
+    }
+}
+
+} // namespace
+
+void ElementReaders::ReadFootprint(const TSexpression& footprint, TBoardDraft& draft)
+{
+    const TSexpression at = footprint.Get("at");
+    const bool isOnBottom = draft.layers.Find(footprint.Get("layer").Value(0).Text()) == Osmirel::CopperBottom;
+
+    auto package = std::make_unique<TGraphicsPackageItem>();
+    const TFootprintFrame frame{*package, ElementParts::Angle(at), ReadPadDefaults(footprint, draft.padDefaults)};
+    package->SetWorkspace(draft.board->Workspace());
+    package->SetLayer(isOnBottom ? Osmirel::PackagesBottom : Osmirel::PackagesTop);
+    package->SetPackageName(PackageName(footprint.Value(0).Text()));
+    package->setPos(ElementParts::Position(at));
+    package->setRotation(Measures::SceneRotation(frame.angle));
+    package->SetTFlag(TGraphicsItem::Lock, footprint.HasFlag("locked", 1));
+    for (const TSexpression element : footprint) {
+        if (element.Name() == "pad") {
+            ReadPad(element, frame, draft);
+            continue;
+        }
+        if (element.Name() == "fp_text" || element.Name() == "property") {
+            ReadField(element, *package);
+        }
+        CountElement(element, draft);
+    }
+    draft.board->Attach(std::move(package));
+}
