@@ -7,6 +7,8 @@
 #include <QPen>
 #include <QStyleOptionGraphicsItem>
 
+#include <algorithm>
+
 TGraphicsItem::TGraphicsItem(QGraphicsItem* parent) : QGraphicsItem(parent)
 {
     setFlag(ItemIsSelectable);
@@ -87,9 +89,18 @@ void TGraphicsItem::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QW
     if (!IsOnVisibleLayer()) {
         return;
     }
-    Draw(*painter, QStyleOptionGraphicsItem::levelOfDetailFromTransform(painter->worldTransform()));
+    const double pixelsPerUnit = QStyleOptionGraphicsItem::levelOfDetailFromTransform(painter->worldTransform());
+    const QRectF extent = boundingRect();
+    const double pixels = std::max(extent.width(), extent.height()) * pixelsPerUnit;
+    constexpr double smallestDetailed = 3;
+    constexpr double smallestWithBoldHighlight = 12;
+    if (pixels < smallestDetailed) {
+        painter->fillRect(extent, isSelected() ? QColor(Qt::white) : MainColor());
+        return;
+    }
+    Draw(*painter, pixelsPerUnit);
     if (isSelected()) {
-        QPen highlight(Qt::white, 2);
+        QPen highlight(Qt::white, pixels < smallestWithBoldHighlight ? 1 : 2);
         highlight.setCosmetic(true);
         painter->setPen(highlight);
         painter->setBrush(QColor(255, 255, 255, 70));

@@ -83,6 +83,9 @@ protected:
     /** Adds the attributes of the kind to the state line; derived classes call their base first. */
     virtual void Describe(TStateText& state) const;
 
+    /** The colour that the item is drawn in for the most part: all that is seen of it when it is small. */
+    virtual QColor MainColor() const { return Color(); }
+
     /** Draws the item; @p pixelsPerUnit tells what detail can be seen. Called only when it is visible. */
     virtual void Draw(QPainter& painter, double pixelsPerUnit) const = 0;
 

@@ -32,6 +32,7 @@ TStateText& TStateText::Add(const char* name, const QString& text)
     quoted.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
     quoted.replace(QLatin1Char('"'), QLatin1String("\\\""));
     quoted.replace(QLatin1Char('\n'), QLatin1String("\\n"));
+    quoted.replace(QLatin1Char('\r'), QLatin1String("\\r"));
     Append(name, QLatin1Char('"') + quoted + QLatin1Char('"'));
     return *this;
 }

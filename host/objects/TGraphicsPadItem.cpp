@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -138,11 +139,25 @@ QRectF TGraphicsPadItem::boundingRect() const
     const double margin =
         std::max({0.0, static_cast<double>(MaskClearance()), static_cast<double>(pasteClearance)}) + slant;
     const QRectF copper = OffsetCopperRect() | extraCopper.boundingRect();
-    const auto diameter = static_cast<double>(Drill());
-    const double holeWidth = diameter + drillStretch.width();
-    const double holeHeight = diameter + drillStretch.height();
-    return copper.adjusted(-margin, -margin, margin, margin)
-           | QRectF(-holeWidth / 2, -holeHeight / 2, holeWidth, holeHeight);
+    return copper.adjusted(-margin, -margin, margin, margin) | HoleRect(std::numeric_limits<double>::max());
+}
+
+QRectF TGraphicsPadItem::OffsetCopperRect() const
+{
+    QRectF box = CopperRect();
+    if (padShape == ShapeSquare) {
+        box.setHeight(box.width());
+        box.moveCenter(QPointF());
+    }
+    return box.translated(copperOffset);
+}
+
+QRectF TGraphicsPadItem::HoleRect(double diameter) const
+{
+    const double shown = std::min({diameter, Width(), Height()});
+    const double width = shown + drillStretch.width();
+    const double height = shown + drillStretch.height();
+    return {-width / 2, -height / 2, width, height};
 }
 
 QPainterPath TGraphicsPadItem::Outline() const
@@ -154,10 +169,6 @@ QPainterPath TGraphicsPadItem::Outline() const
 QPainterPath TGraphicsPadItem::CopperGrownBy(double margin) const
 {
     QRectF box = OffsetCopperRect();
-    if (padShape == ShapeSquare) {
-        box.setHeight(box.width());
-        box.moveCenter(copperOffset);
-    }
     box.adjust(-margin, -margin, margin, margin);
     const double shorterSide = std::min(box.width(), box.height());
     switch (padShape) {
@@ -178,7 +189,7 @@ QPainterPath TGraphicsPadItem::CopperGrownBy(double margin) const
 void TGraphicsPadItem::Draw(QPainter& painter, double pixelsPerUnit) const
 {
     painter.setPen(Qt::NoPen);
-    painter.setBrush(!IsSMD() && !AltColor().isValid() ? DrawingStyle::plating : Color());
+    painter.setBrush(MainColor());
     painter.drawPath(Outline());
     DrawHole(painter);
     if (MaskEnabled()) {
@@ -198,11 +209,11 @@ void TGraphicsPadItem::DrawHole(QPainter& painter) const
     if (IsSMD() || diameter <= 0) {
         return;
     }
-    const double width = diameter + drillStretch.width();
-    const double height = diameter + drillStretch.height();
+    const QRectF hole = HoleRect(diameter);
+    const double radius = std::min(hole.width(), hole.height()) / 2;
     painter.setPen(Qt::NoPen);
     painter.setBrush(DrawingStyle::hole);
-    painter.drawRoundedRect(QRectF(-width / 2, -height / 2, width, height), diameter / 2, diameter / 2);
+    painter.drawRoundedRect(hole, radius, radius);
 }
 
 void TGraphicsPadItem::DrawNumber(QPainter& painter, double pixelsPerUnit) const

@@ -85,7 +85,11 @@ private:
     /** Stores one value of the geometry, repaints before and after. */
     template <class Value>
     void StoreGeometry(Value& field, const Value& value);
-    QRectF OffsetCopperRect() const { return CopperRect().translated(copperOffset); }
+    /** The shape's rectangle around its offset. */
+    QRectF OffsetCopperRect() const;
+    /** The hole's rectangle for a drill diameter: drawn no wider than the copper, since a drill is set without notice.
+     */
+    QRectF HoleRect(double diameter) const;
     QPainterPath CopperGrownBy(double margin) const;
     void DrawHole(QPainter& painter) const;
     void DrawNumber(QPainter& painter, double pixelsPerUnit) const;

@@ -25,10 +25,8 @@ void TGraphicsViaItem::SetViaGroup(const QString& name)
 {
     viaGroup = name;
     const TDrillPair* pair = Workspace() ? Workspace()->Layers().DrillPair(name) : nullptr;
-    if (pair) {
-        startLayer = pair->first;
-        endLayer = pair->last;
-    }
+    startLayer = pair ? pair->first : Osmirel::CopperTop;
+    endLayer = pair ? pair->last : Osmirel::CopperBottom;
     Refresh();
 }
 
@@ -82,12 +80,20 @@ QPainterPath TGraphicsViaItem::Outline() const
     return path;
 }
 
+QColor TGraphicsViaItem::MainColor() const
+{
+    if (startLayer == endLayer || AltColor().isValid()) {
+        return Color();
+    }
+    const auto [top, bottom] = std::minmax(startLayer, endLayer);
+    const bool isThrough = top <= Osmirel::CopperTop && bottom >= Osmirel::CopperBottom;
+    return isThrough ? DrawingStyle::plating : DrawingStyle::blindPlating;
+}
+
 void TGraphicsViaItem::Draw(QPainter& painter, double) const
 {
-    const bool isThrough = startLayer == Osmirel::CopperTop && endLayer == Osmirel::CopperBottom;
-    const QColor plating = isThrough ? DrawingStyle::plating : DrawingStyle::blindPlating;
     painter.setPen(Qt::NoPen);
-    painter.setBrush(AltColor().isValid() ? AltColor() : plating);
+    painter.setBrush(MainColor());
     painter.drawEllipse(CopperRect());
 
     const double shownDrill = std::min({static_cast<double>(drill), Width(), Height()});

@@ -30,7 +30,8 @@ public:
 
     /** Name of the drill pair that tells which copper layers are joined. */
     const QString& ViaGroup() const { return viaGroup; }
-    /** Sets the drill pair, takes its layers when the document knows the name, and repaints. */
+    /** Sets the drill pair, takes its layers, and repaints. A name that the document does not know goes through the
+     *  whole board. */
     void SetViaGroup(const QString& name);
 
     /** Whether the solder mask is open over the copper. The setter stores only. */
@@ -63,6 +64,8 @@ protected:
     void Describe(TStateText& state) const override;
     void Draw(QPainter& painter, double pixelsPerUnit) const override;
     double StackingHeight() const override;
+    /** Plating for copper of several layers, the layer's colour for a surface pad. */
+    QColor MainColor() const override;
 
     /** Stores width and height without repainting. */
     void StoreSize(const QSizeF& newSize) { size = newSize; }

@@ -23,6 +23,9 @@ Osmirel::Layer TLayerManager::LayerId(const QString& name) const
 QList<Osmirel::Layer> TLayerManager::CopperLayers(Osmirel::Layer from, Osmirel::Layer to) const
 {
     QList<Osmirel::Layer> copper;
+    if (!Osmirel::IsCopper(from) && !Osmirel::IsCopper(to)) {
+        return copper;
+    }
     const auto [first, last] = std::minmax(from, to);
     for (auto layer = layers.lowerBound(first); layer != layers.cend() && layer.key() <= last; ++layer) {
         if (Osmirel::IsCopper(layer.key())) {

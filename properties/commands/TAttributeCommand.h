@@ -1,8 +1,7 @@
 #pragma once
 
 #include "properties/commands/CommandIds.h"
-
-#include <application/TUndoCommand.h>
+#include "properties/commands/TReversibleCommand.h"
 
 #include <QList>
 #include <QVector>
@@ -26,29 +25,12 @@
  * items the command does nothing. Construction, `redo` and `undo` are linear in the items.
  */
 template <class AttributeOfItem>
-class TAttributeCommand : public TUndoCommand
+class TAttributeCommand : public TReversibleCommand
 {
 public:
     using Attribute = AttributeOfItem;
     using Item = typename Attribute::Item;
     using Value = typename Attribute::Value;
-
-    /** Writes the new value to every kept item, in order. */
-    void redo() override
-    {
-        for (Item* item : items) {
-            Attribute::Write(*item, newValue);
-        }
-    }
-
-    /** Writes back to every kept item its own old value, in order. */
-    void undo() override
-    {
-        auto oldValue = oldValues.constBegin();
-        for (Item* item : items) {
-            Attribute::Write(*item, *oldValue++);
-        }
-    }
 
 protected:
     /** Keeps the accepted ones of @p given with their current values; @p value is as an item holds it. */
@@ -63,6 +45,23 @@ protected:
                 items.append(item);
                 oldValues.append(Attribute::Read(*item));
             }
+        }
+    }
+
+    /** Writes the new value to every kept item, in order. */
+    void Do() override
+    {
+        for (Item* item : items) {
+            Attribute::Write(*item, newValue);
+        }
+    }
+
+    /** Writes back to every kept item its own old value, in order. */
+    void Undo() override
+    {
+        auto oldValue = oldValues.constBegin();
+        for (Item* item : items) {
+            Attribute::Write(*item, *oldValue++);
         }
     }
 

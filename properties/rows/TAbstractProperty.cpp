@@ -10,7 +10,14 @@ TAbstractProperty::~TAbstractProperty()
 {
     // An editor that loses the focus when its tree lets go of it must not speak through a row that is half gone.
     blockSignals(true);
-    if (editor && !editor->parent()) {
+    if (!editor) {
+        return;
+    }
+    editor->disconnect(this);
+    for (QWidget* part : editor->findChildren<QWidget*>()) {
+        part->disconnect(this);
+    }
+    if (!editor->parent()) {
         delete editor;
     }
 }

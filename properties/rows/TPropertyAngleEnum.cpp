@@ -20,7 +20,7 @@ void TPropertyAngleEnum::SetCurrentAngle(float degrees)
 
 void TPropertyAngleEnum::slotRowChanged(int row)
 {
-    if (row >= 0) {
+    if (HasItem(row)) {
         emit sigAngleChanged(DataAt(row).toFloat());
     }
 }

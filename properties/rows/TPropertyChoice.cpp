@@ -57,6 +57,12 @@ void TPropertyChoice::SetCurrentData(const QVariant& data)
     }
 }
 
+bool TPropertyChoice::HasItem(int row) const
+{
+    const QComboBox* box = Box();
+    return box && row >= 0 && row < box->count();
+}
+
 QVariant TPropertyChoice::DataAt(int row) const
 {
     const QComboBox* box = Box();

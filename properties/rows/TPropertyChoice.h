@@ -33,6 +33,8 @@ protected:
     /** Makes the item with that user data current; without such an item nothing happens. */
     void SetCurrentData(const QVariant& data);
 
+    /** Whether there is an item at this index: what a kind asks before it reports a change. */
+    bool HasItem(int row) const;
     /** User data of an item, invalid for an index that is none. */
     QVariant DataAt(int row) const;
     /** User data of the current item, invalid when there is none. */

@@ -38,7 +38,7 @@ TPropertyColor::TPropertyColor(const QString& label, const QColor& current) : TP
 
 void TPropertyColor::slotRowChanged(int row)
 {
-    if (row < 0) {
+    if (!HasItem(row)) {
         return;
     }
     QColor color;

@@ -44,7 +44,7 @@ void TPropertyEnum::SetCurrentText(const QString& text)
 
 void TPropertyEnum::slotRowChanged(int row)
 {
-    if (row < 0) {
+    if (!HasItem(row)) {
         return;
     }
     const QString text = Box()->itemText(row);

@@ -52,7 +52,7 @@ void TPropertyLayer::SetCurrentLayer(Osmirel::Layer layer)
 
 void TPropertyLayer::slotRowChanged(int row)
 {
-    if (row >= 0) {
+    if (HasItem(row)) {
         emit sigLayerChanged(static_cast<Osmirel::Layer>(DataAt(row).toInt()));
     }
 }

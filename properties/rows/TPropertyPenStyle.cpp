@@ -44,7 +44,7 @@ void TPropertyPenStyle::SetCurrentPenStyle(Qt::PenStyle style)
 
 void TPropertyPenStyle::slotRowChanged(int row)
 {
-    if (row >= 0) {
+    if (HasItem(row)) {
         emit sigPenStyleChanged(static_cast<Qt::PenStyle>(DataAt(row).toInt()));
     }
 }

@@ -1,0 +1,119 @@
+#include "tests/workbench/PanelCells.h"
+
+#include "properties/rows/TLineEdit.h"
+#include "properties/rows/TPropertyChoice.h"
+#include "properties/rows/TPropertyFloatSpin.h"
+#include "properties/rows/TPropertySize.h"
+#include "properties/rows/TPropertyText.h"
+#include "properties/TPropertySet.h"
+
+#include <workspace/TDoubleSpinBox.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+
+namespace Test {
+
+PanelCell::PanelCell(const QString& cellName, QWidget* editor, bool rowShown, bool partEditable)
+    : name(cellName), widget(editor), shown(rowShown), editable(partEditable)
+{}
+
+bool PanelCell::CanBeEdited() const
+{
+    return shown && editable && widget->isEnabled();
+}
+
+double PanelCell::Number() const
+{
+    return qobject_cast<QDoubleSpinBox*>(widget)->value();
+}
+
+QString PanelCell::Describe() const
+{
+    const bool enabled = widget->isEnabled() && editable;
+    const QString state = QStringLiteral("%1 %2 %3 ")
+                              .arg(name, shown ? QStringLiteral("shown") : QStringLiteral("hidden"),
+                                   enabled ? QStringLiteral("enabled") : QStringLiteral("disabled"));
+    if (const auto* spin = qobject_cast<QDoubleSpinBox*>(widget)) {
+        return state + QString::number(spin->value(), 'f', spin->decimals());
+    }
+    if (const auto* box = qobject_cast<QComboBox*>(widget)) {
+        return state + QStringLiteral("%1 of %2").arg(box->currentIndex()).arg(box->count());
+    }
+    if (const auto* check = qobject_cast<QCheckBox*>(widget)) {
+        return state + (check->isChecked() ? QStringLiteral("[x]") : QStringLiteral("[ ]"));
+    }
+    return state + QLatin1Char('"') + qobject_cast<TLineEdit*>(widget)->Text() + QLatin1Char('"');
+}
+
+void PanelCell::Enter(double number) const
+{
+    qobject_cast<QDoubleSpinBox*>(widget)->setValue(number);
+}
+
+void PanelCell::Choose(int option) const
+{
+    qobject_cast<QComboBox*>(widget)->setCurrentIndex(option);
+}
+
+void PanelCell::Click() const
+{
+    qobject_cast<QCheckBox*>(widget)->click();
+}
+
+void PanelCell::Type(const QString& text) const
+{
+    const auto* line = qobject_cast<TLineEdit*>(widget);
+    QTest::mouseDClick(line->label, Qt::LeftButton);
+    line->edit->selectAll();
+    QTest::keyClick(line->edit, Qt::Key_Delete);
+    line->edit->insert(text); // as an input method does, which has all characters
+    QTest::keyClick(line->edit, Qt::Key_Return);
+}
+
+bool PanelCell::GiveAnotherValue() const
+{
+    if (auto* spin = qobject_cast<QDoubleSpinBox*>(widget)) {
+        const double step = 3 * spin->singleStep();
+        Enter(spin->value() + (spin->value() + step > spin->maximum() ? -step : step));
+    } else if (const auto* box = qobject_cast<QComboBox*>(widget)) {
+        const int other = box->currentIndex() < 0 ? box->count() - 1 : (box->currentIndex() + 1) % box->count();
+        if (other == box->currentIndex()) {
+            return false;
+        }
+        Choose(other);
+    } else if (qobject_cast<QCheckBox*>(widget)) {
+        Click();
+    } else {
+        Type(qobject_cast<TLineEdit*>(widget)->Text() + QStringLiteral("x"));
+    }
+    return true;
+}
+
+std::vector<PanelCell> PanelCells(const TPropertySet& set)
+{
+    std::vector<PanelCell> cells;
+    for (const TAbstractProperty* row : set.Properties()) {
+        const QString label = row->text(TAbstractProperty::labelColumn);
+        const bool shown = row->treeWidget() && !row->QTreeWidgetItem::isHidden();
+        if (const auto* number = qobject_cast<const TPropertyFloatSpin*>(row)) {
+            cells.emplace_back(label, number->spin, shown);
+            if (!number->check->isHidden()) {
+                cells.emplace_back(label + QStringLiteral("check"), number->check, shown);
+            }
+        } else if (const auto* size = qobject_cast<const TPropertySize*>(row)) {
+            cells.emplace_back(label + QStringLiteral("width"), size->width, shown);
+            cells.emplace_back(label + QStringLiteral("height"), size->height, shown);
+        } else if (const auto* text = qobject_cast<const TPropertyText*>(row)) {
+            cells.emplace_back(label, text->line, shown, text->line->IsEditable());
+        } else if (const auto* choice = dynamic_cast<const TPropertyChoice*>(row)) {
+            cells.emplace_back(label, choice->Box(), shown);
+        }
+    }
+    return cells;
+}
+
+} // namespace Test

@@ -1,0 +1,120 @@
+#include "tests/workbench/PanelSession.h"
+
+#include "properties/TPropertySet.h"
+#include "workbench/Kinds.h"
+
+#include <application/TUndoCommand.h>
+
+namespace Test {
+
+PanelSession::PanelSession(std::unique_ptr<TBoard> edited, PanelWindow& shownIn)
+    : board(std::move(edited)), items(board->Items()), model(*board), window(shownIn)
+{}
+
+PanelSession::~PanelSession()
+{
+    window.panel->SetPropertySet(nullptr);
+}
+
+std::vector<PanelCell> PanelSession::Cells() const
+{
+    const TPropertySet* set = window.panel->PropertySet();
+    return set ? PanelCells(*set) : std::vector<PanelCell>();
+}
+
+void PanelSession::Show(const QVector<int>& selection)
+{
+    QList<TGraphicsItem*> selected;
+    for (const int item : selection) {
+        selected.append(items.at(item));
+    }
+    std::unique_ptr<TPropertySet> set = Kinds::MakePropertySet(selected, *board);
+    if (set) {
+        connect(set.get(), SIGNAL(sigCmd(TUndoCommand*)), this, SLOT(Push(TUndoCommand*)));
+    }
+    window.Show(set.release());
+    model.Show(selection);
+}
+
+void PanelSession::Push(TUndoCommand* command)
+{
+    stack.push(command);
+}
+
+void PanelSession::Enter(int cell, double number)
+{
+    Cells().at(static_cast<std::size_t>(cell)).Enter(number);
+    model.Enter(cell, number);
+}
+
+void PanelSession::Choose(int cell, int option)
+{
+    Cells().at(static_cast<std::size_t>(cell)).Choose(option);
+    model.Choose(cell, option);
+}
+
+void PanelSession::Click(int cell)
+{
+    Cells().at(static_cast<std::size_t>(cell)).Click();
+    model.Click(cell);
+}
+
+void PanelSession::Type(int cell, const QString& text)
+{
+    const int before = stack.index();
+    Cells().at(static_cast<std::size_t>(cell)).Type(text);
+    // The text is reported once at least, and again as often as the toolkit finds the edit finished.
+    model.Type(cell, text, std::max(1, stack.index() - before));
+}
+
+void PanelSession::SetBypass(int item, bool on)
+{
+    items.at(item)->SetTFlag(TGraphicsItem::UndoBypass, on);
+    model.SetBypass(item, on);
+}
+
+void PanelSession::Undo()
+{
+    stack.undo();
+    model.Undo();
+}
+
+void PanelSession::Redo()
+{
+    stack.redo();
+    model.Redo();
+}
+
+QString PanelSession::Disagreement() const
+{
+    const auto differ = [](const QString& what, const QString& actual, const QString& expected) {
+        return QStringLiteral("%1 is\n  %2\nand should be\n  %3").arg(what, actual, expected);
+    };
+    if (board->Dump() != model.Dump()) {
+        for (int item = 0; item < items.size(); ++item) {
+            const QString line = items[item]->StateLine();
+            if (line != model.Line(item)) {
+                return differ(QStringLiteral("item %1").arg(item), line, model.Line(item));
+            }
+        }
+        return QStringLiteral("the dump does not consist of the items' lines");
+    }
+    if (stack.count() != model.StackCount() || stack.index() != model.StackIndex()) {
+        const QString place = QStringLiteral("%1 of %2");
+        return differ(QStringLiteral("the undo stack"), place.arg(stack.index()).arg(stack.count()),
+                      place.arg(model.StackIndex()).arg(model.StackCount()));
+    }
+    const std::vector<PanelCell> cells = Cells();
+    if (cells.size() != model.Cells().size()) {
+        return differ(QStringLiteral("the number of editors"), QString::number(cells.size()),
+                      QString::number(model.Cells().size()));
+    }
+    for (std::size_t cell = 0; cell < cells.size(); ++cell) {
+        if (cells[cell].Describe() != model.Cells()[cell].Describe()) {
+            return differ(QStringLiteral("an editor"), cells[cell].Describe(), model.Cells()[cell].Describe());
+        }
+    }
+    return {};
+}
+
+} // namespace Test

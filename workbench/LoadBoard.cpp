@@ -1,0 +1,40 @@
+#include "workbench/LoadBoard.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QProgressDialog>
+#include <QStringList>
+
+// The resource lies in a static library, whose initialisers the linker leaves out. Not in a namespace: it is a macro.
+static void InitialiseSamples()
+{
+    Q_INIT_RESOURCE(samples);
+}
+
+QString SampleBoardFile()
+{
+    InitialiseSamples();
+    return QStringLiteral(":/samples/sample.kicad_pcb");
+}
+
+TImportResult LoadBoardWithDialog(const QString& file, QWidget* parent)
+{
+    constexpr int shownAfterMilliseconds = 400;
+    QProgressDialog dialog(QCoreApplication::translate("LoadBoard", "Reading %1…").arg(QFileInfo(file).fileName()),
+                           QCoreApplication::translate("LoadBoard", "Cancel"), 0, 100, parent);
+    dialog.setWindowModality(Qt::WindowModal);
+    dialog.setMinimumDuration(shownAfterMilliseconds);
+    return ImportBoard(file, [&dialog](int percent) {
+        dialog.setValue(percent);
+        return !dialog.wasCanceled();
+    });
+}
+
+QString DescribeNotShown(const TImportResult& result)
+{
+    QStringList parts;
+    for (const auto& [kind, count] : result.notShown) {
+        parts.append(QStringLiteral("%1 %2").arg(QString::number(count), kind));
+    }
+    return parts.join(QStringLiteral(", "));
+}

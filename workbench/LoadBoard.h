@@ -1,0 +1,14 @@
+#pragma once
+
+#include "workbench/importer/BoardImporter.h"
+
+class QWidget;
+
+/** The board that is compiled in. */
+QString SampleBoardFile();
+
+/** Reads a board file; a long load shows its progress in a dialog above @p parent, and can be cancelled there. */
+TImportResult LoadBoardWithDialog(const QString& file, QWidget* parent);
+
+/** Such as "17921 track segments, 3 zones"; empty if the board holds all that is in the file. */
+QString DescribeNotShown(const TImportResult& result);

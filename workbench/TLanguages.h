@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+#include <QTranslator>
+
+/** The languages of the panel: English, and those whose translations are compiled in. */
+class TLanguages : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    /** Codes such as "en" and "de", English first. */
+    static QStringList Available();
+    /** What a language calls itself. */
+    static QString NameOf(const QString& code);
+
+    const QString& Current() const { return current; }
+    /** Translates all texts that are made from now on; a code that is not available stands for English. */
+    void Switch(const QString& code);
+
+signals:
+    void sigSwitched();
+
+private:
+    QTranslator translator;
+    QString current = QStringLiteral("en");
+};

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <workspace/Osmirel.h>
+
+#include <QListWidget>
+
+class TLayerManager;
+
+/** The layers of a board from its top to its bottom, each with its colour, and a box that shows or hides it. */
+class TLayerList : public QListWidget
+{
+    Q_OBJECT
+
+public:
+    explicit TLayerList(QWidget* parent = nullptr);
+
+    /** Lists the layers of a table, which is the board's and must outlive the list or be replaced; null lists none. */
+    void SetLayers(TLayerManager* newLayers);
+
+signals:
+    void sigVisibilityChanged(Osmirel::Layer layer, bool visible);
+
+private slots:
+    void slotItemChanged(QListWidgetItem* item);
+
+private:
+    TLayerManager* layers = nullptr;
+};

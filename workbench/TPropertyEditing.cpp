@@ -1,0 +1,96 @@
+#include "workbench/TPropertyEditing.h"
+
+#include "properties/rows/TAbstractProperty.h"
+#include "properties/TPropertySet.h"
+#include "properties/TPropertyWidget.h"
+#include "workbench/CommandNames.h"
+#include "workbench/Kinds.h"
+#include "workbench/TSelection.h"
+
+#include <application/TUndoCommand.h>
+
+#include <QApplication>
+#include <QScopedValueRollback>
+#include <QUndoStack>
+
+#include <algorithm>
+
+TPropertyEditing::TPropertyEditing(TPropertyWidget& propertyPanel, TSelection& editedSelection, QUndoStack& stack)
+    : panel(propertyPanel), selection(editedSelection), undoStack(stack)
+{
+    connect(&selection, &TSelection::sigChanged, this, &TPropertyEditing::ShowSelection);
+    connect(&undoStack, &QUndoStack::indexChanged, this, &TPropertyEditing::slotIndexChanged);
+}
+
+void TPropertyEditing::SetBoard(TBoard* newBoard)
+{
+    board = newBoard;
+    panel.SetPropertySet(nullptr);
+    emit sigSetShown();
+}
+
+void TPropertyEditing::ShowSelection()
+{
+    if (!board) {
+        return;
+    }
+    const QString focused = FocusedLabel();
+    std::unique_ptr<TPropertySet> set = Kinds::MakePropertySet(selection.Items(), *board);
+    if (set) {
+        connect(set.get(), &TPropertySet::sigCmd, this, &TPropertyEditing::slotCmd);
+    }
+    panel.SetPropertySet(set.release());
+    FocusRow(focused);
+    emit sigSetShown();
+}
+
+void TPropertyEditing::ForwardKey(QKeyEvent* event)
+{
+    if (TPropertySet* set = panel.PropertySet()) {
+        set->KeyPressEvent(event);
+    }
+}
+
+void TPropertyEditing::slotCmd(TUndoCommand* command)
+{
+    const TKind* kind = Kinds::OfFirst(selection.Items());
+    const auto edited =
+        std::count_if(selection.Items().cbegin(), selection.Items().cend(),
+                      [kind](const TGraphicsItem* item) { return !kind || item->type() == kind->type; });
+    command->setText(CommandNames::Text(*command, Kinds::Counted(static_cast<int>(edited), kind)));
+    // The rows already show what this command writes.
+    const QScopedValueRollback<bool> pushing(isPushing, true);
+    undoStack.push(command);
+}
+
+void TPropertyEditing::slotIndexChanged()
+{
+    if (!isPushing) {
+        ShowSelection();
+    }
+}
+
+QString TPropertyEditing::FocusedLabel() const
+{
+    const QWidget* focus = QApplication::focusWidget();
+    if (!focus || !panel.PropertySet() || !panel.isAncestorOf(focus)) {
+        return {};
+    }
+    const QList<TAbstractProperty*> rows = panel.PropertySet()->Properties();
+    const auto row = std::find_if(rows.cbegin(), rows.cend(), [focus](const TAbstractProperty* candidate) {
+        return candidate->Editor() && (candidate->Editor() == focus || candidate->Editor()->isAncestorOf(focus));
+    });
+    return row == rows.cend() ? QString() : (*row)->text(TAbstractProperty::labelColumn);
+}
+
+void TPropertyEditing::FocusRow(const QString& label) const
+{
+    if (label.isEmpty() || !panel.PropertySet()) {
+        return;
+    }
+    for (const TAbstractProperty* row : panel.PropertySet()->Properties()) {
+        if (row->text(TAbstractProperty::labelColumn) == label && row->Editor()) {
+            row->Editor()->setFocus(Qt::OtherFocusReason);
+        }
+    }
+}

@@ -1,0 +1,6 @@
+#include "workbench/RunWorkbench.h"
+
+int main(int argc, char** argv)
+{
+    return RunWorkbench(argc, argv);
+}

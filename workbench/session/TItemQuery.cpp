@@ -1,0 +1,103 @@
+#include "workbench/session/TItemQuery.h"
+
+#include "workbench/session/TSessionError.h"
+
+#include <application/TBoard.h>
+
+#include <QRegularExpression>
+#include <QSet>
+#include <QStringList>
+
+namespace {
+
+/** The items that can be selected, in the design's order. */
+QList<TGraphicsItem*> SelectableItems(const TBoard& board)
+{
+    QList<TGraphicsItem*> items;
+    for (TGraphicsItem* item : board.Items()) {
+        if (item->QGraphicsItem::flags() & QGraphicsItem::ItemIsSelectable) {
+            items.append(item);
+        }
+    }
+    return items;
+}
+
+QString KindsOf(const QList<TGraphicsItem*>& items)
+{
+    QStringList kinds;
+    QSet<int> seen;
+    for (const TGraphicsItem* item : items) {
+        if (!seen.contains(item->type())) {
+            seen.insert(item->type());
+            kinds.append(item->KindName());
+        }
+    }
+    return kinds.isEmpty() ? QStringLiteral("nothing") : kinds.join(QStringLiteral(", "));
+}
+
+QList<TGraphicsItem*> OfKind(const QString& kind, const QList<TGraphicsItem*>& items)
+{
+    QList<TGraphicsItem*> found;
+    for (TGraphicsItem* item : items) {
+        if (kind.isEmpty() || item->KindName() == kind) {
+            found.append(item);
+        }
+    }
+    if (found.isEmpty()) {
+        throw TSessionError(kind.isEmpty()
+                                ? QStringLiteral("the board has nothing that can be selected")
+                                : QStringLiteral("the board has no %1; it has %2").arg(kind, KindsOf(items)));
+    }
+    return found;
+}
+
+} // namespace
+
+TItemQuery TItemQuery::Parse(const QString& text)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral(R"(\A([A-Za-z][A-Za-z0-9_-]*)(?:\[(\d{1,9})(?:\.\.(\d{1,9}))?\])?\z)"));
+    TItemQuery query;
+    for (const QString& partText : text.split(QLatin1Char(','))) {
+        const QRegularExpressionMatch match = pattern.match(partText.trimmed());
+        if (!match.hasMatch()) {
+            throw TSessionError(
+                QStringLiteral("\"%1\" is no selection: a kind such as via, or all, with [i] or [i..j]").arg(partText));
+        }
+        TPart part;
+        part.kind = match.captured(1) == QLatin1String("all") ? QString() : match.captured(1);
+        if (match.capturedLength(2) > 0) {
+            part.first = match.captured(2).toInt();
+            part.last = match.capturedLength(3) > 0 ? match.captured(3).toInt() : part.first;
+            if (part.last < part.first) {
+                throw TSessionError(QStringLiteral("\"%1\" ends before it begins").arg(partText));
+            }
+        }
+        query.parts.append(part);
+    }
+    return query;
+}
+
+QList<TGraphicsItem*> TItemQuery::Find(const TBoard& board) const
+{
+    const QList<TGraphicsItem*> all = SelectableItems(board);
+    QList<TGraphicsItem*> found;
+    QSet<TGraphicsItem*> seen;
+    for (const TPart& part : parts) {
+        const QList<TGraphicsItem*> ofKind = OfKind(part.kind, all);
+        const int last = part.last < 0 ? ofKind.size() - 1 : part.last;
+        if (last >= ofKind.size()) {
+            throw TSessionError(QStringLiteral("there is no %1[%2]: positions go from 0 to %3")
+                                    .arg(part.kind.isEmpty() ? QStringLiteral("all") : part.kind)
+                                    .arg(last)
+                                    .arg(ofKind.size() - 1));
+        }
+        for (TGraphicsItem* item : ofKind.mid(part.first, last - part.first + 1)) {
+            if (!seen.contains(item)) {
+                seen.insert(item);
+                found.append(item);
+            }
+        }
+    }
+    return found;
+}

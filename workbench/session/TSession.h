@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class QKeySequence;
+class TItemQuery;
+class TMainWindow;
+class TPropertySet;
+
+/**
+ * Uses a window as a person would: selects, edits rows through their editors, presses keys, undoes and redoes.
+ *
+ * Each operation returns what it has to say, one or more lines without a last line break, or throws `TSessionError`
+ * and has done nothing. The window must show a board.
+ */
+class TSession
+{
+public:
+    explicit TSession(TMainWindow& shownWindow) : window(shownWindow) {}
+
+    QString Select(const TItemQuery& query);
+    /** The panel's title, and one line for each shown row. */
+    QString Panel() const;
+    /** Edits a row; the assignment is `Label=value` or `Label.part=value`. */
+    QString Set(const QString& assignment);
+    /** Gives the focus to the canvas and presses a key there. */
+    QString Press(const QKeySequence& key);
+    /** Sets or clears the flag of the selected items by which their edits leave no undo step. */
+    QString Bypass(bool on);
+    QString Undo(int times);
+    QString Redo(int times);
+    QString History() const;
+    /** Writes the design's dump to a file; with "-" returns it. */
+    QString Dump(const QString& file) const;
+    QString Screenshot(const QString& file) const;
+
+private:
+    /** The shown set; throws if nothing is selected or the panel is empty. */
+    TPropertySet& ShownSet() const;
+    /** The texts of the commands that were pushed since the stack had this index. */
+    QStringList PushedSince(int index) const;
+    QString Move(int times, bool back);
+
+    TMainWindow& window;
+};

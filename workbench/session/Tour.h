@@ -1,0 +1,11 @@
+#pragma once
+
+#include "workbench/session/RunSteps.h"
+
+class TMainWindow;
+
+/**
+ * Shows on the board of a window what the workbench does, says at each step what that is, and leaves a picture in the
+ * current folder. Returns the exit code.
+ */
+int RunTour(TMainWindow& window, const TStreams& streams);
