@@ -1,0 +1,115 @@
+#include "tests/commands/LawTable.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QtTest>
+
+#include <algorithm>
+
+namespace {
+
+/** The names of the classes whose constructors are among the symbols. */
+QStringList CommandsAmong(const QString& symbols)
+{
+    static const QRegularExpression constructor(R"(^[0-9a-f]+ [TW] (TCmd\w+)::\1\()",
+                                                QRegularExpression::MultilineOption);
+    QStringList names;
+    for (auto match = constructor.globalMatch(symbols); match.hasNext();) {
+        names.append(match.next().captured(1));
+    }
+    names.removeDuplicates();
+    names.sort();
+    return names;
+}
+
+struct Id
+{
+    QString name;
+    int number;
+};
+
+/** The ids of the enumeration, in the order in which the header lists them. */
+QList<Id> IdsIn(const QString& header)
+{
+    static const QRegularExpression entry(R"(^\s*(\w+) = (-?\d+),)", QRegularExpression::MultilineOption);
+    QList<Id> ids;
+    for (auto match = entry.globalMatch(header); match.hasNext();) {
+        const QRegularExpressionMatch found = match.next();
+        ids.append({found.captured(1), found.captured(2).toInt()});
+    }
+    return ids;
+}
+
+QString Read(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+} // namespace
+
+class TestExported : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyExportedCommandHasItsLaw()
+    {
+        QProcess nm;
+        nm.start(PROPERTIES_NM, {"-DC", "--defined-only", PROPERTIES_LIBRARY});
+        QVERIFY2(nm.waitForFinished(), qPrintable(nm.errorString()));
+        QCOMPARE(nm.exitCode(), 0);
+        const QStringList exported = CommandsAmong(QString::fromUtf8(nm.readAllStandardOutput()));
+
+        QStringList lawful;
+        for (const Test::CommandLaw& law : Test::LawTable()) {
+            lawful.append(law.name);
+        }
+        lawful.sort();
+        QVERIFY(!lawful.isEmpty());
+        QCOMPARE(exported, lawful);
+    }
+
+    void findsConstructorsOnly()
+    {
+        QCOMPARE(CommandsAmong("0000000000012340 T TCmdB::TCmdB(QList<TGraphicsItem*> const&, double)\n"
+                               "0000000000012340 T TCmdB::TCmdB(QList<TGraphicsItem*> const&, double)\n"
+                               "0000000000012350 T TCmdA::TCmdA()\n"
+                               "                 U TCmdForeign::TCmdForeign(int)\n"
+                               "0000000000012360 V vtable for TCmdC\n"
+                               "0000000000012370 W TCmdD::redo()\n"
+                               "0000000000012380 T f(TCmdE::TCmdE)\n"),
+                 QStringList({"TCmdA", "TCmdB"}));
+    }
+
+    void idsAreUniqueAndAscending()
+    {
+        QList<Id> ids = IdsIn(Read(PROPERTIES_SOURCE_DIR "/properties/commands/CommandIds.h"));
+        QVERIFY(ids.size() > 1);
+        QCOMPARE(ids.takeFirst().number, -1); // that of a command without an id
+        for (int i = 0; i < ids.size(); ++i) {
+            QVERIFY2(ids[i].number >= 1234 && ids[i].number <= 1282, qPrintable(ids[i].name));
+            QVERIFY2(i == 0 || ids[i - 1].number < ids[i].number, qPrintable(ids[i].name));
+        }
+    }
+
+    void everyIdBelongsToOneLaw()
+    {
+        for (const Id& id : IdsIn(Read(PROPERTIES_SOURCE_DIR "/properties/commands/CommandIds.h"))) {
+            const auto& table = Test::LawTable();
+            const auto owners = std::count_if(table.begin(), table.end(), [&id](const Test::CommandLaw& law) {
+                return law.id == id.number && law.name == "TCmd" + id.name;
+            });
+            QVERIFY2(id.number == -1 || owners == 1, qPrintable(id.name));
+        }
+        for (const Test::CommandLaw& law : Test::LawTable()) {
+            const QList<Id> ids = IdsIn(Read(PROPERTIES_SOURCE_DIR "/properties/commands/CommandIds.h"));
+            QVERIFY2(std::any_of(ids.begin(), ids.end(), [&law](const Id& id) { return id.number == law.id; }),
+                     qPrintable(law.name));
+        }
+    }
+};
+
+QTEST_APPLESS_MAIN(TestExported)
+#include "tst_exported.moc"

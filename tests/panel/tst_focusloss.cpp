@@ -1,0 +1,192 @@
+#include "tests/support/Observers.h"
+#include "tests/support/PanelFixture.h"
+#include "tests/support/TestBoard.h"
+#include "tests/support/TestMain.h"
+
+#include <properties/rows/TLineEdit.h>
+#include <properties/rows/TPropertyEnum.h>
+#include <properties/rows/TPropertyFloatSpin.h>
+#include <properties/rows/TPropertySize.h>
+#include <properties/rows/TPropertyText.h>
+#include <properties/sets/TPropertySetForHole.h>
+#include <properties/sets/TPropertySetForPad.h>
+#include <properties/sets/TPropertySetForVia.h>
+
+#include <workspace/TDoubleSpinBox.h>
+
+#include <QAbstractItemView>
+#include <QComboBox>
+
+#include <memory>
+
+namespace {
+
+void TypeNumber(QDoubleSpinBox* box, bool tracked)
+{
+    box->setKeyboardTracking(tracked);
+    box->setFocus();
+    box->selectAll();
+    QTest::keyClicks(box, "2.");
+}
+
+void OpenPopup(QComboBox* box)
+{
+    box->setFocus();
+    box->showPopup();
+    QTest::keyClick(box->view(), Qt::Key_Down);
+}
+
+/** An editor with the focus that holds what is not yet committed. */
+struct HalfEdit
+{
+    const char* name;
+    TPropertySet* (*makeSet)(Test::TestBoard& board);
+    void (*edit)(TPropertySet* set);
+};
+
+TPropertySet* MakeViaSet(Test::TestBoard& board)
+{
+    return new TPropertySetForVia(board.Items(), board.ViaGroups());
+}
+
+TPropertySet* MakePadSet(Test::TestBoard& board)
+{
+    return new TPropertySetForPad(board.Items(), board.Sides());
+}
+
+TPropertySet* MakeHoleSet(Test::TestBoard& board)
+{
+    return new TPropertySetForHole(board.Items());
+}
+
+const HalfEdit halfEdits[] = {
+    {"half-typed text", MakePadSet, [](TPropertySet* set) { Test::TypeHalfText(Test::FindRow(set, "Number:"), "X"); }},
+    {"emptied text", MakePadSet,
+     [](TPropertySet* set) {
+         auto* row = Test::RowOf<TPropertyText>(set, "Number:");
+         Test::TypeHalfText(row, "X");
+         QTest::keyClick(row->line->edit, Qt::Key_Backspace);
+     }},
+    {"number that is reported when finished", MakeViaSet,
+     [](TPropertySet* set) { TypeNumber(Test::RowOf<TPropertyFloatSpin>(set, "Diameter:")->spin, false); }},
+    {"number that is reported as it is typed", MakeViaSet,
+     [](TPropertySet* set) { TypeNumber(Test::RowOf<TPropertyFloatSpin>(set, "Drill:")->spin, true); }},
+    {"number that was deleted", MakeHoleSet,
+     [](TPropertySet* set) {
+         auto* box = Test::RowOf<TPropertyFloatSpin>(set, "Diameter:")->spin;
+         TypeNumber(box, false);
+         QTest::keyClick(box, Qt::Key_Backspace);
+         QTest::keyClick(box, Qt::Key_Backspace);
+     }},
+    {"width that a height follows", MakePadSet,
+     [](TPropertySet* set) { TypeNumber(Test::RowOf<TPropertySize>(set, "Size (W x H):")->width, false); }},
+    {"list that is open", MakeViaSet,
+     [](TPropertySet* set) { OpenPopup(Test::RowOf<TPropertyEnum>(set, "Thermal:")->Box()); }},
+    {"list that is open and shows a row's siblings", MakePadSet,
+     [](TPropertySet* set) { OpenPopup(Test::RowOf<TPropertyEnum>(set, "Type:")->Box()); }},
+};
+
+/** What takes the editor away. */
+struct Removal
+{
+    const char* name;
+    bool keepsItems;
+    void (*remove)(Test::PanelWindow& place, Test::TestBoard& board);
+};
+
+const Removal removals[] = {
+    {"another set", true,
+     [](Test::PanelWindow& place, Test::TestBoard& board) { place.panel->SetPropertySet(MakeHoleSet(board)); }},
+    {"no set", true, [](Test::PanelWindow& place, Test::TestBoard&) { place.panel->SetPropertySet(nullptr); }},
+    {"set deleted", true, [](Test::PanelWindow& place, Test::TestBoard&) { delete place.panel->PropertySet(); }},
+    {"panel deleted", true, [](Test::PanelWindow& place, Test::TestBoard&) { delete place.panel; }},
+    {"tree deleted", true, [](Test::PanelWindow& place, Test::TestBoard&) { delete place.Tree(); }},
+    {"items gone, then no set", false,
+     [](Test::PanelWindow& place, Test::TestBoard& board) {
+         board.Scene()->clear();
+         place.panel->SetPropertySet(nullptr);
+     }},
+    {"items gone, then panel deleted", false,
+     [](Test::PanelWindow& place, Test::TestBoard& board) {
+         board.Scene()->clear();
+         delete place.panel;
+     }},
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(const HalfEdit*)
+Q_DECLARE_METATYPE(const Removal*)
+
+/** An editor that goes away with the focus and an unfinished edit commits nothing and reads no item. */
+class TestFocusLoss : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void nothingIsCommitted_data()
+    {
+        QTest::addColumn<const HalfEdit*>("halfEdit");
+        QTest::addColumn<const Removal*>("removal");
+        QTest::addColumn<bool>("bypass");
+        for (const HalfEdit& halfEdit : halfEdits) {
+            for (const Removal& removal : removals) {
+                for (const bool bypass : {false, true}) {
+                    QTest::addRow("%s: %s%s", halfEdit.name, removal.name, bypass ? ", undo bypassed" : "")
+                        << &halfEdit << &removal << bypass;
+                }
+            }
+        }
+    }
+
+    void nothingIsCommitted()
+    {
+        QFETCH(const HalfEdit*, halfEdit);
+        QFETCH(const Removal*, removal);
+        QFETCH(bool, bypass);
+        Test::TestBoard board;
+        board.AddVia();
+        board.AddVia(1.2);
+        board.AddSurfacePad()->SetPadShape(TGraphicsPadItem::ShapeObround);
+        board.AddHole();
+        for (TGraphicsItem* item : board.Items()) {
+            item->SetTFlag(TGraphicsItem::UndoBypass, bypass);
+        }
+        Test::PanelWindow place;
+        const QPointer<TPropertySet> set(halfEdit->makeSet(board));
+        place.Show(set);
+        const Test::CommandLog log(*set);
+        halfEdit->edit(set);
+        QVERIFY(QApplication::focusWidget() && QApplication::focusWidget() != place.elsewhere);
+
+        const QString dump = board.Dump();
+        const int commands = log.Count();
+        removal->remove(place, board);
+        Test::Settle();
+        if (set) { // Only its tree is gone: the set may still take the edit, and has no row left.
+            QVERIFY(set->Properties().isEmpty());
+            return;
+        }
+        QCOMPARE(log.Count(), commands);
+        if (removal->keepsItems) {
+            QCOMPARE(board.Dump(), dump);
+        }
+    }
+
+    void anUnfinishedEditIsReallyPending()
+    {
+        Test::TestBoard board;
+        board.AddVia();
+        Test::PanelWindow place;
+        TPropertySet* set = MakeViaSet(board);
+        place.Show(set);
+        const Test::CommandLog log(*set);
+        TypeNumber(Test::RowOf<TPropertyFloatSpin>(set, "Diameter:")->spin, false);
+        QCOMPARE(log.Count(), 0);
+        place.elsewhere->setFocus();
+        QCOMPARE(log.Names(), QStringList{"TCmdViaDiam"});
+    }
+};
+
+PROPERTIES_TEST_MAIN(TestFocusLoss)
+#include "tst_focusloss.moc"

@@ -1,0 +1,273 @@
+#include "tests/support/Observers.h"
+#include "tests/support/PanelFixture.h"
+#include "tests/support/TestBoard.h"
+#include "tests/support/TestMain.h"
+
+#include <properties/rows/TLineEdit.h>
+#include <properties/rows/TPropertyEnum.h>
+#include <properties/rows/TPropertyFloatSpin.h>
+#include <properties/rows/TPropertyText.h>
+#include <properties/sets/TPropertySetForHole.h>
+#include <properties/sets/TPropertySetForPad.h>
+#include <properties/sets/TPropertySetForVia.h>
+
+#include <workspace/TDoubleSpinBox.h>
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QMetaMethod>
+#include <QUndoStack>
+
+namespace {
+
+/** An application with one set shown and an undo stack that takes its commands. */
+template <class Set>
+class Session
+{
+public:
+    Session()
+    {
+        TGraphicsPadItem* first = board.AddThroughPad();
+        TGraphicsPadItem* second = board.AddThroughPad();
+        first->SetNumber("1");
+        second->SetNumber("2");
+        vias = {board.AddVia(0.6), board.AddVia(0.8)};
+        pads = {first, second};
+        before = board.Dump();
+    }
+
+    void Show(Set* shown)
+    {
+        set = shown;
+        QObject::connect(set, &TPropertySet::sigCmd, [this](TUndoCommand* command) { stack.push(command); });
+        place.Show(set);
+    }
+
+    Test::TestBoard board;
+    QList<TGraphicsItem*> vias;
+    QList<TGraphicsItem*> pads;
+    QString before;
+    QUndoStack stack;
+    Test::PanelWindow place;
+    Set* set = nullptr;
+};
+
+class PadSession : public Session<TPropertySetForPad>
+{
+public:
+    PadSession()
+    {
+        Show(new TPropertySetForPad(pads, board.Sides()));
+        line = Test::RowOf<TPropertyText>(set, "Number:")->line;
+    }
+
+    void TypeNumber(const QString& text) { Test::TypeHalfText(Test::FindRow(set, "Number:"), text); }
+
+    TLineEdit* line;
+};
+
+class ViaSession : public Session<TPropertySetForVia>
+{
+public:
+    ViaSession()
+    {
+        Show(new TPropertySetForVia(vias, board.ViaGroups()));
+        diameter = Test::RowOf<TPropertyFloatSpin>(set, "Diameter:")->spin;
+        thermal = Test::RowOf<TPropertyEnum>(set, "Thermal:")->Box();
+    }
+
+    TDoubleSpinBox* diameter;
+    QComboBox* thermal;
+};
+
+} // namespace
+
+/** What goes on around an editor that has the focus. */
+class TestLiveEdit : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void returnEndsInOneState()
+    {
+        PadSession session;
+        session.TypeNumber("A7");
+        QTest::keyClick(session.line->edit, Qt::Key_Return);
+        Test::Settle();
+        QVERIFY(session.stack.count() > 0);
+        for (const TGraphicsItem* pad : session.pads) {
+            QCOMPARE(static_cast<const TGraphicsPadItem*>(pad)->Number(), QString("A7"));
+        }
+        const QString after = session.board.Dump();
+        while (session.stack.canUndo()) {
+            session.stack.undo();
+        }
+        QCOMPARE(session.board.Dump(), session.before);
+        while (session.stack.canRedo()) {
+            session.stack.redo();
+        }
+        QCOMPARE(session.board.Dump(), after);
+    }
+
+    void undoAndRedoWhileTextIsTyped()
+    {
+        PadSession session;
+        session.set->SetWidth(3);
+        const QString widened = session.board.Dump();
+        session.TypeNumber("half");
+        session.stack.undo();
+        Test::Settle();
+        QCOMPARE(session.board.Dump(), session.before);
+        QVERIFY(session.line->edit->hasFocus());
+        QCOMPARE(session.line->edit->text(), QString("half"));
+        session.stack.redo();
+        Test::Settle();
+        QCOMPARE(session.board.Dump(), widened);
+        QCOMPARE(session.stack.count(), 1);
+        QTest::keyClick(session.line->edit, Qt::Key_Escape);
+        QCOMPARE(session.stack.count(), 1);
+        QCOMPARE(session.board.Dump(), widened);
+    }
+
+    void undoAndRedoWhileABoxHasTheFocus()
+    {
+        ViaSession session;
+        session.diameter->setFocus();
+        QTest::keyClick(session.diameter, Qt::Key_Up);
+        const QString once = session.board.Dump();
+        QTest::keyClick(session.diameter, Qt::Key_Up);
+        const QString twice = session.board.Dump();
+        QCOMPARE(session.stack.count(), 2);
+        session.stack.undo();
+        QCOMPARE(session.board.Dump(), once);
+        session.stack.undo();
+        QCOMPARE(session.board.Dump(), session.before);
+        session.stack.redo();
+        session.stack.redo();
+        QCOMPARE(session.board.Dump(), twice);
+        session.place.elsewhere->setFocus();
+        QCOMPARE(session.stack.count(), 2);
+        QCOMPARE(session.board.Dump(), twice);
+    }
+
+    void undoWhileANumberIsHalfTyped()
+    {
+        ViaSession session;
+        session.set->SetDrill(0.5);
+        session.diameter->setKeyboardTracking(false);
+        session.diameter->setFocus();
+        session.diameter->selectAll();
+        QTest::keyClicks(session.diameter, "2.");
+        session.stack.undo();
+        QCOMPARE(session.board.Dump(), session.before);
+        QCOMPARE(session.stack.count(), 1);
+        QVERIFY(session.diameter->hasFocus());
+        QVERIFY(session.diameter->text().startsWith("2."));
+    }
+
+    void undoWhileAListIsOpen()
+    {
+        ViaSession session;
+        session.set->SetThermal(1);
+        session.thermal->setFocus();
+        session.thermal->showPopup();
+        session.stack.undo();
+        QCOMPARE(session.board.Dump(), session.before);
+        QTest::keyClick(session.thermal->view(), Qt::Key_End);
+        QTest::keyClick(session.thermal->view(), Qt::Key_Return);
+        QCOMPARE(session.stack.count(), 1); // The new command took the place of the undone one.
+        session.stack.undo();
+        QCOMPARE(session.board.Dump(), session.before);
+    }
+
+    void languageChangeWhileTextIsTyped()
+    {
+        PadSession session;
+        session.TypeNumber("half");
+        const Test::MarkingTranslator translator;
+        session.place.panel->UpdateTranslate();
+        Test::Settle();
+        QCOMPARE(session.place.panel->windowTitle(), QString("~Properties"));
+        QVERIFY(session.line->edit->isVisible());
+        QVERIFY(session.line->edit->hasFocus());
+        QCOMPARE(session.line->edit->text(), QString("half"));
+        QCOMPARE(session.stack.count(), 0);
+        QTest::keyClick(session.line->edit, Qt::Key_Return);
+        QCOMPARE(static_cast<TGraphicsPadItem*>(session.pads.first())->Number(), QString("half"));
+    }
+
+    void languageChangeWhileANumberIsTyped()
+    {
+        ViaSession session;
+        session.diameter->setKeyboardTracking(false);
+        session.diameter->setFocus();
+        session.diameter->selectAll();
+        QTest::keyClicks(session.diameter, "2.");
+        const Test::MarkingTranslator translator;
+        session.place.panel->UpdateTranslate();
+        Test::Settle();
+        QVERIFY(session.diameter->hasFocus());
+        QVERIFY(session.diameter->text().startsWith("2."));
+        QCOMPARE(session.stack.count(), 0);
+        QCOMPARE(session.board.Dump(), session.before);
+    }
+
+    void languageChangeWhileAListIsOpen()
+    {
+        ViaSession session;
+        session.thermal->setFocus();
+        session.thermal->showPopup();
+        const Test::MarkingTranslator translator;
+        session.place.panel->UpdateTranslate();
+        Test::Settle();
+        QCOMPARE(session.stack.count(), 0);
+        QTest::keyClick(session.thermal->view(), Qt::Key_End);
+        QTest::keyClick(session.thermal->view(), Qt::Key_Return);
+        QCOMPARE(session.stack.count(), 1);
+        QCOMPARE(static_cast<TGraphicsViaItem*>(session.vias.first())->Thermal(), TGraphicsViaItem::ThermalNo);
+    }
+
+    void setMadeAfterALanguageChangeIsTranslated()
+    {
+        ViaSession session;
+        const Test::MarkingTranslator translator;
+        session.Show(new TPropertySetForVia(session.vias, session.board.ViaGroups()));
+        QCOMPARE(session.place.window.windowTitle(), QString("~Properties - ~Vias"));
+        QCOMPARE(Test::Labels(session.set).value(0), QString("~Diameter:"));
+    }
+
+    void slotsWithoutItemsDoNothing()
+    {
+        Test::TestBoard board;
+        const QList<TGraphicsItem*> foreign{board.AddPackage()};
+        TPropertySetForVia vias(foreign, board.ViaGroups());
+        TPropertySetForPad pads(foreign, board.Sides());
+        TPropertySetForHole holes(foreign);
+        const QString before = board.Dump();
+        for (TPropertySet* set : std::initializer_list<TPropertySet*>{&vias, &pads, &holes}) {
+            const Test::CommandLog log(*set);
+            const QMetaObject* kind = set->metaObject();
+            int called = 0;
+            for (int i = kind->methodOffset(); i < kind->methodCount(); ++i) {
+                called += Call(set, kind->method(i)) ? 1 : 0;
+            }
+            QVERIFY(called == kind->methodCount() - kind->methodOffset() && called > 0);
+            QCOMPARE(log.Count(), 0);
+            QCOMPARE(board.Dump(), before);
+        }
+    }
+
+private:
+    /** Calls a slot of one argument with the default value of its type. */
+    static bool Call(QObject* set, const QMetaMethod& method)
+    {
+        const int type = method.parameterType(0);
+        const QVariant value(type, nullptr);
+        return method.parameterCount() == 1
+               && method.invoke(set, Qt::DirectConnection,
+                                QGenericArgument(QMetaType::typeName(type), value.constData()));
+    }
+};
+
+PROPERTIES_TEST_MAIN(TestLiveEdit)
+#include "tst_liveedit.moc"
