@@ -2,8 +2,8 @@
 #include "tests/support/PlainSet.h"
 #include "tests/support/TestMain.h"
 
-#include <properties/rows/TPropertyCheck.h>
-#include <properties/rows/TPropertySeparator.h>
+#include "properties/rows/TPropertyCheck.h"
+#include "properties/rows/TPropertySeparator.h"
 
 #include <QImage>
 

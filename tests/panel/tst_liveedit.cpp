@@ -3,13 +3,13 @@
 #include "tests/support/TestBoard.h"
 #include "tests/support/TestMain.h"
 
-#include <properties/rows/TLineEdit.h>
-#include <properties/rows/TPropertyEnum.h>
-#include <properties/rows/TPropertyFloatSpin.h>
-#include <properties/rows/TPropertyText.h>
-#include <properties/sets/TPropertySetForHole.h>
-#include <properties/sets/TPropertySetForPad.h>
-#include <properties/sets/TPropertySetForVia.h>
+#include "properties/rows/TLineEdit.h"
+#include "properties/rows/TPropertyEnum.h"
+#include "properties/rows/TPropertyFloatSpin.h"
+#include "properties/rows/TPropertyText.h"
+#include "properties/sets/TPropertySetForHole.h"
+#include "properties/sets/TPropertySetForPad.h"
+#include "properties/sets/TPropertySetForVia.h"
 
 #include <workspace/TDoubleSpinBox.h>
 

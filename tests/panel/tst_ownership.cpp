@@ -4,12 +4,12 @@
 #include "tests/support/TestBoard.h"
 #include "tests/support/TestMain.h"
 
-#include <properties/rows/TPropertyCheck.h>
-#include <properties/rows/TPropertyFloatSpin.h>
-#include <properties/rows/TPropertySeparator.h>
-#include <properties/rows/TPropertyText.h>
-#include <properties/sets/TPropertySetForPad.h>
-#include <properties/sets/TPropertySetForVia.h>
+#include "properties/rows/TPropertyCheck.h"
+#include "properties/rows/TPropertyFloatSpin.h"
+#include "properties/rows/TPropertySeparator.h"
+#include "properties/rows/TPropertyText.h"
+#include "properties/sets/TPropertySetForPad.h"
+#include "properties/sets/TPropertySetForVia.h"
 
 #include <workspace/TDoubleSpinBox.h>
 

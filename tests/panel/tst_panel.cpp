@@ -3,10 +3,10 @@
 #include "tests/support/PlainSet.h"
 #include "tests/support/TestMain.h"
 
-#include <properties/rows/TPropertyCheck.h>
-#include <properties/rows/TPropertyFloatSpin.h>
-#include <properties/rows/TPropertyIntSpin.h>
-#include <properties/rows/TPropertySeparator.h>
+#include "properties/rows/TPropertyCheck.h"
+#include "properties/rows/TPropertyFloatSpin.h"
+#include "properties/rows/TPropertyIntSpin.h"
+#include "properties/rows/TPropertySeparator.h"
 
 #include <workspace/TDoubleSpinBox.h>
 

@@ -4,23 +4,23 @@
 #include "tests/support/TestBoard.h"
 #include "tests/support/TestMain.h"
 
-#include <properties/rows/TCheckBox2Widget.h>
-#include <properties/rows/TLineEdit.h>
-#include <properties/rows/TPropertyAngleEnum.h>
-#include <properties/rows/TPropertyCheck.h>
-#include <properties/rows/TPropertyCheck2.h>
-#include <properties/rows/TPropertyColor.h>
-#include <properties/rows/TPropertyEnum.h>
-#include <properties/rows/TPropertyFloatSpin.h>
-#include <properties/rows/TPropertyIntSpin.h>
-#include <properties/rows/TPropertyLayer.h>
-#include <properties/rows/TPropertyPadShape.h>
-#include <properties/rows/TPropertyPenStyle.h>
-#include <properties/rows/TPropertySize.h>
-#include <properties/rows/TPropertyText.h>
-#include <properties/sets/TPropertySetForHole.h>
-#include <properties/sets/TPropertySetForPad.h>
-#include <properties/sets/TPropertySetForVia.h>
+#include "properties/rows/TCheckBox2Widget.h"
+#include "properties/rows/TLineEdit.h"
+#include "properties/rows/TPropertyAngleEnum.h"
+#include "properties/rows/TPropertyCheck.h"
+#include "properties/rows/TPropertyCheck2.h"
+#include "properties/rows/TPropertyColor.h"
+#include "properties/rows/TPropertyEnum.h"
+#include "properties/rows/TPropertyFloatSpin.h"
+#include "properties/rows/TPropertyIntSpin.h"
+#include "properties/rows/TPropertyLayer.h"
+#include "properties/rows/TPropertyPadShape.h"
+#include "properties/rows/TPropertyPenStyle.h"
+#include "properties/rows/TPropertySize.h"
+#include "properties/rows/TPropertyText.h"
+#include "properties/sets/TPropertySetForHole.h"
+#include "properties/sets/TPropertySetForPad.h"
+#include "properties/sets/TPropertySetForVia.h"
 
 #include <workspace/TDoubleSpinBox.h>
 

@@ -2,13 +2,13 @@
 #include "tests/support/PlainSet.h"
 #include "tests/support/TestMain.h"
 
-#include <properties/rows/TPropertyCheck.h>
-#include <properties/rows/TPropertyEnum.h>
-#include <properties/rows/TPropertyFloatSpin.h>
-#include <properties/rows/TPropertyIntSpin.h>
-#include <properties/rows/TPropertySeparator.h>
-#include <properties/rows/TPropertySize.h>
-#include <properties/rows/TPropertyText.h>
+#include "properties/rows/TPropertyCheck.h"
+#include "properties/rows/TPropertyEnum.h"
+#include "properties/rows/TPropertyFloatSpin.h"
+#include "properties/rows/TPropertyIntSpin.h"
+#include "properties/rows/TPropertySeparator.h"
+#include "properties/rows/TPropertySize.h"
+#include "properties/rows/TPropertyText.h"
 
 #include <QFontMetrics>
 #include <QSpinBox>

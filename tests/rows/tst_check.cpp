@@ -1,10 +1,10 @@
 #include "tests/support/PanelFixture.h"
 #include "tests/support/TestMain.h"
 
-#include <properties/rows/TCheckBox2Widget.h>
-#include <properties/rows/TPropertyCheck.h>
-#include <properties/rows/TPropertyCheck2.h>
-#include <properties/rows/TPropertySeparator.h>
+#include "properties/rows/TCheckBox2Widget.h"
+#include "properties/rows/TPropertyCheck.h"
+#include "properties/rows/TPropertyCheck2.h"
+#include "properties/rows/TPropertySeparator.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

@@ -2,11 +2,11 @@
 #include "tests/support/PanelFixture.h"
 #include "tests/support/TestMain.h"
 
-#include <properties/rows/TPropertyAngleEnum.h>
-#include <properties/rows/TPropertyEnum.h>
-#include <properties/rows/TPropertyLayer.h>
-#include <properties/rows/TPropertyPadShape.h>
-#include <properties/rows/TPropertyPenStyle.h>
+#include "properties/rows/TPropertyAngleEnum.h"
+#include "properties/rows/TPropertyEnum.h"
+#include "properties/rows/TPropertyLayer.h"
+#include "properties/rows/TPropertyPadShape.h"
+#include "properties/rows/TPropertyPenStyle.h"
 
 #include <workspace/TWorkspace.h>
 

@@ -1,6 +1,6 @@
 #include "tests/support/TestMain.h"
 
-#include <properties/rows/TPropertyColor.h>
+#include "properties/rows/TPropertyColor.h"
 
 #include <QComboBox>
 #include <QSignalSpy>

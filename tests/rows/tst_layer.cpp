@@ -1,7 +1,7 @@
 #include "tests/support/TestBoard.h"
 #include "tests/support/TestMain.h"
 
-#include <properties/rows/TPropertyLayer.h>
+#include "properties/rows/TPropertyLayer.h"
 
 #include <QComboBox>
 #include <QImage>

@@ -2,9 +2,9 @@
 #include "tests/support/PanelFixture.h"
 #include "tests/support/TestMain.h"
 
-#include <properties/rows/TPropertyFloatSpin.h>
-#include <properties/rows/TPropertyIntSpin.h>
-#include <properties/rows/TPropertySize.h>
+#include "properties/rows/TPropertyFloatSpin.h"
+#include "properties/rows/TPropertyIntSpin.h"
+#include "properties/rows/TPropertySize.h"
 
 #include <workspace/TDoubleSpinBox.h>
 

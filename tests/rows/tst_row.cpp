@@ -1,8 +1,8 @@
 #include "tests/support/PanelFixture.h"
 #include "tests/support/TestMain.h"
 
-#include <properties/rows/TPropertyCheck.h>
-#include <properties/rows/TPropertyEnum.h>
+#include "properties/rows/TPropertyCheck.h"
+#include "properties/rows/TPropertyEnum.h"
 
 #include <QTreeWidget>
 

@@ -2,8 +2,8 @@
 #include "tests/support/PanelFixture.h"
 #include "tests/support/TestMain.h"
 
-#include <properties/rows/TLineEdit.h>
-#include <properties/rows/TPropertyText.h>
+#include "properties/rows/TLineEdit.h"
+#include "properties/rows/TPropertyText.h"
 
 #include <QCheckBox>
 #include <QFocusEvent>

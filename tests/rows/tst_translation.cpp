@@ -1,13 +1,13 @@
 #include "tests/support/Observers.h"
 #include "tests/support/TestMain.h"
 
-#include <properties/rows/TLineEdit.h>
-#include <properties/rows/TPropertyAngleEnum.h>
-#include <properties/rows/TPropertyColor.h>
-#include <properties/rows/TPropertyFloatSpin.h>
-#include <properties/rows/TPropertyPadShape.h>
-#include <properties/rows/TPropertySize.h>
-#include <properties/rows/TPropertyText.h>
+#include "properties/rows/TLineEdit.h"
+#include "properties/rows/TPropertyAngleEnum.h"
+#include "properties/rows/TPropertyColor.h"
+#include "properties/rows/TPropertyFloatSpin.h"
+#include "properties/rows/TPropertyPadShape.h"
+#include "properties/rows/TPropertySize.h"
+#include "properties/rows/TPropertyText.h"
 
 #include <QCheckBox>
 #include <QComboBox>

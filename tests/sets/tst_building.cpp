@@ -4,9 +4,9 @@
 #include "tests/support/TestBoard.h"
 #include "tests/support/TestMain.h"
 
-#include <properties/sets/TPropertySetForHole.h>
-#include <properties/sets/TPropertySetForPad.h>
-#include <properties/sets/TPropertySetForVia.h>
+#include "properties/sets/TPropertySetForHole.h"
+#include "properties/sets/TPropertySetForPad.h"
+#include "properties/sets/TPropertySetForVia.h"
 
 namespace {
 

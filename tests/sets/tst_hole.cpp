@@ -4,8 +4,8 @@
 #include "tests/support/TestBoard.h"
 #include "tests/support/TestMain.h"
 
-#include <properties/rows/TPropertyFloatSpin.h>
-#include <properties/sets/TPropertySetForHole.h>
+#include "properties/rows/TPropertyFloatSpin.h"
+#include "properties/sets/TPropertySetForHole.h"
 
 #include <workspace/TDoubleSpinBox.h>
 

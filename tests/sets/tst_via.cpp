@@ -4,9 +4,9 @@
 #include "tests/support/TestBoard.h"
 #include "tests/support/TestMain.h"
 
-#include <properties/rows/TPropertyEnum.h>
-#include <properties/rows/TPropertyFloatSpin.h>
-#include <properties/sets/TPropertySetForVia.h>
+#include "properties/rows/TPropertyEnum.h"
+#include "properties/rows/TPropertyFloatSpin.h"
+#include "properties/sets/TPropertySetForVia.h"
 
 #include <workspace/TDoubleSpinBox.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <properties/TPropertySet.h>
+#include "properties/TPropertySet.h"
 
 #include <application/TUndoCommand.h>
 

@@ -1,7 +1,7 @@
 #include "tests/support/PanelFixture.h"
 
-#include <properties/rows/TLineEdit.h>
-#include <properties/rows/TPropertyText.h>
+#include "properties/rows/TLineEdit.h"
+#include "properties/rows/TPropertyText.h"
 
 #include <QBoxLayout>
 #include <QLabel>

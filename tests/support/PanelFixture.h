@@ -1,9 +1,9 @@
 #pragma once
 
-#include <properties/rows/TAbstractProperty.h>
-#include <properties/TPropertySet.h>
-#include <properties/TPropertyWidget.h>
-#include <properties/TTreeWidget.h>
+#include "properties/rows/TAbstractProperty.h"
+#include "properties/TPropertySet.h"
+#include "properties/TPropertyWidget.h"
+#include "properties/TTreeWidget.h"
 
 #include <QLineEdit>
 #include <QWidget>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <properties/rows/TAbstractProperty.h>
-#include <properties/TPropertySet.h>
+#include "properties/rows/TAbstractProperty.h"
+#include "properties/TPropertySet.h"
 
 #include <QPointer>
 

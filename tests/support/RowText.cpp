@@ -1,11 +1,11 @@
 #include "tests/support/RowText.h"
 
-#include <properties/rows/TLineEdit.h>
-#include <properties/rows/TPropertyChoice.h>
-#include <properties/rows/TPropertyFloatSpin.h>
-#include <properties/rows/TPropertySize.h>
-#include <properties/rows/TPropertyText.h>
-#include <properties/TPropertySet.h>
+#include "properties/rows/TLineEdit.h"
+#include "properties/rows/TPropertyChoice.h"
+#include "properties/rows/TPropertyFloatSpin.h"
+#include "properties/rows/TPropertySize.h"
+#include "properties/rows/TPropertyText.h"
+#include "properties/TPropertySet.h"
 
 #include <workspace/TDoubleSpinBox.h>
 
