@@ -1,0 +1,64 @@
+#pragma once
+
+#include <functional>
+#include <limits>
+#include <string>
+#include <vector>
+
+/** Benchmarks that come as variants of one task and are judged by the ratios of their times. */
+namespace Bench {
+
+/** Seconds that each variant of a task took, in the order in which the variants are named. */
+using Times = std::vector<double>;
+
+/** Does a task of the given size with every variant in turn. */
+using Round = std::function<Times(int size)>;
+
+/** Processor time of the calling thread in seconds: time in which other programs had the processor does not count. */
+double ThreadSeconds();
+
+/** Times one stretch of work. */
+template <class Work>
+double SecondsOf(Work work)
+{
+    const double start = ThreadSeconds();
+    work();
+    return ThreadSeconds() - start;
+}
+
+double Median(std::vector<double> values);
+
+/** The median of several rounds, variant by variant. */
+Times MedianOf(int count, const std::function<Times()>& round);
+
+/**
+ * Registers the variants of a subject, each as a benchmark "subject/variant" at each size with linear growth fitted.
+ *
+ * A repetition of all variants is one round: they run one after the other, so that a busy machine slows all of them
+ * alike.
+ */
+void Register(const std::string& subject, const std::vector<std::string>& variants, const std::vector<int>& sizes,
+              const Round& round);
+
+/** What a variant is compared with, and the ratio that it is meant to keep to, if any, at one size or all. */
+struct Goal
+{
+    static constexpr int everySize = 0;
+
+    std::string variant;
+    std::string baseline;
+    double limit = std::numeric_limits<double>::infinity();
+    int size = everySize;
+};
+
+/** Lets the program run without a screen; called before the `QApplication` is made. */
+void UseOffscreenPlatform();
+
+/**
+ * Runs what is registered, repeated unless the command line says otherwise, and prints medians as a Markdown table: the
+ * time for each item, and for a variant that has a baseline the ratio to it, in bold where it misses its goal.
+ * Returns the exit code.
+ */
+int RunAndCompare(int argc, char** argv, const std::vector<Goal>& goals);
+
+} // namespace Bench
