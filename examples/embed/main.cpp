@@ -1,7 +1,7 @@
 // The smallest application that shows the panel: two vias, edited and undone.
 
-#include <properties/TPropertyWidget.h>
 #include <properties/sets/TPropertySetForVia.h>
+#include <properties/TPropertyWidget.h>
 
 #include <application/TBoard.h>
 #include <application/TUndoCommand.h>
