@@ -75,6 +75,7 @@ private:
         TGraphicsViaItem* blind = AddVia(0.45, 0.2, "Top - Inner 1");
         blind->SetThermal(TGraphicsViaItem::ThermalYes);
         blind->SetMaskEnabled(true);
+        AddVia(1.1, 0.5, "of no board")->SetMaskClearance(0.25F);
         TGraphicsViaItem* oval = AddVia();
         oval->SetSize(12.3, 10.1);
         oval->SetMaskClearance(-1.5F);

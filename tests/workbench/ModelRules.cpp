@@ -78,16 +78,16 @@ ModelAttribute Drill()
     return drill;
 }
 
+/** A via has the layers of its drill pair; an unknown one goes through the whole board. */
 ModelAttribute DrillPair(const QList<TDrillPair>& pairs)
 {
     ModelAttribute drillPair = Text("drillPair");
     drillPair.write = [pairs, writeName = drillPair.write](StateFields& via, const QVariant& value) {
         writeName(via, value);
-        for (const TDrillPair& pair : pairs) {
-            if (pair.name == value.toString()) {
-                SetLayers(via, pair.first, pair.last);
-            }
-        }
+        const auto known = std::find_if(pairs.cbegin(), pairs.cend(),
+                                        [&value](const TDrillPair& pair) { return pair.name == value.toString(); });
+        const TDrillPair pair = known == pairs.cend() ? TDrillPair() : *known;
+        SetLayers(via, pair.first, pair.last);
     };
     return drillPair;
 }
