@@ -23,9 +23,6 @@ using Bench::Kind;
 /** Small selections are timed many at once: what is timed covers at least so many items. */
 constexpr int itemsInAStretch = 1'000;
 
-/** A repetition goes over a board several times if it is small, and over a large one once. */
-constexpr int itemsInARepetition = 50'000;
-
 /** Edits of all items of a board in selections of one size, with a command for each and with plain loops. */
 template <class Command, class... Arguments>
 class Editing
@@ -152,7 +149,7 @@ void Add(BoardShelf& shelf, const char* name, Kind kind, Arguments... arguments)
             board.Settle();
             return seconds / edit.Selections();
         };
-        return Bench::MedianOf(std::max(1, itemsInARepetition / board.Made().size()), [&] {
+        return Bench::MedianOfRounds([&] {
             // Twice, so that the loop and redo both come after it.
             const double construct = secondsOf(&Edit::Construct);
             const double loop = secondsOf(&Edit::Loop);

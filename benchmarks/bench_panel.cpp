@@ -17,9 +17,7 @@
 namespace {
 
 /** Sets of few rows are replaced many times in a row: what is timed covers at least so many rows. */
-constexpr int rowsInAStretch = 300;
-constexpr int stretchesInARepetition = 3;
-constexpr int manyRows = 1'000;
+constexpr int rowsInAStretch = 100;
 
 /** A set of rows of the common kinds in turn. */
 class SampleSet : public TPropertySet
@@ -153,7 +151,7 @@ int main(int argc, char** argv)
             });
             return seconds / replacements;
         };
-        return Bench::MedianOf(rows < manyRows ? stretchesInARepetition : 1, [&] {
+        return Bench::MedianOfRounds([&] {
             return Bench::Times{secondsToReplace(windows.rowByRow), secondsToReplace(windows.rowByRowCached),
                                 secondsToReplace(windows.panel)};
         });

@@ -24,8 +24,6 @@ constexpr int itemsInAStretch = 10'000;
 /** Of small selections so many sets are made, each with its rows. */
 constexpr int setsInAStretch = 10;
 
-constexpr int roundsInARepetition = 5;
-
 template <class... Values>
 void Use(const Values&... values)
 {
@@ -112,7 +110,7 @@ void Add(BoardShelf& shelf, const char* name, Kind kind, void (*scan)(const Item
         const auto scanAll = [&] { std::for_each(selections.begin(), selections.end(), scan); };
         const std::size_t setCount = std::min<std::size_t>(selections.size(), setsInAStretch);
 
-        return Bench::MedianOf(roundsInARepetition, [&] {
+        return Bench::MedianOfRounds([&] {
             scanAll();
             const double scanning = Bench::SecondsOf(scanAll) / static_cast<double>(selections.size());
 

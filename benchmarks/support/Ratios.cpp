@@ -51,16 +51,18 @@ double Median(std::vector<double> values)
     return *middle;
 }
 
-Times MedianOf(int count, const std::function<Times()>& round)
+Times MedianOfRounds(const std::function<Times()>& round)
 {
+    constexpr double enoughSeconds = 0.15;
+    const double start = ThreadSeconds();
     std::vector<std::vector<double>> byVariant;
-    for (int i = 0; i < count; ++i) {
+    do {
         const Times times = round();
         byVariant.resize(times.size());
         for (std::size_t variant = 0; variant < times.size(); ++variant) {
             byVariant[variant].push_back(times[variant]);
         }
-    }
+    } while (ThreadSeconds() - start < enoughSeconds);
     Times medians;
     for (std::vector<double>& times : byVariant) {
         medians.push_back(Median(std::move(times)));

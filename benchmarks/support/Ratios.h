@@ -28,8 +28,8 @@ double SecondsOf(Work work)
 
 double Median(std::vector<double> values);
 
-/** The median of several rounds, variant by variant. */
-Times MedianOf(int count, const std::function<Times()>& round);
+/** The median of rounds, variant by variant: of several if a round is short, of a single one if it is long. */
+Times MedianOfRounds(const std::function<Times()>& round);
 
 /**
  * Registers the variants of a subject, each as a benchmark "subject/variant" at each size with linear growth fitted.
