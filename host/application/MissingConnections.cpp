@@ -94,10 +94,12 @@ QVector<QPointF> AnchorsOf(const TGraphicsItem& item)
 BoardCopper::BoardCopper(const QList<TGraphicsItem*>& items)
 {
     for (TGraphicsItem* item : items) {
-        if (const auto* pour = dynamic_cast<const TGraphicsPourItem*>(item)) {
+        if (item->type() == ItemType::Pour) {
+            const auto* pour = static_cast<const TGraphicsPourItem*>(item);
             const QPolygonF area = pour->mapToScene(pour->Area());
             pours.append({pour, area, area.boundingRect()});
-        } else if (const auto* keepout = dynamic_cast<const TGraphicsKeepoutItem*>(item)) {
+        } else if (item->type() == ItemType::Keepout) {
+            const auto* keepout = static_cast<const TGraphicsKeepoutItem*>(item);
             const QPolygonF area = keepout->mapToScene(keepout->Area());
             keepouts.append({keepout, area, area.boundingRect()});
         } else if (item->CanBeLinkedTo()) {

@@ -7,7 +7,8 @@
 #include <objects/TGraphicsRatLineItem.h>
 
 #include <algorithm>
-#include <utility>
+#include <map>
+#include <tuple>
 
 TRatNest::TRatNest(TItemScene& ofBoard) : scene(ofBoard)
 {
@@ -27,10 +28,19 @@ void TRatNest::SetNetModel(const TNetModel* newModel)
 
 void TRatNest::Ask(const QStringList& nets)
 {
-    for (const QString& net : nets) {
-        askedNets.insert(net);
+    if (nets.isEmpty()) {
+        return;
     }
-    whenIdle.start();
+    // A caller that asks again and again gives a list that grows: what was in it before is not gone through again.
+    const bool hasGrown =
+        askedCount > 0 && nets.size() >= askedCount && nets.first() == firstAsked && nets[askedCount - 1] == lastAsked;
+    for (int i = hasGrown ? askedCount : 0; i < nets.size(); ++i) {
+        askedNets.insert(nets[i]);
+    }
+    askedCount = nets.size();
+    firstAsked = nets.first();
+    lastAsked = nets.last();
+    WorkOutLater();
 }
 
 void TRatNest::Ask(const QList<unsigned short>& components)
@@ -38,7 +48,14 @@ void TRatNest::Ask(const QList<unsigned short>& components)
     for (const unsigned short component : components) {
         askedComponents.insert(component);
     }
-    whenIdle.start();
+    WorkOutLater();
+}
+
+void TRatNest::WorkOutLater()
+{
+    if (!whenIdle.isActive()) {
+        whenIdle.start();
+    }
 }
 
 QStringList TRatNest::Asked() const
@@ -78,6 +95,7 @@ void TRatNest::WorkOut()
         return;
     }
     askedNets.clear();
+    askedCount = 0;
     askedComponents.clear();
 
     const BoardCopper copper(scene.DesignItems());
@@ -99,23 +117,48 @@ void TRatNest::WorkOut()
 
 void TRatNest::Replace(const QString& net, const QVector<QLineF>& lines)
 {
-    QVector<TGraphicsRatLineItem*> items = linesOf.take(net);
-    while (items.size() > lines.size()) {
-        delete items.takeLast();
+    // Lines that are still missing keep their items.
+    const auto key = [](const QLineF& line) { return std::make_tuple(line.x1(), line.y1(), line.x2(), line.y2()); };
+    std::multimap<std::tuple<double, double, double, double>, TGraphicsRatLineItem*> former;
+    const QVector<TGraphicsRatLineItem*> formerItems = linesOf.take(net);
+    for (TGraphicsRatLineItem* item : formerItems) {
+        former.emplace(key(item->Line()), item);
+    }
+    QVector<TGraphicsRatLineItem*> items(lines.size(), nullptr);
+    for (int i = 0; i < lines.size(); ++i) {
+        const auto same = former.find(key(lines[i]));
+        if (same != former.end()) {
+            items[i] = same->second;
+            former.erase(same);
+        }
     }
     for (int i = 0; i < lines.size(); ++i) {
-        if (i == items.size()) {
-            auto added = std::make_unique<TGraphicsRatLineItem>();
-            items.append(added.get());
-            added->SetAltColor(model ? model->ColorPcb(model->NetRow(net)) : QColor());
-            added.release()->AttachTo(&scene);
+        if (!items[i] && !former.empty()) {
+            items[i] = former.begin()->second;
+            former.erase(former.begin());
+            items[i]->SetLine(lines[i], net);
+        } else if (!items[i]) {
+            items[i] = Added(lines[i], net);
         }
         items[i]->SetPriority(PriorityOf(net));
-        items[i]->SetLine(lines[i], net);
+    }
+    for (const auto& [line, item] : former) {
+        delete item;
     }
     if (!items.isEmpty()) {
         linesOf.insert(net, items);
     }
+}
+
+TGraphicsRatLineItem* TRatNest::Added(const QLineF& line, const QString& net)
+{
+    auto added = std::make_unique<TGraphicsRatLineItem>();
+    added->SetPriority(PriorityOf(net));
+    added->SetLine(line, net);
+    added->SetAltColor(model ? model->ColorPcb(model->NetRow(net)) : QColor());
+    TGraphicsRatLineItem* item = added.release();
+    item->AttachTo(&scene);
+    return item;
 }
 
 QString TRatNest::PriorityOf(const QString& net) const

@@ -47,15 +47,20 @@ public:
     void UpdatePriorities(int level);
 
 private:
+    void WorkOutLater();
     QSet<QString> AskedNets() const;
     QString PriorityOf(const QString& net) const;
     void Replace(const QString& net, const QVector<QLineF>& lines);
+    TGraphicsRatLineItem* Added(const QLineF& line, const QString& net);
 
     TItemScene& scene;
     const TNetModel* model = nullptr;
     QTimer whenIdle;
     QMap<QString, QVector<TGraphicsRatLineItem*>> linesOf; // Owned by the scene.
     QSet<QString> askedNets;
+    int askedCount = 0; ///< Of the list that was asked for last, with its first and last name.
+    QString firstAsked;
+    QString lastAsked;
     QSet<unsigned short> askedComponents;
     bool first = true;
 };

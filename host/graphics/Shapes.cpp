@@ -72,6 +72,7 @@ QPainterPath Shapes::Label(const QString& text)
     constexpr int layoutSize = 100;
     QFont font;
     font.setPixelSize(layoutSize);
+    font.setHintingPreference(QFont::PreferNoHinting);
     QPainterPath path;
     path.addText(0, 0, font, text);
     const QRectF extent = path.boundingRect();

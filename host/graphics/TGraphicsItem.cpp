@@ -234,6 +234,7 @@ QVariant TGraphicsItem::itemChange(GraphicsItemChange change, const QVariant& va
         linkNode.SceneChanges(owner, newOwner);
         owner = newOwner;
         if (owner) {
+            workspace = workspace ? workspace : owner->Workspace();
             owner->Join(*this);
         }
     }

@@ -25,7 +25,6 @@ public:
                 searches.push_back({node->search, {node}, {node}, 0});
             }
         }
-        goingOn = searches.size();
     }
 
     ~TLinkSearch()
@@ -43,6 +42,7 @@ public:
     /** All parts but the one that holds what was not searched to its end. */
     std::vector<Nodes> SeparateParts()
     {
+        goingOn = searches.size();
         std::vector<Nodes> parts;
         std::vector<int> running(searches.size());
         for (size_t i = 0; i < running.size(); ++i) {
@@ -368,9 +368,7 @@ void TLinkNode::MarkNets() const
     item.owner->MarkNet(ownNet);
     if (island) {
         for (const QHash<QString, int>& names : {island->namesGiven, island->namesKept}) {
-            for (auto name = names.cbegin(); name != names.cend(); ++name) {
-                item.owner->MarkNet(name.key());
-            }
+            std::for_each(names.keyBegin(), names.keyEnd(), [this](const QString& name) { item.owner->MarkNet(name); });
         }
     }
 }

@@ -23,6 +23,9 @@ constexpr double stackingOfRatLines = 1.6;
 /** Pours lie this far below all other copper of their layer. */
 constexpr double depthOfPours = 0.5;
 
+/** Copper that is smaller than this many pixels is drawn as a plain box. */
+constexpr double smallestShaped = 5.0;
+
 /** Below this many pixels a text is not worth drawing. */
 constexpr double smallestReadableText = 6.0;
 

@@ -194,8 +194,13 @@ QPainterPath TGraphicsPadItem::CopperGrownBy(double margin) const
 
 void TGraphicsPadItem::Draw(QPainter& painter, double pixelsPerUnit) const
 {
+    const QColor color = !IsSMD() && !AltColor().isValid() ? DrawingStyle::plating : Color();
+    if (std::max(Width(), Height()) * pixelsPerUnit < DrawingStyle::smallestShaped && extraCopper.isEmpty()) {
+        painter.fillRect(OffsetCopperRect(), color);
+        return;
+    }
     painter.setPen(Qt::NoPen);
-    painter.setBrush(!IsSMD() && !AltColor().isValid() ? DrawingStyle::plating : Color());
+    painter.setBrush(color);
     painter.drawPath(Outline());
     DrawHole(painter);
     if (MaskEnabled()) {

@@ -12,7 +12,7 @@ TGraphicsPourItem::TGraphicsPourItem(QGraphicsItem* parent) : TGraphicsItem(pare
     // A pour has a net of its own; what it covers is joined by lying there and not by links.
     LinkNode().SetRole(TLinkNode::Role::Names);
     TGraphicsItem::SetLayer(Osmirel::CopperTop);
-    setZValue(StackingHeight());
+    setZValue(TGraphicsPourItem::StackingHeight());
 }
 
 TGraphicsPourItem::~TGraphicsPourItem() = default;

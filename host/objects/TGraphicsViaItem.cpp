@@ -103,12 +103,17 @@ QPainterPath TGraphicsViaItem::Outline() const
     return path;
 }
 
-void TGraphicsViaItem::Draw(QPainter& painter, double) const
+void TGraphicsViaItem::Draw(QPainter& painter, double pixelsPerUnit) const
 {
     const bool isThrough = startLayer == Osmirel::CopperTop && endLayer == Osmirel::CopperBottom;
     const QColor plating = isThrough ? DrawingStyle::plating : DrawingStyle::blindPlating;
+    const QColor color = AltColor().isValid() ? AltColor() : plating;
+    if (std::max(Width(), Height()) * pixelsPerUnit < DrawingStyle::smallestShaped) {
+        painter.fillRect(CopperRect(), color);
+        return;
+    }
     painter.setPen(Qt::NoPen);
-    painter.setBrush(AltColor().isValid() ? AltColor() : plating);
+    painter.setBrush(color);
     painter.drawEllipse(CopperRect());
 
     const double shownDrill = std::min({static_cast<double>(drill), Width(), Height()});

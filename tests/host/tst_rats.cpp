@@ -214,6 +214,21 @@ private slots:
         QCOMPARE(board.AskedRats(), QStringList());
     }
 
+    void aListThatGrowsFromCallToCallIsAskedForWhole()
+    {
+        Test::Network board;
+        const QStringList all{"B", "A", "D", "C"};
+        for (int count = 1; count <= all.size(); ++count) {
+            board.UpdateRats(all.mid(0, count));
+        }
+        board.UpdateRats(QStringList{"F", "C"});
+        board.UpdateRats(QStringList{"F", "E", "G"});
+        QCOMPARE(board.AskedRats(), (QStringList{"A", "B", "C", "D", "E", "F", "G"}));
+        board.Items();
+        board.UpdateRats(all);
+        QCOMPARE(board.AskedRats(), (QStringList{"A", "B", "C", "D"}));
+    }
+
     void theEventLoopCountsAsALook()
     {
         Test::Network board;
