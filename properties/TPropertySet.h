@@ -74,16 +74,22 @@ protected:
         });
     }
 
-    /** The editing protocol for an attribute whose direct write differs from the command: @p write is given each item.
-     */
+    /** The editing protocol for an attribute whose direct write differs from the command: @p write is given each item. */
     template <class Command, class Item, class Value, class Write>
     void Edit(const QList<Item*>& items, const Value& value, Write write)
+    {
+        EditBy(items, [&items, &value] { return new Command(items, value); }, write);
+    }
+
+    /** The editing protocol for a command that takes more than items and a value: @p make returns a new one. */
+    template <class Item, class Make, class Write>
+    void EditBy(const QList<Item*>& items, Make make, Write write)
     {
         if (items.isEmpty()) {
             return;
         }
         if (!items.first()->HasTFlag(TGraphicsItem::UndoBypass)) {
-            Emit(new Command(items, value));
+            Emit(make());
             return;
         }
         for (Item* item : items) {

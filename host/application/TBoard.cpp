@@ -1,15 +1,32 @@
 #include <application/TBoard.h>
 
+#include <application/TRatNest.h>
+#include <application/TSchematic.h>
+#include <objects/TGraphicsPackageItem.h>
+#include <objects/TGraphicsPadItem.h>
+
 #include <QGraphicsView>
+#include <QSet>
 
-#include <algorithm>
+namespace {
 
-TBoard::TBoard() = default;
+void UpdateNetOf(TGraphicsPadItem& pad, unsigned short component, const TSchematic& schematic)
+{
+    const std::optional<QString> net = schematic.PinNet(component, pad.Number());
+    if (net) {
+        pad.SetNet(*net);
+    }
+}
+
+} // namespace
+
+TBoard::TBoard() : scene(&workspace), rats(std::make_unique<TRatNest>(scene)) {}
 
 TBoard::~TBoard() = default;
 
 QGraphicsView* TBoard::View() const
 {
+    rats->WorkOut();
     return qobject_cast<QGraphicsView*>(view.data());
 }
 
@@ -18,40 +35,23 @@ void TBoard::SetView(QGraphicsView* newView)
     view = newView;
 }
 
-void TBoard::Attach(std::unique_ptr<TGraphicsItem> item)
+void TBoard::SetSchematic(TSchematic* newSchematic)
 {
-    if (!item) {
-        return;
-    }
-    item->SetWorkspace(&workspace);
-    Number(*item);
-    scene.addItem(item.release());
+    schematic = newSchematic;
+    rats->SetNetModel(schematic ? schematic->NetModel() : nullptr);
 }
 
-void TBoard::Number(TGraphicsItem& item)
+void TBoard::Attach(std::unique_ptr<TGraphicsItem> item)
 {
-    if (item.DesignOrder() == 0) {
-        item.SetDesignOrder(++attachedItems);
-    }
-    for (QGraphicsItem* child : item.childItems()) {
-        if (auto* childItem = dynamic_cast<TGraphicsItem*>(child)) {
-            Number(*childItem);
-        }
+    if (item) {
+        item.release()->AttachTo(&scene);
     }
 }
 
 QList<TGraphicsItem*> TBoard::Items() const
 {
-    QList<TGraphicsItem*> items;
-    for (QGraphicsItem* item : scene.items()) {
-        if (auto* designItem = dynamic_cast<TGraphicsItem*>(item)) {
-            items.append(designItem);
-        }
-    }
-    std::sort(items.begin(), items.end(), [](const TGraphicsItem* left, const TGraphicsItem* right) {
-        return left->DesignOrder() < right->DesignOrder();
-    });
-    return items;
+    rats->WorkOut();
+    return scene.DesignItems() + rats->Lines();
 }
 
 QStringList TBoard::ViaGroups() const
@@ -66,8 +66,45 @@ QStringList TBoard::ViaGroups() const
 QString TBoard::Dump() const
 {
     QString dump;
-    for (const TGraphicsItem* item : Items()) {
+    const QList<TGraphicsItem*> items = Items();
+    for (const TGraphicsItem* item : items) {
         dump += item->StateLine() + QLatin1Char('\n');
     }
     return dump;
+}
+
+void TBoard::UpdateRats(const QStringList& nets)
+{
+    rats->Ask(nets);
+}
+
+void TBoard::UpdateRats(const QList<unsigned short>& componentNumbers)
+{
+    rats->Ask(componentNumbers);
+}
+
+QStringList TBoard::AskedRats() const
+{
+    return rats->Asked();
+}
+
+void TBoard::UpdatePadNets(const QList<unsigned short>& componentNumbers)
+{
+    if (!schematic) {
+        return;
+    }
+    const QSet<unsigned short> numbers(componentNumbers.cbegin(), componentNumbers.cend());
+    const QList<TGraphicsItem*> items = scene.DesignItems();
+    for (TGraphicsItem* item : items) {
+        auto* pad = dynamic_cast<TGraphicsPadItem*>(item);
+        const auto* package = pad ? dynamic_cast<TGraphicsPackageItem*>(pad->parentItem()) : nullptr;
+        if (package && numbers.contains(package->ComponentNumber())) {
+            UpdateNetOf(*pad, package->ComponentNumber(), *schematic);
+        }
+    }
+}
+
+void TBoard::RatPriority(int level)
+{
+    rats->UpdatePriorities(level);
 }

@@ -1,20 +1,27 @@
 #pragma once
 
 #include <graphics/TGraphicsItem.h>
+#include <graphics/TItemScene.h>
 #include <workspace/TWorkspace.h>
 
-#include <QGraphicsScene>
 #include <QPointer>
 #include <QStringList>
 
 #include <memory>
 
 class QGraphicsView;
+class TRatNest;
+class TSchematic;
 
 /**
- * A printed-circuit board: its layer table, its drill pairs and its items.
+ * A printed-circuit board: its layer table, its drill pairs, its items and its rat lines.
  *
  * The items are owned by the board's scene. A view may show the scene; it belongs to the application.
+ *
+ * Rat lines are the missing connections of each net. They follow from the items: whatever links, cuts, moves to another
+ * layer, resizes or renames copper marks its net, and the marked nets are worked out once, when somebody looks: when
+ * the view, the items or the dump are asked for, and when the event loop comes round. An item that is moved by hand
+ * marks nothing; whoever moves items asks for an update.
  */
 class TBoard
 {
@@ -27,30 +34,59 @@ public:
     TWorkspace* Workspace() { return &workspace; }
     TLayerManager* LayerManager() { return &workspace.Layers(); }
 
-    /** What items are attached to when they are placed on the board. */
-    QGraphicsScene* Scene() { return &scene; }
+    /** What owns the items of the board: they are attached to it and detached from it. */
+    TItemScene* Scene() { return &scene; }
 
     /** The view that shows the board, null while there is none. */
     QGraphicsView* View() const;
     void SetView(QGraphicsView* newView);
 
+    /** Where nets get priority and colour from, and pads their nets. Told by the project. */
+    void SetSchematic(TSchematic* newSchematic);
+
     /** Places an item, with its children, on the board, which owns it from then on. */
     void Attach(std::unique_ptr<TGraphicsItem> item);
 
-    /** All items, packages before their pads, in the order in which they first joined the board. */
+    /** All items in the order in which they first joined the board, packages before their pads; then the rat lines in
+     *  the order of their nets. */
     QList<TGraphicsItem*> Items() const;
 
     /** Names of the drill pairs, in the order in which they were defined. */
     QStringList ViaGroups() const;
 
-    /** The state of every item, one line each, in the design's order. */
+    /** The state of every item, one line each, in the order of `Items`. */
     QString Dump() const;
 
-private:
-    void Number(TGraphicsItem& item);
+    /** Whether the packages' designators and values are shown. The setters store only. */
+    bool RefDesVisible() const { return refDesVisible; }
+    void SetRefDesVisible(bool on) { refDesVisible = on; }
+    bool ValuesVisible() const { return valuesVisible; }
+    void SetValuesVisible(bool on) { valuesVisible = on; }
 
+    /** Whether nets and values of the board follow the schematic. The setter stores only. */
+    bool ConnectivityEnabled() const { return connectivityEnabled; }
+    void SetConnectivityEnabled(bool on) { connectivityEnabled = on; }
+
+    /** Asks for the rat lines of nets, or of all nets of the components' pads, to be worked out anew. Costs next to
+     *  nothing, however often it is called. */
+    void UpdateRats(const QStringList& nets);
+    void UpdateRats(const QList<unsigned short>& componentNumbers);
+    /** The nets that were asked for since somebody last looked, sorted. */
+    QStringList AskedRats() const;
+
+    /** Gives the pads of the components the nets that the schematic says; others keep theirs. */
+    void UpdatePadNets(const QList<unsigned short>& componentNumbers);
+
+    /** Brings the rat lines of a priority level up to date with the nets' priorities; -1 for all levels. */
+    void RatPriority(int level);
+
+private:
     TWorkspace workspace; // Outlives the scene with its items, which point to it.
-    QGraphicsScene scene;
+    TItemScene scene;
+    std::unique_ptr<TRatNest> rats; // Its lines belong to the scene.
     QPointer<QObject> view;
-    int attachedItems = 0;
+    TSchematic* schematic = nullptr;
+    bool refDesVisible = true;
+    bool valuesVisible = true;
+    bool connectivityEnabled = false;
 };

@@ -6,7 +6,7 @@ namespace ItemType {
 enum Number : int {
     Line = 0x10002,
     Rectangle = 0x10003,
-    RoundedRectangle = 0x10004,
+    Ellipse = 0x10004,
     Polyline = 0x10005,
     Polygon = 0x10006,
     Arc = 0x10007,

@@ -1,5 +1,6 @@
 #include <graphics/TGraphicsItem.h>
 
+#include <graphics/TItemScene.h>
 #include <graphics/TStateText.h>
 #include <workspace/TWorkspace.h>
 
@@ -15,11 +16,118 @@ TGraphicsItem::TGraphicsItem(QGraphicsItem* parent) : QGraphicsItem(parent)
     if (const auto* item = dynamic_cast<TGraphicsItem*>(parent)) {
         workspace = item->workspace;
     }
+    // An item that is constructed into a scene was announced before it could take note.
+    owner = qobject_cast<TItemScene*>(scene());
+    if (owner) {
+        owner->Join(*this);
+    }
+}
+
+TGraphicsItem::~TGraphicsItem()
+{
+    if (owner) {
+        owner->MarkNet(TGraphicsItem::Net());
+    }
+    linkNode.Release();
+    if (owner) {
+        owner->Leave(*this);
+    }
+}
+
+void TGraphicsItem::AttachTo(TItemScene* newOwner)
+{
+    if (newOwner && newOwner != owner) {
+        SetWorkspace(newOwner->Workspace());
+        newOwner->addItem(this);
+    }
+}
+
+void TGraphicsItem::Detach()
+{
+    if (owner) {
+        owner->removeItem(this);
+    }
+}
+
+TGraphicsItem* TGraphicsItem::CreateCopy() const
+{
+    std::unique_ptr<TGraphicsItem> copy = CreateEmpty();
+    copy->CopyFrom(*this);
+    return copy.release();
+}
+
+void TGraphicsItem::CopyFrom(const TGraphicsItem& source)
+{
+    flagWord = source.flagWord & ~static_cast<unsigned>(Selected);
+    layer = source.layer;
+    workspace = source.workspace;
+    altColor = source.altColor;
+    linkNode.SetOwnNet(source.OwnNet());
+    setPos(source.pos());
+    setRotation(source.rotation());
+    setZValue(source.zValue());
+    const QGraphicsItem* parent = source.parentItem();
+    setVisible(source.isVisible() || (parent && !parent->isVisible()));
+    for (const QGraphicsItem* child : source.childItems()) {
+        if (const auto* designChild = dynamic_cast<const TGraphicsItem*>(child)) {
+            designChild->CreateCopy()->setParentItem(this);
+        }
+    }
+}
+
+bool TGraphicsItem::ReplaceLinkedItem(TGraphicsItem*, TGraphicsItem*)
+{
+    return false;
+}
+
+void TGraphicsItem::AcceptLink(TGraphicsItem*, LinkEnd) {}
+
+void TGraphicsItem::ReleaseLink(TGraphicsItem*, LinkEnd) {}
+
+void TGraphicsItem::StoreLink(TGraphicsItem*& link, TGraphicsItem* target)
+{
+    // The new link before the old one goes: storing the same item again is no change.
+    if (target) {
+        linkNode.Hold(target->linkNode);
+    }
+    if (link) {
+        linkNode.Drop(link->linkNode);
+    }
+    link = target;
+}
+
+void TGraphicsItem::MarkNet() const
+{
+    if (owner) {
+        owner->MarkNet(Net());
+    }
+}
+
+void TGraphicsItem::MarkPours() const
+{
+    if (owner) {
+        owner->MarkPours();
+    }
+}
+
+QString TGraphicsItem::PlaceName() const
+{
+    return TStateText(KindName()).AddPlace(static_cast<int>(layer), {scenePos()}).Line();
+}
+
+void TGraphicsItem::DescribeLinks(TStateText& state, const char* name, const QVector<TGraphicsItem*>& links)
+{
+    QStringList places;
+    for (const TGraphicsItem* link : links) {
+        places.append(link->PlaceName());
+    }
+    places.sort();
+    state.Add(name, places);
 }
 
 void TGraphicsItem::SetTFlag(TFlag flag, bool on)
 {
-    flags = on ? flags | flag : flags & ~static_cast<unsigned>(flag);
+    flagWord = on ? flagWord | flag : flagWord & ~static_cast<unsigned>(flag);
     update();
 }
 
@@ -38,6 +146,13 @@ void TGraphicsItem::SetLayer(Osmirel::Layer newLayer)
     layer = newLayer;
     setZValue(StackingHeight());
     update();
+}
+
+void TGraphicsItem::Flip()
+{
+    setPos(-pos().x(), pos().y());
+    setRotation(-rotation());
+    SetLayer(Osmirel::OppositeLayer(layer));
 }
 
 void TGraphicsItem::SetAltColor(const QColor& color)
@@ -68,7 +183,7 @@ void TGraphicsItem::Describe(TStateText& state) const
     state.Add("at", scenePos())
         .Add("rotation", rotation())
         .Add("layer", static_cast<int>(layer))
-        .Add("flags", static_cast<int>(flags & ~static_cast<unsigned>(Selected)))
+        .Add("flags", static_cast<int>(flagWord & ~static_cast<unsigned>(Selected)))
         .Add("color", altColor)
         .Add("net", Net());
     if (const auto* parent = dynamic_cast<TGraphicsItem*>(parentItem())) {
@@ -122,6 +237,17 @@ QVariant TGraphicsItem::itemChange(GraphicsItemChange change, const QVariant& va
 {
     if (change == ItemSelectedHasChanged) {
         SetTFlag(Selected, value.toBool());
+    } else if (change == ItemSceneHasChanged) {
+        auto* newOwner = qobject_cast<TItemScene*>(value.value<QGraphicsScene*>());
+        if (owner && owner != newOwner) {
+            owner->Leave(*this);
+        }
+        linkNode.SceneChanges(owner, newOwner);
+        owner = newOwner;
+        if (owner) {
+            workspace = workspace ? workspace : owner->Workspace();
+            owner->Join(*this);
+        }
     }
     return QGraphicsItem::itemChange(change, value);
 }

@@ -1,12 +1,16 @@
 #pragma once
 
 #include <graphics/ItemTypes.h>
+#include <graphics/TLinkNode.h>
 #include <workspace/Osmirel.h>
 
 #include <QColor>
 #include <QGraphicsItem>
 #include <QPainterPath>
 
+#include <memory>
+
+class TItemScene;
 class TStateText;
 class TWorkspace;
 
@@ -16,6 +20,9 @@ class TWorkspace;
  * Positions and lengths are scene units of 1/300 inch, y grows downwards; rotations are degrees, clockwise as seen.
  * An item is owned by the scene or the parent item that it is attached to, and by its creator while detached. The
  * workspace is shared with the rest of the document and outlives the item; null for an item of no document.
+ *
+ * Items hold links to each other. Between commands every link is held by both of its items; a single call may be
+ * one-sided, and then says so. An item that is destroyed disappears from every item that holds a link to it.
  */
 class TGraphicsItem : public QGraphicsItem
 {
@@ -31,13 +38,17 @@ public:
         MirrorVertical = 0x1000,
     };
 
+    /** The end of a straight section at which another item is linked. */
+    enum class LinkEnd { First, Last };
+
     explicit TGraphicsItem(QGraphicsItem* parent = nullptr);
+    ~TGraphicsItem() override;
 
     /** The item's kind: a value of `ItemType`, by which all of the application tells items apart. */
     int type() const override = 0;
 
-    unsigned TFlags() const { return flags; }
-    bool HasTFlag(TFlag flag) const { return (flags & flag) != 0; }
+    unsigned TFlags() const { return flagWord; }
+    bool HasTFlag(TFlag flag) const { return (flagWord & flag) != 0; }
     /** Sets or clears one bit of the flag word and repaints. */
     void SetTFlag(TFlag flag, bool on);
 
@@ -49,13 +60,54 @@ public:
     /** Moves the item to a layer, restacks and repaints it. */
     virtual void SetLayer(Osmirel::Layer newLayer);
 
+    /** Whether the item is copper of a layer. The base says so of everything that lies on a copper layer. */
+    virtual bool HasCopperOn(Osmirel::Layer copper) const { return layer == copper && Osmirel::IsCopper(copper); }
+
+    /** Mirrors the item in the y axis of its parent and puts it on the layer of the board's other side, and repaints.
+     *  Doing it twice restores the item exactly. */
+    virtual void Flip();
+
     /** The item's own colour; invalid when it is drawn in its layer's colour. */
     const QColor& AltColor() const { return altColor; }
     /** Sets the item's own colour, or gives it back its layer's with an invalid one, and repaints. */
     void SetAltColor(const QColor& color);
 
-    /** Name of the net that the item is on; empty for none. */
-    virtual QString Net() const { return {}; }
+    /** The scene that owns the item; null while it is detached. */
+    TItemScene* Owner() const { return owner; }
+    /** Places the item, with its children, in the scene, which owns it from then on. Links stay as they are. */
+    void AttachTo(TItemScene* newOwner);
+    /** Takes the item, with its children, off its scene. The caller owns it from then on. Links stay as they are. */
+    void Detach();
+
+    /**
+     * A copy of all attributes, with copies of its children, and without links: attached to nothing, not selected, in
+     * the same workspace, at the same position. The caller owns it.
+     */
+    TGraphicsItem* CreateCopy() const;
+
+    /** The items that this one holds a link to, once for each link; in an order only where the kind says so. */
+    virtual QVector<TGraphicsItem*> Links() const { return {}; }
+    /**
+     * One-sided: in this item's own links, puts @p to in the place of one link to @p from, or removes that link when
+     * @p to is null. In a section that is linked to @p from at both ends this is the first end. Tells whether there
+     * was such a link.
+     */
+    virtual bool ReplaceLinkedItem(TGraphicsItem* from, TGraphicsItem* to);
+    /** One-sided: a section was linked to this item with one of its ends. Kinds that cannot be linked to ignore it. */
+    virtual void AcceptLink(TGraphicsItem* section, LinkEnd end);
+    /** One-sided: the section's end is no longer linked to this item. */
+    virtual void ReleaseLink(TGraphicsItem* section, LinkEnd end);
+    /** Whether sections can be linked to this item. */
+    virtual bool CanBeLinkedTo() const { return false; }
+
+    /** Name of the net that the item is on, as links and own name make it; empty for none. */
+    virtual QString Net() const { return linkNode.Net(); }
+    /** The name that the item has without regard to its links. */
+    const QString& OwnNet() const { return linkNode.OwnNet(); }
+    /** The item's place among the links of the design; for items that store links of their own. */
+    TLinkNode& LinkNode() { return linkNode; }
+    /** The items that links join with this one; null when it is linked with none. Valid until links change. */
+    const TLinkIsland* Island() const { return linkNode.Island(); }
 
     /** Brings the drawing up to date after attributes were written. The base repaints the whole item. */
     virtual void Refresh();
@@ -67,11 +119,17 @@ public:
     int DesignOrder() const { return designOrder; }
     void SetDesignOrder(int order) { designOrder = order; }
 
+    /** Whether the document made the item from others: it gets no number and tells nothing of copper. */
+    virtual bool IsDerived() const { return false; }
+
     /** The whole state as one line, without a line break. The selection is not part of it. */
     QString StateLine() const;
 
     /** One word for the kind, as it begins the state line and names it on a command line. */
     virtual QString KindName() const = 0;
+
+    /** Kind, layer and place in a few characters, as the state lines of others name the item. */
+    virtual QString PlaceName() const;
 
     /** What is drawn, in the item's own coordinates, whether or not its layer is visible. */
     virtual QPainterPath Outline() const = 0;
@@ -97,12 +155,32 @@ protected:
     /** The item's own colour or else its layer's. */
     QColor Color() const;
 
+    /** A new item of the same kind, as it is constructed. */
+    virtual std::unique_ptr<TGraphicsItem> CreateEmpty() const = 0;
+    /** Takes over the attributes of an item of the same kind; derived classes call their base first. */
+    virtual void CopyFrom(const TGraphicsItem& source);
+
+    /** Writes a link that this item holds, and tells both items' nodes; one-sided. */
+    void StoreLink(TGraphicsItem*& link, TGraphicsItem* target);
+
+    /** Notes that the copper of the item's net is no longer what it was. */
+    void MarkNet() const;
+    /** Notes that what pours cover is no longer what it was. */
+    void MarkPours() const;
+
+    /** Adds the items' place names, sorted, under a name. */
+    static void DescribeLinks(TStateText& state, const char* name, const QVector<TGraphicsItem*>& links);
+
     QVariant itemChange(GraphicsItemChange change, const QVariant& value) override;
 
 private:
-    unsigned flags = 0;
+    friend class TLinkNode;
+
+    unsigned flagWord = 0;
     int designOrder = 0;
     Osmirel::Layer layer = Osmirel::NoLayer;
     TWorkspace* workspace = nullptr;
+    TItemScene* owner = nullptr;
     QColor altColor;
+    TLinkNode linkNode{*this};
 };

@@ -2,6 +2,7 @@
 
 #include <graphics/TGraphicsItem.h>
 
+#include <QBrush>
 #include <QPen>
 
 /** An item that is drawn with a pen of its own. */
@@ -21,11 +22,20 @@ public:
 
 protected:
     void Describe(TStateText& state) const override;
+    void CopyFrom(const TGraphicsItem& source) override;
 
     /** The pen with its width and the item's colour, ready to draw with. */
     QPen DrawingPen() const;
 
+    /** A brush in the item's colour, ready to fill with. */
+    QBrush FillingBrush(const QBrush& brush) const;
+
+    /** What the pen's stroke along a path covers, never so thin that it cannot be picked. */
+    QPainterPath Stroked(const QPainterPath& path) const;
+    /** A rectangle with room for half the pen's width at each side. */
+    QRectF WithPenMargin(const QRectF& rect) const;
+
 private:
     float penWidth = 0;
-    QPen pen;
+    QPen pen{Qt::black, 0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
 };

@@ -27,7 +27,7 @@ QPainterPath TGraphicsRectItem::Outline() const
 void TGraphicsRectItem::Draw(QPainter& painter, double) const
 {
     painter.setPen(DrawingPen());
-    painter.setBrush(brush);
+    painter.setBrush(FillingBrush(brush));
     painter.drawRect(Rect());
 }
 
@@ -35,4 +35,17 @@ void TGraphicsRectItem::Describe(TStateText& state) const
 {
     TGraphicsPenItem::Describe(state);
     state.Add("size", size).Add("brush", static_cast<int>(brush.style()));
+}
+
+std::unique_ptr<TGraphicsItem> TGraphicsRectItem::CreateEmpty() const
+{
+    return std::make_unique<TGraphicsRectItem>();
+}
+
+void TGraphicsRectItem::CopyFrom(const TGraphicsItem& source)
+{
+    TGraphicsPenItem::CopyFrom(source);
+    const auto& other = static_cast<const TGraphicsRectItem&>(source);
+    size = other.size;
+    brush = other.brush;
 }

@@ -26,6 +26,8 @@ public:
     QPainterPath Outline() const override;
 
 protected:
+    std::unique_ptr<TGraphicsItem> CreateEmpty() const override;
+    void CopyFrom(const TGraphicsItem& source) override;
     void Describe(TStateText& state) const override;
     void Draw(QPainter& painter, double pixelsPerUnit) const override;
 

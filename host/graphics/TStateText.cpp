@@ -4,7 +4,9 @@
 #include <QLocale>
 #include <QPainterPath>
 #include <QPointF>
+#include <QPolygonF>
 #include <QSizeF>
+#include <QStringList>
 
 namespace {
 
@@ -91,5 +93,30 @@ TStateText& TStateText::Add(const char* name, const QPainterPath& path)
         points += QString::number(element.type) + Pair(element.x, element.y);
     }
     Append(name, points);
+    return *this;
+}
+
+TStateText& TStateText::Add(const char* name, const QPolygonF& polygon)
+{
+    QString points;
+    for (const QPointF& point : polygon) {
+        points += Pair(point.x(), point.y());
+    }
+    Append(name, points);
+    return *this;
+}
+
+TStateText& TStateText::Add(const char* name, const QStringList& words)
+{
+    Append(name, QLatin1Char('[') + words.join(QLatin1Char(',')) + QLatin1Char(']'));
+    return *this;
+}
+
+TStateText& TStateText::AddPlace(int layer, const QVector<QPointF>& points)
+{
+    line += QLatin1Char('@') + QString::number(layer);
+    for (const QPointF& point : points) {
+        line += Pair(point.x(), point.y());
+    }
     return *this;
 }

@@ -1,11 +1,14 @@
 #pragma once
 
 #include <QString>
+#include <QVector>
 
 class QColor;
 class QPainterPath;
 class QPointF;
+class QPolygonF;
 class QSizeF;
+class QStringList;
 
 /**
  * Builds the canonical line that says an item's whole state: the kind, then `name=value` pairs in the order in which
@@ -27,6 +30,12 @@ public:
     TStateText& Add(const char* name, const QSizeF& size);
     TStateText& Add(const char* name, const QColor& color);
     TStateText& Add(const char* name, const QPainterPath& path);
+    TStateText& Add(const char* name, const QPolygonF& polygon);
+    /** A list of words that need no quotes. */
+    TStateText& Add(const char* name, const QStringList& words);
+
+    /** A layer and points of the scene, without blanks, behind what there is so far. */
+    TStateText& AddPlace(int layer, const QVector<QPointF>& points);
 
     const QString& Line() const { return line; }
 

@@ -10,9 +10,18 @@ inline constexpr QColor holeRim(0xd8, 0xdc, 0xe4);
 inline constexpr QColor plating(0xc8, 0xb4, 0x6e); ///< Copper that goes through the whole board.
 inline constexpr QColor blindPlating(0x9c, 0xa8, 0xd8);
 inline constexpr QColor textOnCopper(0xff, 0xff, 0xff);
+inline constexpr QColor ratLine(0xe6, 0xe6, 0xc8, 0x90);
+inline constexpr QColor keepout(0xe0, 0x5a, 0x78);
+inline constexpr QColor boardEdge(0xf2, 0xe2, 0x6a);
+inline constexpr int alphaOfPourEdge = 200;
 
 /** Drilled items lie above the copper of every layer, whose heights are negative. */
 constexpr double stackingOfDrilled = 1.0;
+constexpr double stackingOfKeepouts = 1.2;
+constexpr double stackingOfBoardEdge = 1.4;
+constexpr double stackingOfRatLines = 1.6;
+/** Pours lie this far below all other copper of their layer. */
+constexpr double depthOfPours = 0.5;
 
 /** Below this many pixels a text is not worth drawing. */
 constexpr double smallestReadableText = 6.0;

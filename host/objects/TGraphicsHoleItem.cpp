@@ -4,6 +4,11 @@
 
 #include <QPainter>
 
+TGraphicsHoleItem::TGraphicsHoleItem(QGraphicsItem* parent) : TGraphicsRectItem(parent)
+{
+    setZValue(DrawingStyle::stackingOfDrilled);
+}
+
 QPainterPath TGraphicsHoleItem::Outline() const
 {
     QPainterPath path;
@@ -23,4 +28,9 @@ void TGraphicsHoleItem::Draw(QPainter& painter, double) const
 double TGraphicsHoleItem::StackingHeight() const
 {
     return DrawingStyle::stackingOfDrilled;
+}
+
+std::unique_ptr<TGraphicsItem> TGraphicsHoleItem::CreateEmpty() const
+{
+    return std::make_unique<TGraphicsHoleItem>();
 }

@@ -6,7 +6,7 @@
 class TGraphicsHoleItem : public TGraphicsRectItem
 {
 public:
-    using TGraphicsRectItem::TGraphicsRectItem;
+    explicit TGraphicsHoleItem(QGraphicsItem* parent = nullptr);
 
     int type() const override { return ItemType::Hole; }
     QString KindName() const override { return QStringLiteral("hole"); }
@@ -14,6 +14,7 @@ public:
     QPainterPath Outline() const override;
 
 protected:
+    std::unique_ptr<TGraphicsItem> CreateEmpty() const override;
     void Draw(QPainter& painter, double pixelsPerUnit) const override;
     double StackingHeight() const override;
 };

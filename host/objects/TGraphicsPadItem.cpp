@@ -1,9 +1,9 @@
 #include <objects/TGraphicsPadItem.h>
 
+#include <graphics/Shapes.h>
 #include <graphics/TStateText.h>
 #include <objects/DrawingStyle.h>
 
-#include <QFont>
 #include <QPainter>
 #include <QtMath>
 
@@ -54,11 +54,17 @@ QPainterPath Rounded(const QRectF& box, double radius)
 
 } // namespace
 
+TGraphicsPadItem::TGraphicsPadItem(QGraphicsItem* parent) : TGraphicsViaItem(parent)
+{
+    LinkNode().SetRole(TLinkNode::Role::Names);
+}
+
 template <class Value>
 void TGraphicsPadItem::StoreGeometry(Value& field, const Value& value)
 {
     prepareGeometryChange();
     field = value;
+    MarkNet();
     Refresh();
 }
 
@@ -131,6 +137,17 @@ void TGraphicsPadItem::SetDrillStretch(const QSizeF& stretch)
 void TGraphicsPadItem::SetExtraCopper(const QPainterPath& path)
 {
     StoreGeometry(extraCopper, path);
+}
+
+void TGraphicsPadItem::Flip()
+{
+    prepareGeometryChange();
+    setPos(-pos().x(), pos().y());
+    setRotation(-rotation());
+    taper.setWidth(-taper.width());
+    copperOffset.setX(-copperOffset.x());
+    extraCopper = QTransform::fromScale(-1, 1).map(extraCopper);
+    SetLayers(Osmirel::OppositeLayer(StartLayer()), Osmirel::OppositeLayer(EndLayer()));
 }
 
 QRectF TGraphicsPadItem::boundingRect() const
@@ -224,12 +241,7 @@ void TGraphicsPadItem::DrawNumber(QPainter& painter, double pixelsPerUnit) const
         return;
     }
     if (numberPath.isEmpty()) {
-        QFont font;
-        font.setPixelSize(100);
-        QPainterPath text;
-        text.addText(0, 0, font, number);
-        const QRectF extent = text.boundingRect();
-        numberPath = QTransform::fromScale(0.01, 0.01).translate(-extent.center().x(), -extent.center().y()).map(text);
+        numberPath = Shapes::Label(number);
     }
     // The number reads upright however the package is turned; it is never seen from behind.
     const double turned = std::fmod(parentItem() ? parentItem()->rotation() + rotation() : rotation(), 360.0);
@@ -260,4 +272,25 @@ void TGraphicsPadItem::Describe(TStateText& state) const
         .Add("copperOffset", copperOffset)
         .Add("drillStretch", drillStretch)
         .Add("extraCopper", extraCopper);
+}
+
+std::unique_ptr<TGraphicsItem> TGraphicsPadItem::CreateEmpty() const
+{
+    return std::make_unique<TGraphicsPadItem>();
+}
+
+void TGraphicsPadItem::CopyFrom(const TGraphicsItem& source)
+{
+    TGraphicsViaItem::CopyFrom(source);
+    const auto& other = static_cast<const TGraphicsPadItem&>(source);
+    number = other.number;
+    name = other.name;
+    padShape = other.padShape;
+    pasteEnabled = other.pasteEnabled;
+    pasteClearance = other.pasteClearance;
+    cornerRatio = other.cornerRatio;
+    taper = other.taper;
+    copperOffset = other.copperOffset;
+    drillStretch = other.drillStretch;
+    extraCopper = other.extraCopper;
 }

@@ -4,7 +4,8 @@
 
 /**
  * A pad of the board: copper of one of several shapes, on one layer (a surface pad, whose start and end layer are
- * equal) or through the board. A pad with a parent item belongs to that package.
+ * equal) or through the board. A pad with a parent item belongs to that package. Its net is given by the schematic or
+ * the file, and gives the copper that is linked with it its net.
  */
 class TGraphicsPadItem : public TGraphicsViaItem
 {
@@ -18,7 +19,7 @@ public:
         ShapeLongOctagon = 6,
     };
 
-    using TGraphicsViaItem::TGraphicsViaItem;
+    explicit TGraphicsPadItem(QGraphicsItem* parent = nullptr);
 
     int type() const override { return ItemType::Pad; }
     QString KindName() const override { return QStringLiteral("pad"); }
@@ -74,10 +75,14 @@ public:
     const QPainterPath& ExtraCopper() const { return extraCopper; }
     void SetExtraCopper(const QPainterPath& path);
 
+    void Flip() override;
+
     QRectF boundingRect() const override;
     QPainterPath Outline() const override;
 
 protected:
+    std::unique_ptr<TGraphicsItem> CreateEmpty() const override;
+    void CopyFrom(const TGraphicsItem& source) override;
     void Describe(TStateText& state) const override;
     void Draw(QPainter& painter, double pixelsPerUnit) const override;
 

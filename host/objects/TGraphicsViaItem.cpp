@@ -2,6 +2,7 @@
 
 #include <graphics/TStateText.h>
 #include <objects/DrawingStyle.h>
+#include <objects/TGraphicsSectionItem.h>
 #include <workspace/TWorkspace.h>
 
 #include <QPainter>
@@ -18,6 +19,7 @@ void TGraphicsViaItem::SetSize(double width, double height)
 {
     prepareGeometryChange();
     StoreSize({width, height});
+    MarkNet();
     Refresh();
 }
 
@@ -27,6 +29,7 @@ void TGraphicsViaItem::SetViaGroup(const QString& name)
     const TDrillPair* pair = Workspace() ? Workspace()->Layers().DrillPair(name) : nullptr;
     startLayer = pair ? pair->first : Osmirel::CopperTop;
     endLayer = pair ? pair->last : Osmirel::CopperBottom;
+    MarkNet();
     Refresh();
 }
 
@@ -42,6 +45,7 @@ void TGraphicsViaItem::SetLayers(Osmirel::Layer start, Osmirel::Layer end)
     startLayer = start;
     endLayer = end;
     SetLayer(start);
+    MarkNet();
     Refresh();
 }
 
@@ -50,10 +54,27 @@ QList<Osmirel::Layer> TGraphicsViaItem::EtchLayers() const
     return Workspace() ? Workspace()->Layers().CopperLayers(startLayer, endLayer) : QList<Osmirel::Layer>();
 }
 
+bool TGraphicsViaItem::HasCopperOn(Osmirel::Layer copper) const
+{
+    const auto [first, last] = std::minmax(startLayer, endLayer);
+    return Osmirel::IsCopper(copper) && copper >= first && copper <= last
+           && (!Workspace() || Workspace()->Layers().HasLayer(copper));
+}
+
 void TGraphicsViaItem::SetNet(const QString& name)
 {
-    net = name;
+    LinkNode().SetOwnNet(name);
     Refresh();
+}
+
+void TGraphicsViaItem::AddLinkedWire(TGraphicsSectionItem* wire)
+{
+    linked.Add(wire);
+}
+
+void TGraphicsViaItem::RemoveLinkedWire(TGraphicsSectionItem* wire)
+{
+    linked.Remove(wire);
 }
 
 bool TGraphicsViaItem::IsOnVisibleLayer() const
@@ -146,4 +167,24 @@ void TGraphicsViaItem::Describe(TStateText& state) const
         .Add("end", static_cast<int>(endLayer))
         .Add("mask", maskEnabled)
         .Add("maskClearance", maskClearance);
+    DescribeLinks(state, "wires", Links());
+}
+
+std::unique_ptr<TGraphicsItem> TGraphicsViaItem::CreateEmpty() const
+{
+    return std::make_unique<TGraphicsViaItem>();
+}
+
+void TGraphicsViaItem::CopyFrom(const TGraphicsItem& source)
+{
+    TGraphicsItem::CopyFrom(source);
+    const auto& other = static_cast<const TGraphicsViaItem&>(source);
+    size = other.size;
+    drill = other.drill;
+    thermal = other.thermal;
+    viaGroup = other.viaGroup;
+    maskEnabled = other.maskEnabled;
+    maskClearance = other.maskClearance;
+    startLayer = other.startLayer;
+    endLayer = other.endLayer;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <graphics/TGraphicsItem.h>
+#include <objects/TLinkList.h>
 
 /** A plated hole that joins copper layers: a via of the board, and the base of its pads. */
 class TGraphicsViaItem : public TGraphicsItem
@@ -52,15 +53,31 @@ public:
     /** The copper layers of the document that the item reaches, from the top down. */
     QList<Osmirel::Layer> EtchLayers() const;
 
-    QString Net() const override { return net; }
-    /** Sets the net's name and repaints. */
+    /** Whether a layer is one of `EtchLayers`, or without a document would be. */
+    bool HasCopperOn(Osmirel::Layer copper) const override;
+
+    /** Sets the item's own net name and repaints. A via bears it where links give it none; a pad always. */
     void SetNet(const QString& name);
+
+    /** The wires that are linked here, once for each of their ends, in the order in which they were linked. */
+    const QList<TGraphicsSectionItem*>& LinkedWires() const { return linked.Sections(); }
+    /** One-sided: adds one end of a wire to the list, or removes one. */
+    void AddLinkedWire(TGraphicsSectionItem* wire);
+    void RemoveLinkedWire(TGraphicsSectionItem* wire);
+
+    QVector<TGraphicsItem*> Links() const override { return linked.Items(); }
+    bool ReplaceLinkedItem(TGraphicsItem* from, TGraphicsItem* to) override { return linked.Replace(from, to); }
+    void AcceptLink(TGraphicsItem* section, LinkEnd) override { linked.Add(section); }
+    void ReleaseLink(TGraphicsItem* section, LinkEnd) override { linked.Remove(section); }
+    bool CanBeLinkedTo() const override { return true; }
 
     bool IsOnVisibleLayer() const override;
     QRectF boundingRect() const override;
     QPainterPath Outline() const override;
 
 protected:
+    std::unique_ptr<TGraphicsItem> CreateEmpty() const override;
+    void CopyFrom(const TGraphicsItem& source) override;
     void Describe(TStateText& state) const override;
     void Draw(QPainter& painter, double pixelsPerUnit) const override;
     double StackingHeight() const override;
@@ -86,5 +103,5 @@ private:
     float maskClearance = 0;
     Osmirel::Layer startLayer = Osmirel::CopperTop;
     Osmirel::Layer endLayer = Osmirel::CopperBottom;
-    QString net;
+    TLinkList linked{LinkNode()};
 };

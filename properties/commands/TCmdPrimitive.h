@@ -7,7 +7,65 @@
 
 #include <graphics/TGraphicsRectItem.h>
 
+#include <QBrush>
+
 namespace Attributes {
+
+/** Drawings of any shape. */
+using AnyPrimitive = OfKind<ItemType::Line, ItemType::Rectangle, ItemType::Ellipse, ItemType::Polyline,
+                            ItemType::Polygon, ItemType::Arc>;
+/** Drawings of a closed shape, which have a filling. */
+using FilledPrimitive = OfKind<ItemType::Rectangle, ItemType::Ellipse, ItemType::Polygon>;
+
+/** Leaves out what is part of a package or symbol: commands change only free drawings. */
+template <class Kinds>
+struct WithoutParent
+{
+    static bool Accepts(const TGraphicsItem& item) { return !item.parentItem() && Kinds::Accepts(item); }
+};
+
+/** Items of all kinds. */
+struct AnyKind
+{
+    static bool Accepts(const TGraphicsItem&) { return true; }
+};
+
+/** The stroke width, which a pen item holds in single precision. */
+struct PenWidth : Length<TGraphicsPenItem>, WithoutParent<AnyPrimitive>
+{
+    static double Read(const TGraphicsPenItem& item) { return static_cast<double>(item.PenWidth()); }
+    static void Write(TGraphicsPenItem& item, double width) { item.SetPenWidth(static_cast<float>(width)); }
+};
+
+struct PenStyle : Plain<TGraphicsPenItem, Qt::PenStyle>, WithoutParent<AnyPrimitive>
+{
+    static Qt::PenStyle Read(const TGraphicsPenItem& item) { return item.Pen().style(); }
+    static void Write(TGraphicsPenItem& item, Qt::PenStyle style)
+    {
+        item.Pen().setStyle(style);
+        item.update();
+    }
+};
+
+/** How a closed shape is filled; polygons keep their brush in another place than the other shapes. */
+struct BrushStyle : Choice<TGraphicsItem, Qt::BrushStyle>, WithoutParent<FilledPrimitive>
+{
+    static Qt::BrushStyle Read(const TGraphicsItem& item);
+    static void Write(TGraphicsItem& item, Qt::BrushStyle style);
+};
+
+struct LayerPrim : Plain<TGraphicsItem, Osmirel::Layer>, WithoutParent<AnyPrimitive>
+{
+    static Osmirel::Layer Read(const TGraphicsItem& item) { return item.Layer(); }
+    static void Write(TGraphicsItem& item, Osmirel::Layer layer) { item.SetLayer(layer); }
+};
+
+/** An item's own colour; an invalid one stands for its layer's. */
+struct UserColor : Plain<TGraphicsItem, QColor>, WithoutParent<AnyKind>
+{
+    static QColor Read(const TGraphicsItem& item) { return item.AltColor(); }
+    static void Write(TGraphicsItem& item, const QColor& color) { item.SetAltColor(color); }
+};
 
 /** Width and height of a rectangle, which holds them in single precision. */
 struct RectSize : Plain<TGraphicsRectItem, QSizeF>
@@ -21,6 +79,44 @@ struct RectSize : Plain<TGraphicsRectItem, QSizeF>
 };
 
 } // namespace Attributes
+
+/** Sets the stroke width, in millimetres, of free drawings. */
+class PROPERTIES_EXPORT TCmdPenWidth
+    : public TMergingCommand<Attributes::PenWidth, CommandId::PenWidth, MergeRule::TakeOver>
+{
+public:
+    TCmdPenWidth(const QList<TGraphicsItem*>& selection, double millimetres);
+};
+
+/** Sets the line style of free drawings. */
+class PROPERTIES_EXPORT TCmdPenStyle
+    : public TMergingCommand<Attributes::PenStyle, CommandId::PenStyle, MergeRule::EqualValue>
+{
+public:
+    TCmdPenStyle(const QList<TGraphicsItem*>& selection, Qt::PenStyle style);
+};
+
+/** Sets the filling of free drawings of a closed shape: a `Qt::BrushStyle`. */
+class PROPERTIES_EXPORT TCmdBrushStyle : public TAttributeCommand<Attributes::BrushStyle>
+{
+public:
+    TCmdBrushStyle(const QList<TGraphicsItem*>& selection, int style);
+};
+
+/** Moves free drawings to a layer. It has an id and yet is never merged. */
+class PROPERTIES_EXPORT TCmdLayerPrim : public TAttributeCommandWithId<Attributes::LayerPrim, CommandId::LayerPrim>
+{
+public:
+    TCmdLayerPrim(const QList<TGraphicsItem*>& selection, Osmirel::Layer layer);
+};
+
+/** Gives free items of any kind a colour of their own, or with an invalid colour that of their layer. */
+class PROPERTIES_EXPORT TCmdUserColor
+    : public TMergingCommand<Attributes::UserColor, CommandId::UserColor, MergeRule::EqualValue>
+{
+public:
+    TCmdUserColor(const QList<TGraphicsItem*>& selection, const QColor& color);
+};
 
 /** Sets width and height, in scene units, of rectangles. It has an id and yet is never merged. */
 class PROPERTIES_EXPORT TCmdRectSize : public TAttributeCommandWithId<Attributes::RectSize, CommandId::RectSize>

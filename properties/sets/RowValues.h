@@ -1,9 +1,12 @@
 #pragma once
 
 #include "properties/rows/TLineEdit.h"
+#include "properties/rows/TPropertyCheck.h"
+#include "properties/rows/TPropertyCheck2.h"
 #include "properties/rows/TPropertyEnum.h"
 #include "properties/rows/TPropertyFloatSpin.h"
 #include "properties/rows/TPropertyLayer.h"
+#include "properties/rows/TPropertyPenStyle.h"
 #include "properties/rows/TPropertySize.h"
 #include "properties/rows/TPropertyText.h"
 #include "properties/sets/TGathered.h"
@@ -17,6 +20,12 @@
  * empty text, an unticked box) when they differ, and is marked as mixed.
  */
 namespace RowValues {
+
+/** A length in millimetres as a text. */
+inline QString Millimetres(double length)
+{
+    return QString::number(length, 'f', 2) + QStringLiteral(" mm");
+}
 
 /** A number, in the unit that the suffix names. */
 inline void Show(TPropertyFloatSpin& row, double value, const QString& suffix)
@@ -62,6 +71,22 @@ inline void Show(TPropertyLayer& row, const TGathered<Osmirel::Layer>& values)
 inline void Show(TPropertyText& row, const TGathered<QString>& values)
 {
     ShowIfShared(row, values.AllEqual(), [&] { row.line->setText(values.First()); });
+}
+
+inline void Show(TPropertyPenStyle& row, const TGathered<Qt::PenStyle>& values)
+{
+    ShowIfShared(row, values.AllEqual(), [&] { row.SetCurrentPenStyle(values.First()); });
+}
+
+inline void Show(TPropertyCheck& row, const TGathered<bool>& values)
+{
+    ShowIfShared(row, values.AllEqual(), [&] { row.SetCurrentState(values.First()); });
+}
+
+inline void Show(TPropertyCheck2& row, const TGathered<bool>& first, const TGathered<bool>& second)
+{
+    ShowIfShared(row, first.AllEqual(), [&] { row.SetChecked1(first.First()); });
+    ShowIfShared(row, second.AllEqual(), [&] { row.SetChecked2(second.First()); });
 }
 
 /** The enable box of a number row. */

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QHash>
+#include <QLineF>
+#include <QList>
+#include <QPolygonF>
+#include <QSet>
+#include <QString>
+#include <QVector>
+
+class TGraphicsItem;
+class TGraphicsKeepoutItem;
+class TGraphicsPourItem;
+
+/** The copper of a board by nets, as it is when this is constructed, and what is missing to join it. */
+class BoardCopper
+{
+public:
+    /** @param items all items of the board, in the design's order */
+    explicit BoardCopper(const QList<TGraphicsItem*>& items);
+
+    QSet<QString> Nets() const;
+    QSet<QString> NetsOfPours() const;
+
+    /** The shortest lines that would join all copper of a net, in the order of the copper that they begin at. */
+    QVector<QLineF> MissingConnections(const QString& net) const;
+
+private:
+    struct PourArea
+    {
+        const TGraphicsPourItem* pour;
+        QPolygonF area; ///< In scene coordinates.
+        QRectF bounds;
+    };
+    struct KeepoutArea
+    {
+        const TGraphicsKeepoutItem* keepout;
+        QPolygonF area;
+        QRectF bounds;
+    };
+
+    bool Covers(const PourArea& pour, const QPointF& point) const;
+
+    QHash<QString, QVector<TGraphicsItem*>> copperOf;
+    QVector<PourArea> pours;
+    QVector<KeepoutArea> keepouts;
+};

@@ -1,0 +1,8 @@
+#include <application/TApplication.h>
+
+#include <QFontDatabase>
+
+QStringList TApplication::CharSetNames()
+{
+    return QFontDatabase().families();
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+class TBoard;
+class TSchematic;
+
+/**
+ * A schematic and a board that belong together; either may be missing. It owns neither: the application destroys them
+ * after the project, or takes them out first.
+ */
+class TProject
+{
+public:
+    /** What a project is, and with that its mode. */
+    enum KindOfProject : int {
+        Separate = 0, ///< Each document is edited for itself.
+        InStep = 1,   ///< Schematic and board are kept in step: nets are shown and rat lines recomputed.
+    };
+
+    TProject() = default;
+    ~TProject();
+    TProject(const TProject&) = delete;
+    TProject& operator=(const TProject&) = delete;
+
+    int Kind() const { return kind; }
+    void SetKind(int newKind) { kind = newKind; }
+
+    TBoard* Board() const { return board; }
+    void SetBoard(TBoard* newBoard);
+    TSchematic* Schematic() const { return schematic; }
+    void SetSchematic(TSchematic* newSchematic);
+
+private:
+    void Acquaint();
+
+    int kind = Separate;
+    TBoard* board = nullptr;
+    TSchematic* schematic = nullptr;
+};

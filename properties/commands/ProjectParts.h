@@ -1,0 +1,20 @@
+#pragma once
+
+class QGraphicsView;
+class TBoard;
+class TNetModel;
+class TProject;
+class TSchematic;
+
+/** The parts of a project that commands reach; each is null when it, or anything on the way to it, is missing. */
+namespace ProjectParts {
+
+TBoard* Board(const TProject* project);
+TSchematic* Schematic(const TProject* project);
+TNetModel* NetModel(const TProject* project);
+QGraphicsView* BoardView(const TProject* project);
+
+/** Whether schematic and board are kept in step. */
+bool IsInStep(const TProject* project);
+
+} // namespace ProjectParts

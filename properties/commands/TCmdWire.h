@@ -1,0 +1,69 @@
+#pragma once
+
+#include "properties/commands/Attributes.h"
+#include "properties/commands/TAttributeCommand.h"
+#include "properties/commands/TDetachedItem.h"
+
+#include <properties/Export.h>
+
+#include <objects/TGraphicsWireItem.h>
+
+#include <memory>
+
+namespace Attributes {
+
+/** The width of a wire in scene units, with the size of the junctions at its ends. */
+struct WireWidth : Plain<TGraphicsWireItem, double>
+{
+    static bool Accepts(const TGraphicsWireItem&) { return true; }
+    static double Read(const TGraphicsWireItem& wire) { return static_cast<double>(wire.PenWidth()); }
+    static void Write(TGraphicsWireItem& wire, double width);
+};
+
+} // namespace Attributes
+
+/** Sets the width, in scene units, of wires; junctions become as large as the widest of their sections. */
+class PROPERTIES_EXPORT TCmdWireWidth
+    : public TMergingCommand<Attributes::WireWidth, CommandId::WireWidth, MergeRule::TakeOver>
+{
+public:
+    TCmdWireWidth(const QList<TGraphicsWireItem*>& wires, double width);
+
+    /** Sets the width, in scene units, of one wire, and the size of the junctions at its ends. */
+    void SetWireWidth(TGraphicsWireItem* wire, double width);
+};
+
+/**
+ * Splits a wire at a node: the wire ends there, and a copy of it goes on from there. The board owns the copy while the
+ * split is in force.
+ */
+class PROPERTIES_EXPORT TCmdWireAddNode : public TUndoCommand
+{
+public:
+    /** The node is the foot of the perpendicular from @p point, in scene coordinates, onto the wire's line. */
+    TCmdWireAddNode(TGraphicsWireItem* wire, const QPointF& point);
+
+    void redo() override;
+    void undo() override;
+
+private:
+    TGraphicsWireItem* wire;
+    TGraphicsWireItem* newWire = nullptr; ///< Null until redo and after undo.
+    QPointF node;
+};
+
+/** Joins two wires at a node: the kept one is prolonged over the removed one, which the command owns meanwhile. */
+class PROPERTIES_EXPORT TCmdWireDelNode : public TUndoCommand
+{
+public:
+    /** The last end of @p kept meets the first end of @p removed. */
+    TCmdWireDelNode(TGraphicsWireItem* kept, TGraphicsWireItem* removed);
+
+    void redo() override;
+    void undo() override;
+
+private:
+    TGraphicsWireItem* kept;
+    TDetachedItem<TGraphicsWireItem> removed;
+    QPointF node;
+};

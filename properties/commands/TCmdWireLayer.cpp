@@ -1,0 +1,252 @@
+#include "properties/commands/TCmdWireLayer.h"
+
+#include "properties/commands/ProjectParts.h"
+#include "properties/commands/Units.h"
+
+#include <application/TBoard.h>
+#include <objects/TGraphicsJunctionItem.h>
+#include <objects/TGraphicsViaItem.h>
+#include <objects/TGraphicsWireItem.h>
+
+#include <QSettings>
+
+#include <algorithm>
+
+namespace {
+
+TGraphicsItem::LinkEnd End(bool atFirst)
+{
+    return atFirst ? TGraphicsItem::LinkEnd::First : TGraphicsItem::LinkEnd::Last;
+}
+
+} // namespace
+
+TCmdWireLayer::TCmdWireLayer(TProject* ofProject, const QList<TGraphicsWireItem*>& given, Osmirel::Layer layer)
+    : project(ofProject), newLayer(layer)
+{
+    TBoard* board = ProjectParts::Board(project);
+    if (!board) {
+        return;
+    }
+    owner = board->Scene();
+    for (TGraphicsWireItem* wire : given) {
+        if (wire && wire->Layer() != newLayer) {
+            wires.append(wire);
+            oldLayers.append(wire->Layer());
+            moving.insert(wire);
+        }
+    }
+}
+
+TCmdWireLayer::~TCmdWireLayer() = default;
+
+void TCmdWireLayer::redo()
+{
+    for (TGraphicsWireItem* wire : qAsConst(wires)) {
+        wire->SetLayer(newLayer);
+        LinkRedo(wire, true);
+        LinkRedo(wire, false);
+    }
+}
+
+void TCmdWireLayer::undo()
+{
+    for (int i = 0; i < wires.size(); ++i) {
+        wires.at(i)->SetLayer(oldLayers.at(i));
+    }
+    RejoinWires();
+    MoveJunctionsBack();
+    RelinkCutWires();
+    PutJunctionsBack();
+    if (ProjectParts::IsInStep(project) && !netsToRefresh.isEmpty()) {
+        UpdateRats();
+    }
+    while (!replacedJunctions.empty()) {
+        delete replacedJunctions.back().via;
+        replacedJunctions.pop_back();
+    }
+}
+
+void TCmdWireLayer::LinkRedo(TGraphicsWireItem* wire, bool atFirst)
+{
+    TGraphicsItem* endItem = wire && owner ? wire->Link(End(atFirst)) : nullptr;
+    if (!endItem) {
+        return;
+    }
+    switch (endItem->type()) {
+    case ItemType::Wire:
+        if (!Moves(endItem)) {
+            PutViaBetween(*wire, atFirst, static_cast<TGraphicsWireItem&>(*endItem));
+        }
+        break;
+    case ItemType::Junction:
+        MoveOrReplaceJunction(*wire, atFirst, static_cast<TGraphicsJunctionItem&>(*endItem));
+        break;
+    case ItemType::Via:
+    case ItemType::Pad:
+        CutFromCopperWithoutLayer(*wire, atFirst, static_cast<TGraphicsViaItem&>(*endItem));
+        break;
+    default:
+        break;
+    }
+}
+
+void TCmdWireLayer::PutViaBetween(TGraphicsWireItem& wire, bool atFirst, TGraphicsWireItem& staying)
+{
+    TGraphicsViaItem* via = AddVia(wire.ScenePoint(End(atFirst)));
+    insertedVias.append(via);
+    // Intended: the other wire's end is the opposite one, without a look at which of its ends touches.
+    wire.LinkTo(End(atFirst), via);
+    staying.LinkTo(End(!atFirst), via);
+}
+
+void TCmdWireLayer::RejoinWires()
+{
+    while (!insertedVias.isEmpty()) {
+        TGraphicsViaItem* via = insertedVias.takeLast();
+        const QList<TGraphicsSectionItem*> joined = via->LinkedWires();
+        if (joined.size() == 2) {
+            TGraphicsSectionItem* first = joined.first();
+            TGraphicsSectionItem* second = joined.last();
+            first->ReplaceLinkedItem(via, second);
+            second->ReplaceLinkedItem(via, first);
+            via->RemoveLinkedWire(first);
+            via->RemoveLinkedWire(second);
+        }
+        via->Detach();
+        delete via;
+    }
+}
+
+void TCmdWireLayer::MoveOrReplaceJunction(TGraphicsWireItem& wire, bool atFirst, TGraphicsJunctionItem& junction)
+{
+    const QList<TGraphicsSectionItem*>& sections = junction.LinkedSections();
+    const bool allMove = std::all_of(sections.cbegin(), sections.cend(),
+                                     [this](const TGraphicsSectionItem* section) { return Moves(section); });
+    if (allMove) {
+        MoveJunction(junction);
+    } else {
+        ReplaceJunction(junction, wire.ScenePoint(End(atFirst)));
+    }
+}
+
+void TCmdWireLayer::MoveJunction(TGraphicsJunctionItem& junction)
+{
+    if (!alreadyMoved.contains(&junction)) {
+        alreadyMoved.insert(&junction);
+        movedJunctions.append({&junction, junction.Layer()});
+        junction.SetLayer(newLayer);
+    }
+}
+
+void TCmdWireLayer::MoveJunctionsBack()
+{
+    while (!movedJunctions.isEmpty()) {
+        const MovedJunction moved = movedJunctions.takeLast();
+        moved.junction->SetLayer(moved.oldLayer);
+    }
+    alreadyMoved.clear();
+}
+
+void TCmdWireLayer::ReplaceJunction(TGraphicsJunctionItem& junction, const QPointF& scenePoint)
+{
+    TGraphicsViaItem* via = AddVia(scenePoint);
+    const QList<TGraphicsSectionItem*> sections = junction.LinkedSections();
+    for (TGraphicsSectionItem* section : sections) {
+        section->ReplaceLinkedItem(&junction, via);
+        junction.RemoveLinkedSection(section);
+        via->AddLinkedWire(section);
+    }
+    replacedJunctions.push_back({via, TDetachedItem<TGraphicsJunctionItem>(&junction)});
+    replacedJunctions.back().junction.Detach();
+}
+
+void TCmdWireLayer::PutJunctionsBack()
+{
+    for (ReplacedJunction& replaced : replacedJunctions) {
+        TGraphicsJunctionItem* junction = replaced.junction.Get();
+        const QList<TGraphicsSectionItem*> sections = replaced.via->LinkedWires();
+        for (TGraphicsSectionItem* section : sections) {
+            section->ReplaceLinkedItem(replaced.via, junction);
+            replaced.via->RemoveLinkedWire(section);
+            junction->AddLinkedSection(section);
+        }
+        replaced.junction.Attach();
+        replaced.via->Detach();
+    }
+}
+
+void TCmdWireLayer::CutFromCopperWithoutLayer(TGraphicsWireItem& wire, bool atFirst, TGraphicsViaItem& copper)
+{
+    if (copper.EtchLayers().contains(newLayer)) {
+        return;
+    }
+    cutWires.append({&wire, atFirst, &copper});
+    wire.UnlinkFrom(&copper);
+    if (!ProjectParts::IsInStep(project)) {
+        return;
+    }
+    NoteNet(wire);
+    if (!copper.LinkedWires().isEmpty()) {
+        NoteNet(*copper.LinkedWires().first());
+    }
+    UpdateRats();
+}
+
+void TCmdWireLayer::RelinkCutWires()
+{
+    while (!cutWires.isEmpty()) {
+        const CutWire cut = cutWires.takeLast();
+        cut.wire->LinkTo(End(cut.atFirst), cut.endItem);
+    }
+}
+
+void TCmdWireLayer::NoteNet(TGraphicsSectionItem& section)
+{
+    section.UpdateNet();
+    const QString net = section.Net();
+    if (!net.isEmpty() && !notedNets.contains(net)) {
+        notedNets.insert(net);
+        netsToRefresh.append(net);
+    }
+}
+
+void TCmdWireLayer::UpdateRats()
+{
+    if (TBoard* board = ProjectParts::Board(project)) {
+        board->UpdateRats(netsToRefresh);
+    }
+}
+
+TGraphicsViaItem* TCmdWireLayer::AddVia(const QPointF& scenePoint)
+{
+    if (!owner) {
+        return nullptr;
+    }
+    const TGraphicsViaItem* pattern = !insertedVias.isEmpty()       ? insertedVias.first()
+                                      : !replacedJunctions.empty() ? replacedJunctions.front().via
+                                                                    : nullptr;
+    TGraphicsViaItem* via = nullptr;
+    if (pattern) {
+        via = static_cast<TGraphicsViaItem*>(pattern->CreateCopy());
+    } else {
+        QSettings settings;
+        const double size = FromRegDouble(&settings, QStringLiteral("ViaDiam"), 0.3, 100.0, 1.0);
+        const double drill = FromRegDouble(&settings, QStringLiteral("ViaDrill"), 0.1, 100.0, 0.6);
+        via = new TGraphicsViaItem;
+        via->SetSize(size, size);
+        via->SetDrill(static_cast<float>(drill));
+        via->update();
+    }
+    via->setPos(scenePoint);
+    via->AttachTo(owner);
+    return via;
+}
+
+double TCmdWireLayer::FromRegDouble(QSettings* settings, const QString& key, double min, double max, double def)
+{
+    bool isNumber = false;
+    const double millimetres = settings ? settings->value(key, def).toDouble(&isNumber) : def;
+    const bool isUsable = isNumber && min <= millimetres && millimetres <= max;
+    return Units::SceneFromMillimetres(isUsable ? millimetres : def);
+}

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "properties/commands/TDetachedItem.h"
+
+#include <properties/Export.h>
+
+#include <application/TUndoCommand.h>
+#include <graphics/TGraphicsItem.h>
+
+#include <QList>
+#include <QSet>
+#include <QStringList>
+#include <QVector>
+
+#include <vector>
+
+class QSettings;
+class TGraphicsJunctionItem;
+class TGraphicsSectionItem;
+class TGraphicsViaItem;
+class TGraphicsWireItem;
+class TProject;
+
+/**
+ * Moves wires to another layer and keeps the copper connected: where a moved wire meets copper that stays behind, a via
+ * takes the place of the joint; junctions of which all sections move go along; wires are cut from vias and pads that do
+ * not reach the new layer, whose nets then get new rat lines.
+ *
+ * Undo reads as the mirror of redo: what redo did is recorded, and taken back from the end.
+ */
+class PROPERTIES_EXPORT TCmdWireLayer : public TUndoCommand
+{
+public:
+    /** Keeps the wires that are not on the new layer yet. Without a project with a board there are none. */
+    TCmdWireLayer(TProject* project, const QList<TGraphicsWireItem*>& wires, Osmirel::Layer layer);
+    ~TCmdWireLayer() override;
+    Q_DISABLE_COPY(TCmdWireLayer)
+
+    void redo() override;
+    void undo() override;
+
+    /** Adapts what one end of a moved wire is linked to. Does nothing for an end without a link. */
+    void LinkRedo(TGraphicsWireItem* wire, bool atFirst);
+
+    /** Places a via on the board, which owns it: a copy of the first one of this redo, or else one of the default
+     *  size that the application's settings hold. Null without a board. */
+    TGraphicsViaItem* AddVia(const QPointF& scenePoint);
+
+    /** A length in scene units from a setting in millimetres; the default where that is no number within the range. */
+    double FromRegDouble(QSettings* settings, const QString& key, double min, double max, double def);
+
+private:
+    void PutViaBetween(TGraphicsWireItem& wire, bool atFirst, TGraphicsWireItem& staying);
+    void MoveOrReplaceJunction(TGraphicsWireItem& wire, bool atFirst, TGraphicsJunctionItem& junction);
+    void MoveJunction(TGraphicsJunctionItem& junction);
+    void ReplaceJunction(TGraphicsJunctionItem& junction, const QPointF& scenePoint);
+    void CutFromCopperWithoutLayer(TGraphicsWireItem& wire, bool atFirst, TGraphicsViaItem& copper);
+    void NoteNet(TGraphicsSectionItem& section);
+    void UpdateRats();
+
+    void RejoinWires();
+    void MoveJunctionsBack();
+    void RelinkCutWires();
+    void PutJunctionsBack();
+
+    bool Moves(const TGraphicsItem* section) const { return moving.contains(section); }
+
+    struct MovedJunction
+    {
+        TGraphicsJunctionItem* junction;
+        Osmirel::Layer oldLayer;
+    };
+    struct ReplacedJunction
+    {
+        TGraphicsViaItem* via;
+        TDetachedItem<TGraphicsJunctionItem> junction;
+    };
+    struct CutWire
+    {
+        TGraphicsWireItem* wire;
+        bool atFirst;
+        TGraphicsItem* endItem;
+    };
+
+    TProject* project;
+    TItemScene* owner = nullptr; ///< What items on the board are attached to.
+    QList<TGraphicsWireItem*> wires;
+    QVector<Osmirel::Layer> oldLayers; ///< Parallel to `wires`.
+    QSet<const TGraphicsItem*> moving; ///< The wires, to be found quickly.
+    Osmirel::Layer newLayer;
+
+    // What redo did; empty before redo and after undo.
+    QList<TGraphicsViaItem*> insertedVias;
+    QVector<MovedJunction> movedJunctions;
+    QSet<const TGraphicsJunctionItem*> alreadyMoved; ///< Those of `movedJunctions`, to be found quickly.
+    std::vector<ReplacedJunction> replacedJunctions;
+    QVector<CutWire> cutWires;
+
+    QStringList netsToRefresh; ///< Without duplicates; only grows.
+    QSet<QString> notedNets;   ///< The same, to be found quickly.
+};

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "properties/TPropertySet.h"
+
+#include <array>
+
+class TGraphicsKeepoutItem;
+class TPropertyCheck;
+
+/** Edits on which copper layers keepouts act: a box for each layer that exists, showing the first keepout's state. */
+class PROPERTIES_EXPORT TPropertySetForKeepout : public TPropertySet
+{
+    Q_OBJECT
+
+public:
+    explicit TPropertySetForKeepout(const QList<TGraphicsItem*>& selection);
+
+public slots:
+    /** Acts on the layer of the row that sends the signal; called otherwise it does nothing. */
+    void SetEn(bool on);
+
+private:
+    QList<TGraphicsKeepoutItem*> keepouts;
+    std::array<QPointer<TPropertyCheck>, Osmirel::maxCopperLayers> rows; ///< By layer, from the top copper down.
+};

@@ -1,0 +1,127 @@
+#include "properties/sets/TPropertySetForPackage.h"
+
+#include "properties/commands/TCmdPackage.h"
+#include "properties/sets/ComponentRows.h"
+
+#include <objects/TGraphicsPackageItem.h>
+
+#include <QKeyEvent>
+
+struct TPropertySetForPackage::Values
+{
+    TGathered<QString> refDes;
+    TGathered<QString> value;
+    TGathered<QString> package;
+    TGathered<QString> id;
+    TGathered<bool> lockRefDes;
+    TGathered<bool> lockValue;
+    TGathered<Osmirel::Layer> side;
+
+    void Add(const TGraphicsPackageItem& item);
+};
+
+void TPropertySetForPackage::Values::Add(const TGraphicsPackageItem& item)
+{
+    refDes.Add(item.RefDes());
+    value.Add(item.Value());
+    package.Add(ComponentRows::NameWithoutQualifier(item.PackageName()));
+    id.Add(QString::number(item.ComponentNumber()));
+    lockRefDes.Add(item.LockRefDes());
+    lockValue.Add(item.LockValue());
+    side.Add(item.Layer());
+}
+
+TPropertySetForPackage::TPropertySetForPackage(QList<TGraphicsItem*> selection, QList<Osmirel::Layer> layers,
+                                               TBoard* ofBoard)
+    : TPropertySet(selection.size() == 1 ? tr("Package") : tr("Packages")), board(ofBoard)
+{
+    Values values;
+    for (TGraphicsItem* item : qAsConst(selection)) {
+        if (item->type() == ItemType::Package) {
+            packages.append(static_cast<TGraphicsPackageItem*>(item));
+            values.Add(*packages.last());
+        }
+    }
+    if (!packages.isEmpty()) {
+        MakeRows(values, layers, selection.first()->Workspace());
+    }
+}
+
+void TPropertySetForPackage::MakeRows(const Values& values, const QList<Osmirel::Layer>& layers, TWorkspace* workspace)
+{
+    refDes = NewRow<TPropertyText>(tr("RefDes:"), QString(), false);
+    ComponentRows::ShowReadOnly(*refDes, values.refDes);
+    connect(refDes, SIGNAL(sigTextChanged(QString)), this, SLOT(SetRefDes(QString)));
+
+    value = NewRow<TPropertyText>(tr("Value:"), QString(), false);
+    ComponentRows::ShowReadOnly(*value, values.value);
+    connect(value, SIGNAL(sigTextChanged(QString)), this, SLOT(SetValue(QString)));
+
+    package = NewRow<TPropertyText>(tr("Package:"), QString(), false);
+    ComponentRows::ShowReadOnly(*package, values.package);
+
+    id = NewRow<TPropertyText>(tr("Id:"), QString(), false); // Intended: made and not shown.
+    ComponentRows::ShowReadOnly(*id, values.id);
+
+    lock = NewRow<TPropertyCheck2>(tr("Lock:"), tr("RefDes"), tr("Value"));
+    RowValues::Show(*lock, values.lockRefDes, values.lockValue);
+    connect(lock, SIGNAL(sigChecked1(bool)), this, SLOT(SetLockRefDes(bool)));
+    connect(lock, SIGNAL(sigChecked2(bool)), this, SLOT(SetLockValue(bool)));
+
+    side = NewRow<TPropertyLayer>(tr("Side:"), layers, workspace);
+    RowValues::Show(*side, values.side);
+    connect(side, SIGNAL(sigLayerChanged(Osmirel::Layer)), this, SLOT(SetSide(Osmirel::Layer)));
+
+    AddProperties({refDes, value, package, lock, side});
+}
+
+void TPropertySetForPackage::SetRefDes(QString)
+{
+}
+
+void TPropertySetForPackage::SetValue(QString newValue)
+{
+    for (TGraphicsPackageItem* item : qAsConst(packages)) {
+        item->SetValue(newValue);
+    }
+    emit sigAttr();
+}
+
+void TPropertySetForPackage::SetPackage(QString newPackage)
+{
+    for (TGraphicsPackageItem* item : qAsConst(packages)) {
+        item->SetPackageName(newPackage);
+    }
+    emit sigAttr();
+}
+
+void TPropertySetForPackage::SetLockRefDes(bool on)
+{
+    for (TGraphicsPackageItem* item : qAsConst(packages)) {
+        item->SetLockRefDes(on);
+        ComponentRows::LockText(item->RefDesText(), on);
+    }
+}
+
+void TPropertySetForPackage::SetLockValue(bool on)
+{
+    for (TGraphicsPackageItem* item : qAsConst(packages)) {
+        item->SetLockValue(on);
+        ComponentRows::LockText(item->ValueText(), on);
+    }
+}
+
+void TPropertySetForPackage::SetSide(Osmirel::Layer layer)
+{
+    // Intended: unlike the command, the direct write refreshes neither texts, connections nor rat lines.
+    EditBy(packages, [&] { return new TCmdPkgSide(packages, layer, board); },
+           [layer](TGraphicsPackageItem& item) { item.SetLayer(layer); });
+}
+
+void TPropertySetForPackage::KeyPressEvent(QKeyEvent* event)
+{
+    if (event && event->key() == Qt::Key_O && side) {
+        const bool isOnTop = side->CurrentLayer() == Osmirel::PackagesTop;
+        SetSide(isOnTop ? Osmirel::PackagesBottom : Osmirel::PackagesTop);
+    }
+}

@@ -1,0 +1,205 @@
+#include "properties/sets/TPropertySetForPour.h"
+
+#include "properties/commands/TCmdPour.h"
+#include "properties/rows/TPropertyIntSpin.h"
+#include "properties/sets/CompositionModes.h"
+#include "properties/sets/RowValues.h"
+
+TPropertySetForPour::TPropertySetForPour(QList<TGraphicsItem*> selection, QList<Osmirel::Layer> layers)
+    : TPropertySet(selection.size() == 1 ? tr("Pour") : tr("Pours"))
+{
+    for (TGraphicsItem* item : qAsConst(selection)) {
+        if (item->type() == ItemType::Pour) {
+            pours.append(static_cast<TGraphicsPourItem*>(item));
+        }
+    }
+    if (pours.isEmpty()) {
+        return;
+    }
+    const TGraphicsPourItem& shown = *pours.last();
+    MakeFillRows(shown);
+    MakeClearanceAndThermalRows(shown);
+    MakeDrawingRows(shown, layers, selection.first()->Workspace());
+
+    // Intended: the rows for border clearance, connection, composition mode and alpha are made and not shown.
+    AddProperties({clearanceToEtch, clearanceToPour, fillType, lineWidth, minimumArea, priority, thermalEnable,
+                   thermalLine, thermalIsolation, layer, net});
+}
+
+TPropertyFloatSpin* TPropertySetForPour::NewLengthRow(const QString& label, double sceneLength, const char* slot)
+{
+    auto* row = NewRow<TPropertyFloatSpin>(label, 0.0, 100.0, 0.1, 2);
+    row->spin->setValue(Units::MillimetresFromScene(sceneLength));
+    connect(row, SIGNAL(sigValueChanged(qreal)), this, slot);
+    return row;
+}
+
+void TPropertySetForPour::MakeFillRows(const TGraphicsPourItem& shown)
+{
+    fillType = NewRow<TPropertyEnum>(tr("Fill type:"));
+    fillType->AddItem(tr("No fill"), Qt::NoBrush);
+    fillType->AddItem(tr("Solid"), Qt::SolidPattern);
+    fillType->AddItem(tr("H-Lines"), Qt::HorPattern);
+    fillType->AddItem(tr("V-Lines"), Qt::VerPattern);
+    fillType->AddItem(tr("Cross"), Qt::CrossPattern);
+    fillType->SetCurrentEnum(shown.FillType());
+    connect(fillType, SIGNAL(sigEnumChanged(int)), this, SLOT(SetFillType(int)));
+    connect(fillType, SIGNAL(sigEnumChanged(int)), this, SLOT(FillTypeChanged(int)));
+
+    lineWidth = NewLengthRow(tr("Line width:"), shown.LineWidth(), SLOT(SetLineWidth(qreal)));
+
+    constexpr QChar superscriptTwo(178);
+    minimumArea = NewRow<TPropertyFloatSpin>(tr("Minimum area:"), 0.0, 9999.0, 1.0, 0);
+    RowValues::Show(*minimumArea, shown.MinimumArea(), tr(" mm") + superscriptTwo);
+    connect(minimumArea, SIGNAL(sigValueChanged(qreal)), this, SLOT(SetMinimumArea(qreal)));
+
+    onlyConnected = NewRow<TPropertyCheck>(tr("Only connected:"));
+    onlyConnected->SetCurrentState(shown.OnlyConnected());
+    connect(onlyConnected, SIGNAL(sigStateChanged(bool)), this, SLOT(SetOnlyConnected(bool)));
+
+    priority = NewRow<TPropertyIntSpin>(tr("Priority:"), 0, 15, 1);
+    priority->SetCurrentValue(shown.Priority());
+    connect(priority, SIGNAL(sigValueChanged(int)), this, SLOT(SetPriority(int)));
+}
+
+void TPropertySetForPour::MakeClearanceAndThermalRows(const TGraphicsPourItem& shown)
+{
+    clearanceToEtch =
+        NewLengthRow(tr("Clearance to etch:"), shown.ClearanceToEtch(), SLOT(SetClearanceToEtch(qreal)));
+    clearanceToBorder =
+        NewLengthRow(tr("Clearance to border:"), shown.ClearanceToBorder(), SLOT(SetClearanceToBorder(qreal)));
+    clearanceToPour =
+        NewLengthRow(tr("Clearance to pour:"), shown.ClearanceToPour(), SLOT(SetClearanceToPour(qreal)));
+
+    thermalEnable = NewRow<TPropertyCheck>(tr("Thermal enable:"));
+    thermalEnable->SetCurrentState(shown.ThermalEnable());
+    connect(thermalEnable, SIGNAL(sigStateChanged(bool)), this, SLOT(SetThermalEn(bool)));
+
+    thermalLine = NewLengthRow(tr("Thermal line:"), shown.ThermalLine(), SLOT(SetThermalLine(qreal)));
+    thermalIsolation = NewLengthRow(tr("Thermal isolation:"), shown.ThermalIsolation(), SLOT(SetThermalIsol(qreal)));
+}
+
+void TPropertySetForPour::MakeDrawingRows(const TGraphicsPourItem& shown, const QList<Osmirel::Layer>& layers,
+                                          TWorkspace* workspace)
+{
+    layer = NewRow<TPropertyLayer>(tr("Layer:"), layers, workspace);
+    layer->SetCurrentLayer(shown.Layer());
+    connect(layer, SIGNAL(sigLayerChanged(Osmirel::Layer)), this, SLOT(SetLayer(Osmirel::Layer)));
+
+    net = NewRow<TPropertyText>(tr("Net:"), shown.Net(), false);
+    connect(net, SIGNAL(sigTextChanged(QString)), this, SLOT(SetNet(QString)));
+
+    compositionMode = NewRow<TPropertyEnum>(QStringLiteral("Comp mode:"));
+    CompositionModes::AddTo(*compositionMode);
+    compositionMode->SetCurrentEnum(shown.CompositionMode());
+    connect(compositionMode, SIGNAL(sigEnumChanged(int)), this, SLOT(SetCompMode(int)));
+
+    constexpr int shownAlpha = 130; // Intended: whatever the pours hold.
+    alpha = NewRow<TPropertyIntSpin>(tr("Alpha"), 0, 255, 1);
+    alpha->SetCurrentValue(shownAlpha);
+    connect(alpha, SIGNAL(sigValueChanged(int)), this, SLOT(SetAlpha(int)));
+}
+
+template <class Command, class Value>
+void TPropertySetForPour::EmitFor(const Value& value)
+{
+    if (!pours.isEmpty()) {
+        Emit(new Command(pours, value));
+    }
+}
+
+void TPropertySetForPour::SetClearanceToEtch(qreal clearance)
+{
+    EmitFor<TCmdPourClEtch>(clearance);
+}
+
+void TPropertySetForPour::SetClearanceToBorder(qreal clearance)
+{
+    EmitFor<TCmdPourClBorder>(clearance);
+}
+
+void TPropertySetForPour::SetClearanceToPour(qreal clearance)
+{
+    EmitFor<TCmdPourClPour>(clearance);
+}
+
+void TPropertySetForPour::SetFillType(int brushStyle)
+{
+    EmitFor<TCmdPourFillType>(brushStyle);
+}
+
+void TPropertySetForPour::SetLineWidth(qreal width)
+{
+    EmitFor<TCmdPourLineWidth>(width);
+}
+
+void TPropertySetForPour::SetMinimumArea(qreal area)
+{
+    EmitFor<TCmdPourMinArea>(area);
+}
+
+void TPropertySetForPour::SetOnlyConnected(bool on)
+{
+    EmitFor<TCmdPourOnlyConn>(on);
+}
+
+void TPropertySetForPour::SetPriority(int newPriority)
+{
+    EmitFor<TCmdPourPrio>(static_cast<unsigned char>(newPriority));
+}
+
+void TPropertySetForPour::SetThermalEn(bool on)
+{
+    EmitFor<TCmdPourThermEn>(on);
+}
+
+void TPropertySetForPour::SetThermalLine(qreal width)
+{
+    EmitFor<TCmdPourThermLine>(width);
+}
+
+void TPropertySetForPour::SetThermalIsol(qreal distance)
+{
+    EmitFor<TCmdPourThermIsol>(distance);
+}
+
+void TPropertySetForPour::SetLayer(Osmirel::Layer newLayer)
+{
+    EmitFor<TCmdPourLayer>(newLayer);
+}
+
+void TPropertySetForPour::SetNet(QString newNet)
+{
+    EmitFor<TCmdPourNet>(newNet);
+}
+
+void TPropertySetForPour::FillTypeChanged(int brushStyle)
+{
+    if (lineWidth) {
+        lineWidth->SetEnabled(brushStyle != Qt::SolidPattern);
+    }
+}
+
+void TPropertySetForPour::ThermalTypeChanged(int type)
+{
+    constexpr int solid = 1;
+    if (thermalLine) {
+        thermalLine->SetEnabled(type != solid);
+    }
+}
+
+void TPropertySetForPour::SetCompMode(int mode)
+{
+    for (TGraphicsPourItem* pour : qAsConst(pours)) {
+        pour->SetCompositionMode(mode);
+        pour->update();
+    }
+}
+
+void TPropertySetForPour::SetAlpha(int newAlpha)
+{
+    for (TGraphicsPourItem* pour : qAsConst(pours)) {
+        pour->SetAlpha(newAlpha);
+        pour->update();
+    }
+}

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "properties/TPropertySet.h"
+
+class TGraphicsPourItem;
+class TPropertyCheck;
+class TPropertyEnum;
+class TPropertyFloatSpin;
+class TPropertyIntSpin;
+class TPropertyLayer;
+class TPropertyText;
+
+/** Edits pours. Intended: the rows show the last pour's values, and every edit is a command, with undo bypassed too. */
+class PROPERTIES_EXPORT TPropertySetForPour : public TPropertySet
+{
+    Q_OBJECT
+
+public:
+    /** Keeps the pours of @p selection; @p layers are those that the "Layer:" row offers. */
+    TPropertySetForPour(QList<TGraphicsItem*> selection, QList<Osmirel::Layer> layers);
+
+public slots:
+    /** Lengths in millimetres, the area in square millimetres. */
+    void SetClearanceToEtch(qreal clearance);
+    void SetClearanceToBorder(qreal clearance);
+    void SetClearanceToPour(qreal clearance);
+    void SetFillType(int brushStyle);
+    void SetLineWidth(qreal width);
+    void SetMinimumArea(qreal area);
+    void SetOnlyConnected(bool on);
+    void SetPriority(int priority);
+    void SetThermalEn(bool on);
+    void SetThermalLine(qreal width);
+    void SetThermalIsol(qreal distance);
+    void SetLayer(Osmirel::Layer layer);
+    void SetNet(QString net);
+    /** Greys the line width for a solid filling. */
+    void FillTypeChanged(int brushStyle);
+    /** Greys the thermal line for a solid type. Intended: nothing is connected to it. */
+    void ThermalTypeChanged(int type);
+    /** Drawing only: written at once, without a command and without a refill. */
+    void SetCompMode(int mode);
+    void SetAlpha(int alpha);
+
+private:
+    TPropertyFloatSpin* NewLengthRow(const QString& label, double sceneLength, const char* slot);
+    void MakeFillRows(const TGraphicsPourItem& shown);
+    void MakeClearanceAndThermalRows(const TGraphicsPourItem& shown);
+    void MakeDrawingRows(const TGraphicsPourItem& shown, const QList<Osmirel::Layer>& layers, TWorkspace* workspace);
+
+    /** Emits a command over all pours; without pours nothing happens. */
+    template <class Command, class Value>
+    void EmitFor(const Value& value);
+
+    QList<TGraphicsPourItem*> pours;
+    QPointer<TPropertyFloatSpin> clearanceToEtch;
+    QPointer<TPropertyFloatSpin> clearanceToBorder;
+    QPointer<TPropertyFloatSpin> clearanceToPour;
+    QPointer<TPropertyEnum> fillType;
+    QPointer<TPropertyFloatSpin> lineWidth;
+    QPointer<TPropertyFloatSpin> minimumArea;
+    QPointer<TPropertyCheck> onlyConnected;
+    QPointer<TPropertyIntSpin> priority;
+    QPointer<TPropertyCheck> thermalEnable;
+    QPointer<TPropertyFloatSpin> thermalLine;
+    QPointer<TPropertyFloatSpin> thermalIsolation;
+    QPointer<TPropertyLayer> layer;
+    QPointer<TPropertyText> net;
+    QPointer<TPropertyEnum> compositionMode;
+    QPointer<TPropertyIntSpin> alpha;
+};

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "properties/TPropertySet.h"
+
+class TPropertyColor;
+class TPropertyEnum;
+class TPropertyFloatSpin;
+class TPropertyLayer;
+class TPropertyPenStyle;
+class TPropertySize;
+class TPropertyText;
+
+/**
+ * Edits drawings. The stroke width shown is the first item's; of the other values a row shows the one that all share.
+ * Parts of packages and symbols are shown too, and changed by direct writes only.
+ */
+class PROPERTIES_EXPORT TPropertySetForPrimitives : public TPropertySet
+{
+    Q_OBJECT
+
+public:
+    /** Keeps the drawings of @p selection but polylines; @p layers are those that the "Layer:" row offers. */
+    TPropertySetForPrimitives(QList<TGraphicsItem*> selection, QList<Osmirel::Layer> layers);
+
+public slots:
+    void slotSetColor(const QColor& color);
+    /** A `Qt::BrushStyle`. */
+    void slotSetFillStyle(int style);
+    void slotSetLayer(Osmirel::Layer layer);
+    void slotSetLineStyle(Qt::PenStyle style);
+    /** In millimetres. */
+    void slotSetLineWidth(double width);
+
+private:
+    struct Values;
+    void MakeRows(const Values& values, const QList<Osmirel::Layer>& layers);
+    void MakeMeasureRow(const TGraphicsItem& only);
+
+    QList<TGraphicsItem*> items;
+    QPointer<TPropertyFloatSpin> lineWidth;
+    QPointer<TPropertyPenStyle> lineStyle;
+    QPointer<TPropertyEnum> fillStyle;
+    QPointer<TPropertyLayer> layer;
+    QPointer<TPropertyColor> color;
+    QPointer<TPropertySize> size;
+    QPointer<TPropertyText> length;
+};

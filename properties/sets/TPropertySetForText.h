@@ -1,0 +1,62 @@
+#pragma once
+
+#include "properties/TPropertySet.h"
+
+class TGraphicsTextItem;
+class TPropertyCheck;
+class TPropertyCheck2;
+class TPropertyColor;
+class TPropertyEnum;
+class TPropertyFloatSpin;
+class TPropertyLayer;
+
+/**
+ * Edits texts. The font kind shown is the first text's and the line width the last one's; of the other values a row
+ * shows the one that all texts share.
+ */
+class PROPERTIES_EXPORT TPropertySetForText : public TPropertySet
+{
+    Q_OBJECT
+
+public:
+    /** Keeps the texts and tags of @p selection; @p layers are those that the "Layer:" row offers. */
+    TPropertySetForText(const QList<TGraphicsItem*>& selection, QList<Osmirel::Layer> layers);
+
+public slots:
+    void SetColor(const QColor& color);
+    /** In points. */
+    void SetFontSize(int points);
+    void SetLayer(Osmirel::Layer layer);
+    void SetBold(bool bold);
+    void SetItalic(bool italic);
+    /** A `Qt::AlignmentFlag`. */
+    void SetAlign(int alignment);
+    /** In degrees. */
+    void SetAngle(int degrees);
+    /** 0 strokes, 1 outlines. */
+    void SetTrueTrue(int outlines);
+    void SetFontName(QString family);
+    void SetMirrorV(bool on);
+    void SetMirrorH(bool on);
+    /** The stroke width as it is. Intended: always written at once, so that it cannot be undone. */
+    void SetLine(double width);
+
+private:
+    struct Values;
+    void MakeFontRows(const Values& values);
+    void MakePlacementRows(const Values& values, const QList<Osmirel::Layer>& layers);
+    void AddRows(bool onlyAngleAndLine, bool hasLayers);
+
+    QList<TGraphicsTextItem*> texts;
+    QPointer<TPropertyEnum> type;
+    QPointer<TPropertyEnum> fontName;
+    QPointer<TPropertyEnum> fontSize;
+    QPointer<TPropertyEnum> alignment;
+    QPointer<TPropertyEnum> angle;
+    QPointer<TPropertyCheck2> mirror;
+    QPointer<TPropertyCheck> bold;
+    QPointer<TPropertyCheck> italic;
+    QPointer<TPropertyLayer> layer;
+    QPointer<TPropertyColor> color;
+    QPointer<TPropertyFloatSpin> lineWidth;
+};

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "properties/TPropertySet.h"
+
+class TGraphicsWireItem;
+class TProject;
+class TPropertyColor;
+class TPropertyEnum;
+class TPropertyFloatSpin;
+class TPropertyLayer;
+class TPropertyText;
+
+/**
+ * Edits wires of the board, and class and colour of their net in a project that keeps schematic and board in step. The
+ * rows show the last wire's width and layer; the net rows are for the first wire's net.
+ */
+class PROPERTIES_EXPORT TPropertySetForWire : public TPropertySet
+{
+    Q_OBJECT
+
+public:
+    TPropertySetForWire(const QList<TGraphicsItem*>& selection, TProject* project);
+
+    /** Digits set the width, "1" to "9" to tenths of a millimetre and "0" to a whole one; "O" changes the side. */
+    void KeyPressEvent(QKeyEvent* event) override;
+
+public slots:
+    void SetLayer(Osmirel::Layer layer);
+    /** In millimetres. */
+    void SetWidth(qreal width);
+    /** Net attributes are always changed by a command. */
+    void SetClass(QString netClass);
+    void SetColor(QColor color);
+    /** A `QPainter::CompositionMode`; written at once, without a command. */
+    void SetCompMode(int mode);
+
+private:
+    void MakeWireRows();
+    void MakeNetRows();
+    void MakeNetClassRow(bool onOneNet);
+    QList<Osmirel::Layer> OfferedLayers() const;
+    bool ShowsNetRows() const;
+    bool IsOnOneNet() const;
+
+    QList<TGraphicsWireItem*> wires;
+    QPointer<TPropertyText> net;
+    QPointer<TPropertyEnum> netClass;
+    QPointer<TPropertyFloatSpin> width;
+    QPointer<TPropertyLayer> layer;
+    QPointer<TPropertyColor> color;
+    QPointer<TPropertyEnum> compositionMode;
+    TProject* project;
+    QString netName; ///< The first wire's.
+};

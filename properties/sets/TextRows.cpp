@@ -1,0 +1,34 @@
+#include "properties/sets/TextRows.h"
+
+#include <application/TApplication.h>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+constexpr int fontSizes[] = {2,  3,  4,  5,  6,  7,  8,  9,  10, 12, 14, 16, 18,
+                             20, 22, 24, 26, 28, 32, 36, 40, 48, 56, 64, 72};
+
+} // namespace
+
+void TextRows::AddFontSizes(TPropertyEnum& row)
+{
+    for (const int points : fontSizes) {
+        row.AddItem(QString::number(points), points);
+    }
+}
+
+int TextRows::OfferedFontSize(int points)
+{
+    const auto* next = std::lower_bound(std::begin(fontSizes), std::end(fontSizes), points);
+    return next == std::end(fontSizes) ? *std::prev(next) : *next;
+}
+
+void TextRows::AddFontNames(TPropertyEnum& row)
+{
+    constexpr int noValue = 0; // The names themselves are the choice.
+    for (const QString& name : TApplication::CharSetNames()) {
+        row.AddItem(name, noValue);
+    }
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "properties/rows/TPropertyEnum.h"
+
+/** What the sets of texts and of tags have in common: the choices that their rows offer. */
+namespace TextRows {
+
+/** Adds the twenty-five sizes, in points, that texts can be set in. */
+void AddFontSizes(TPropertyEnum& row);
+/** The offered size that stands for a size in points: itself, or else the next larger one. */
+int OfferedFontSize(int points);
+
+/** Adds the names of the application's fonts. */
+void AddFontNames(TPropertyEnum& row);
+
+} // namespace TextRows

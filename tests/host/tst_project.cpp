@@ -1,0 +1,177 @@
+#include "tests/host/Network.h"
+#include "tests/support/TestMain.h"
+
+#include <application/TProject.h>
+#include <application/TSchematic.h>
+#include <objects/TGraphicsNetTieSchItem.h>
+
+class TestProject : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void netsAreFoundByName()
+    {
+        TNetModel model;
+        model.AddNet("GND", "Power", Qt::red, Qt::green, 3);
+        model.AddNet("SDA", QString(), QColor(), Qt::blue, 0);
+        model.AddNet("GND", "Other", Qt::black, Qt::black, 9); // Is there already.
+        model.AddNet(QString(), "Other", Qt::black, Qt::black, 9);
+        QCOMPARE(model.RowCount(), 2);
+        QCOMPARE(model.NetRow("SDA"), 1);
+        QCOMPARE(model.NetName(0), QString("GND"));
+        QCOMPARE(model.NetClass("GND"), QString("Power"));
+        QCOMPARE(model.ColorSch(0), QColor(Qt::red));
+        QCOMPARE(model.ColorPcb(model.NetRow("SDA")), QColor(Qt::blue));
+        QCOMPARE(model.Priority("GND"), QString("3"));
+
+        model.SetNetClass("SDA", "Fast");
+        model.SetPriority("SDA", "Default");
+        model.SetColorSch("SDA", Qt::yellow);
+        model.SetColorPcb("SDA", QColor());
+        QCOMPARE(model.NetClass("SDA"), QString("Fast"));
+        QCOMPARE(model.Priority("SDA"), QString("Default"));
+        QCOMPARE(model.ColorSch(1), QColor(Qt::yellow));
+        QVERIFY(!model.ColorPcb(1).isValid());
+    }
+
+    void aNetThatIsNotThereIsEmpty()
+    {
+        TNetModel model;
+        model.SetNetClass("none", "Power");
+        QVERIFY(!model.HasNet("none"));
+        QCOMPARE(model.NetRow("none"), -1);
+        QVERIFY(!model.ColorPcb(-1).isValid());
+        QCOMPARE(model.NetClass("none") + model.Priority("none"), QString());
+        QCOMPARE(model.DeleteNet("none"), QVector<QVariant>());
+    }
+
+    void aDeletedNetComesBackWithItsRow()
+    {
+        TNetModel model;
+        for (const char* net : {"A", "B", "C"}) {
+            model.AddNet(net, "Default", Qt::red, Qt::blue, 2);
+        }
+        const QVector<QVariant> row = model.DeleteNet("A");
+        QCOMPARE(row.size(), int(TNetModel::columnCount));
+        QCOMPARE(model.NetRow("C"), 1);
+        QCOMPARE(model.NetName(0), QString("B"));
+        model.AddNet(row);
+        QCOMPARE(model.NetRow("A"), 2);
+        QCOMPARE(model.ColorPcb(2), QColor(Qt::blue));
+        QCOMPARE(model.Priority("A"), QString("2"));
+    }
+
+    void netClasses()
+    {
+        TSchematic schematic;
+        schematic.AddNetClass("Power");
+        schematic.AddNetClass("Power");
+        schematic.AddNetClass(QString());
+        QCOMPARE(schematic.NetClassNames(), (QStringList{"Default", "Power"}));
+        QVERIFY(schematic.IsExistNetClass("Power"));
+        QVERIFY(!schematic.IsExistNetClass("Fast"));
+        QVERIFY(!schematic.NetClass("GND"));
+        schematic.NetModel()->AddNet("GND", QString(), QColor(), QColor(), 0);
+        QCOMPARE(schematic.NetClass("GND").value_or("none"), QString());
+    }
+
+    void pageItemsAreListedOnceTheyAreSaved()
+    {
+        TSchematic schematic;
+        auto tie = std::make_unique<TGraphicsNetTieSchItem>();
+        TGraphicsNetTieSchItem* placed = tie.get();
+        schematic.Attach(std::move(tie));
+        QCOMPARE(placed->Workspace(), schematic.Workspace());
+        QCOMPARE(schematic.Items(), QList<TGraphicsItem*>());
+        schematic.SaveTopItemsFromWorkspace();
+        QCOMPARE(schematic.Items(), QList<TGraphicsItem*>{placed});
+        schematic.Attach(std::make_unique<TGraphicsNetTieSchItem>());
+        QCOMPARE(schematic.Items().size(), 1);
+        schematic.SaveTopItemsFromWorkspace();
+        QCOMPARE(schematic.Items().size(), 2);
+    }
+
+    void aNetsColourReachesThePage()
+    {
+        TSchematic schematic;
+        schematic.NetModel()->AddNet("N", QString(), QColor(), QColor(), 0);
+        const auto wire = [&](const char* net) {
+            auto item = std::make_unique<TGraphicsWireItem>();
+            TGraphicsWireItem* placed = item.get();
+            placed->SetNet(net);
+            schematic.Attach(std::move(item));
+            return placed;
+        };
+        const TGraphicsWireItem* one = wire("N");
+        const TGraphicsWireItem* other = wire("M");
+        schematic.SetNetColor("N", Qt::red);
+        QCOMPARE(one->AltColor(), QColor(Qt::red));
+        QVERIFY(!other->AltColor().isValid());
+        QCOMPARE(schematic.NetModel()->ColorSch(0), QColor(Qt::red));
+    }
+
+    void padsTakeTheirNetsFromTheSchematic()
+    {
+        TSchematic schematic;
+        schematic.SetPinNet(4, "1", "A");
+        schematic.SetPinNet(4, "2", QString());
+        Test::Network board;
+        TProject project;
+        QCOMPARE(project.Kind(), int(TProject::Separate));
+        project.SetKind(TProject::InStep);
+        QCOMPARE(project.Kind(), 1);
+        const auto package = [&](quint16 number) {
+            TGraphicsPackageItem* placed = board.AddPackage();
+            placed->SetComponentNumber(number);
+            for (const char* pin : {"1", "2", "3"}) {
+                TGraphicsPadItem* pad = board.AddSurfacePad(1, 1, placed);
+                pad->SetNumber(pin);
+                pad->SetNet("old");
+            }
+            return placed;
+        };
+        const auto nets = [](const TGraphicsPackageItem* placed) {
+            QStringList names;
+            const QVector<TGraphicsItem*> pads = placed->Pads();
+            for (const TGraphicsItem* pad : pads) {
+                names.append(pad->Net());
+            }
+            return names;
+        };
+        const TGraphicsPackageItem* one = package(4);
+        const TGraphicsPackageItem* other = package(5);
+        board.UpdatePadNets({4, 5}); // Without a schematic nothing is known.
+        QCOMPARE(nets(one), (QStringList{"old", "old", "old"}));
+
+        project.SetBoard(&board);
+        project.SetSchematic(&schematic);
+        QCOMPARE(schematic.Project(), &project);
+        board.UpdatePadNets({5});
+        QCOMPARE(nets(one), (QStringList{"old", "old", "old"}));
+        board.UpdatePadNets({4, 5});
+        QCOMPARE(nets(one), (QStringList{"A", "", "old"}));
+        QCOMPARE(nets(other), (QStringList{"old", "old", "old"}));
+    }
+
+    void documentsMayGoBeforeOrAfterTheProject()
+    {
+        TSchematic schematic;
+        Test::Network board;
+        {
+            TProject project;
+            project.SetBoard(&board);
+            project.SetSchematic(&schematic);
+        }
+        QCOMPARE(schematic.Project(), nullptr);
+        board.UpdatePadNets({1});
+        QVERIFY(board.Items().isEmpty());
+        TProject project;
+        project.SetBoard(&board);
+        project.SetBoard(nullptr);
+        QCOMPARE(project.Board(), nullptr);
+    }
+};
+
+PROPERTIES_TEST_MAIN(TestProject)
+#include "tst_project.moc"
