@@ -74,11 +74,13 @@ protected:
         });
     }
 
-    /** The editing protocol for an attribute whose direct write differs from the command: @p write is given each item. */
+    /** The editing protocol for an attribute whose direct write differs from the command: @p write is given each item.
+     */
     template <class Command, class Item, class Value, class Write>
     void Edit(const QList<Item*>& items, const Value& value, Write write)
     {
-        EditBy(items, [&items, &value] { return new Command(items, value); }, write);
+        EditBy(
+            items, [&items, &value] { return new Command(items, value); }, write);
     }
 
     /** The editing protocol for a command that takes more than items and a value: @p make returns a new one. */

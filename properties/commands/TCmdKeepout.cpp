@@ -11,14 +11,14 @@ TCmdKeepoutLayEn::TCmdKeepoutLayEn(QList<TGraphicsKeepoutItem*> keepouts, Osmire
     }
 }
 
-void TCmdKeepoutLayEn::redo()
+void TCmdKeepoutLayEn::Do()
 {
     for (TGraphicsKeepoutItem* keepout : qAsConst(items)) {
         keepout->SetLayerEnable(layer, newValue);
     }
 }
 
-void TCmdKeepoutLayEn::undo()
+void TCmdKeepoutLayEn::Undo()
 {
     auto oldValue = oldValues.cbegin();
     for (TGraphicsKeepoutItem* keepout : qAsConst(items)) {

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "properties/commands/TReversibleCommand.h"
+
 #include <properties/Export.h>
 
-#include <application/TUndoCommand.h>
 #include <workspace/Osmirel.h>
 
 #include <QList>
@@ -11,13 +12,14 @@
 class TGraphicsKeepoutItem;
 
 /** Lets keepouts act on one copper layer, or not. */
-class PROPERTIES_EXPORT TCmdKeepoutLayEn : public TUndoCommand
+class PROPERTIES_EXPORT TCmdKeepoutLayEn : public TReversibleCommand
 {
 public:
     TCmdKeepoutLayEn(QList<TGraphicsKeepoutItem*> keepouts, Osmirel::Layer layer, bool enable);
 
-    void redo() override;
-    void undo() override;
+protected:
+    void Do() override;
+    void Undo() override;
 
 private:
     QList<TGraphicsKeepoutItem*> items;

@@ -1,5 +1,3 @@
 #include "properties/commands/TCmdLock.h"
 
-TCmdLock::TCmdLock(const QList<TGraphicsItem*>& selection, bool lock) : TMergingCommand(selection, lock)
-{
-}
+TCmdLock::TCmdLock(const QList<TGraphicsItem*>& selection, bool lock) : TMergingCommand(selection, lock) {}

@@ -16,12 +16,12 @@ TCmdNetClass::TCmdNetClass(const QString& ofNet, const QString& netClass, TProje
     }
 }
 
-void TCmdNetClass::redo()
+void TCmdNetClass::Do()
 {
     SetClass(net, newClass);
 }
 
-void TCmdNetClass::undo()
+void TCmdNetClass::Undo()
 {
     SetClass(net, oldClass);
 }
@@ -42,12 +42,12 @@ TCmdNetColorPcb::TCmdNetColorPcb(const QString& ofNet, const QColor& color, TPro
     }
 }
 
-void TCmdNetColorPcb::redo()
+void TCmdNetColorPcb::Do()
 {
     SetColor(net, newColor);
 }
 
-void TCmdNetColorPcb::undo()
+void TCmdNetColorPcb::Undo()
 {
     SetColor(net, oldColor);
 }
@@ -76,7 +76,7 @@ TCmdNetPrio::TCmdNetPrio(const QStringList& ofNets, const QString& level, TProje
     }
 }
 
-void TCmdNetPrio::redo()
+void TCmdNetPrio::Do()
 {
     QStringList levels;
     levels.reserve(nets.size());
@@ -84,7 +84,7 @@ void TCmdNetPrio::redo()
     SetLevels(levels);
 }
 
-void TCmdNetPrio::undo()
+void TCmdNetPrio::Undo()
 {
     SetLevels(oldLevels);
 }

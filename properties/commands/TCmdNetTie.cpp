@@ -4,17 +4,11 @@
 
 #include <application/TSchematic.h>
 
-TCmdNetTieBase::TCmdNetTieBase(TProject* ofProject) : project(ofProject)
-{
-}
+TCmdNetTieBase::TCmdNetTieBase(TProject* ofProject) : project(ofProject) {}
 
-void TCmdNetTieBase::redo()
-{
-}
+void TCmdNetTieBase::Do() {}
 
-void TCmdNetTieBase::undo()
-{
-}
+void TCmdNetTieBase::Undo() {}
 
 QList<TGraphicsNetTieSchItem*> TCmdNetTieBase::GetNetTiesOnSch() const
 {
@@ -41,41 +35,33 @@ QList<TGraphicsNetTiePcbItem*> TCmdNetTieBase::GetNetTiesOnPcb() const
 
 TCmdNetTieName::TCmdNetTieName(const QList<TGraphicsNetTiePcbItem*>& ties, const QString& name, TProject* ofProject)
     : TNetTieCommand(ties, name, ofProject)
-{
-}
+{}
 
 TCmdNetTieName::TCmdNetTieName(const QList<TGraphicsNetTieSchItem*>& ties, const QString& name, TProject* ofProject)
     : TNetTieCommand(ties, name, ofProject)
-{
-}
+{}
 
 TCmdNetTieNameVis::TCmdNetTieNameVis(const QList<TGraphicsNetTiePcbItem*>& ties, bool visible, TProject* ofProject)
     : TNetTieCommand(ties, visible, ofProject)
-{
-}
+{}
 
 TCmdNetTieNameVis::TCmdNetTieNameVis(const QList<TGraphicsNetTieSchItem*>& ties, bool visible, TProject* ofProject)
     : TNetTieCommand(ties, visible, ofProject)
-{
-}
+{}
 
 TCmdNetTiePcbLayer::TCmdNetTiePcbLayer(const QList<TGraphicsNetTiePcbItem*>& ties, Osmirel::Layer layer,
                                        TProject* ofProject)
     : TNetTieCommand(ties, layer, ofProject)
-{
-}
+{}
 
 TCmdNetTiePadSz::TCmdNetTiePadSz(const QList<TGraphicsNetTiePcbItem*>& ties, double size, TProject* ofProject)
     : TNetTieCommand(ties, size, ofProject)
-{
-}
+{}
 
 TCmdNetTieWireWidth::TCmdNetTieWireWidth(const QList<TGraphicsNetTiePcbItem*>& ties, double width, TProject* ofProject)
     : TNetTieCommand(ties, width, ofProject)
-{
-}
+{}
 
 TCmdNetTieSchSymbol::TCmdNetTieSchSymbol(const QList<TGraphicsNetTieSchItem*>& ties, int symbol, TProject* ofProject)
     : TNetTieCommand(ties, symbol, ofProject)
-{
-}
+{}

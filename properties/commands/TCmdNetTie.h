@@ -1,10 +1,10 @@
 #pragma once
 
 #include "properties/commands/ProjectParts.h"
+#include "properties/commands/TReversibleCommand.h"
 
 #include <properties/Export.h>
 
-#include <application/TUndoCommand.h>
 #include <objects/TGraphicsNetTiePcbItem.h>
 #include <objects/TGraphicsNetTieSchItem.h>
 
@@ -16,13 +16,10 @@
  * The base of the net-tie commands, which keep numbers of ties instead of items: the ties that bear the numbers are
  * found anew at every redo and undo, on the schematic and on the board. By itself it changes nothing.
  */
-class PROPERTIES_EXPORT TCmdNetTieBase : public TUndoCommand
+class PROPERTIES_EXPORT TCmdNetTieBase : public TReversibleCommand
 {
 public:
     explicit TCmdNetTieBase(TProject* project);
-
-    void redo() override;
-    void undo() override;
 
     /** The ties of the schematic as it stands now; none without a schematic. */
     QList<TGraphicsNetTieSchItem*> GetNetTiesOnSch() const;
@@ -30,6 +27,9 @@ public:
     QList<TGraphicsNetTiePcbItem*> GetNetTiesOnPcb() const;
 
 protected:
+    void Do() override;
+    void Undo() override;
+
     TProject* project;
 };
 
@@ -46,17 +46,17 @@ class TNetTieCommand : public TCmdNetTieBase
 public:
     using Value = typename Attribute::Value;
 
-    void redo() override
+protected:
+    void Do() override
     {
         WriteAll([this](int) { return newValue; });
     }
 
-    void undo() override
+    void Undo() override
     {
         WriteAll([this](int index) { return oldValues.at(index); });
     }
 
-protected:
     template <class Tie>
     TNetTieCommand(const QList<Tie*>& ties, const Value& value, TProject* ofProject)
         : TCmdNetTieBase(ofProject), newValue(value), madeOnSchematic(std::is_same_v<Tie, TGraphicsNetTieSchItem>)

@@ -1,25 +1,13 @@
 #include "properties/commands/TCmdOutline.h"
 
-TCmdOutlineAddNode::TCmdOutlineAddNode(TGraphicsOutlineItem*, const QPointF&)
-{
-}
+TCmdOutlineAddNode::TCmdOutlineAddNode(TGraphicsOutlineItem*, const QPointF&) {}
 
-void TCmdOutlineAddNode::redo()
-{
-}
+void TCmdOutlineAddNode::Do() {}
 
-void TCmdOutlineAddNode::undo()
-{
-}
+void TCmdOutlineAddNode::Undo() {}
 
-TCmdOutlineDelNode::TCmdOutlineDelNode(TGraphicsOutlineItem*, const QPointF&)
-{
-}
+TCmdOutlineDelNode::TCmdOutlineDelNode(TGraphicsOutlineItem*, const QPointF&) {}
 
-void TCmdOutlineDelNode::redo()
-{
-}
+void TCmdOutlineDelNode::Do() {}
 
-void TCmdOutlineDelNode::undo()
-{
-}
+void TCmdOutlineDelNode::Undo() {}

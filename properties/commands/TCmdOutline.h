@@ -1,26 +1,30 @@
 #pragma once
 
-#include <properties/Export.h>
+#include "properties/commands/TReversibleCommand.h"
 
-#include <application/TUndoCommand.h>
+#include <properties/Export.h>
 
 class QPointF;
 class TGraphicsOutlineItem;
 
 /** Intended: a placeholder that stores nothing and changes nothing. */
-class PROPERTIES_EXPORT TCmdOutlineAddNode : public TUndoCommand
+class PROPERTIES_EXPORT TCmdOutlineAddNode : public TReversibleCommand
 {
 public:
     TCmdOutlineAddNode(TGraphicsOutlineItem* outline, const QPointF& point);
-    void redo() override;
-    void undo() override;
+
+protected:
+    void Do() override;
+    void Undo() override;
 };
 
 /** Intended: a placeholder that stores nothing and changes nothing. */
-class PROPERTIES_EXPORT TCmdOutlineDelNode : public TUndoCommand
+class PROPERTIES_EXPORT TCmdOutlineDelNode : public TReversibleCommand
 {
 public:
     TCmdOutlineDelNode(TGraphicsOutlineItem* outline, const QPointF& point);
-    void redo() override;
-    void undo() override;
+
+protected:
+    void Do() override;
+    void Undo() override;
 };

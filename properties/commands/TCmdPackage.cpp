@@ -47,7 +47,7 @@ void TCmdPkgSide::SetLayer(TGraphicsPackageItem* package, Osmirel::Layer layer)
     }
 }
 
-void TCmdPkgSide::redo()
+void TCmdPkgSide::Do()
 {
     if (!ViewOf(board)) {
         return;
@@ -66,7 +66,7 @@ void TCmdPkgSide::redo()
     board->UpdateRats(components.List());
 }
 
-void TCmdPkgSide::undo()
+void TCmdPkgSide::Undo()
 {
     if (!ViewOf(board)) {
         return;
@@ -115,7 +115,7 @@ void TCmdPackageRefDes::Write(TGraphicsPackageItem& package, const QString& text
     package.SetRefDes(text);
 }
 
-void TCmdPackageRefDes::redo()
+void TCmdPackageRefDes::Do()
 {
     if (!ProjectParts::BoardView(project)) {
         return;
@@ -128,7 +128,7 @@ void TCmdPackageRefDes::redo()
     }
 }
 
-void TCmdPackageRefDes::undo()
+void TCmdPackageRefDes::Undo()
 {
     if (!ProjectParts::BoardView(project)) {
         return;
@@ -169,12 +169,12 @@ void TCmdPkgConnect::ExistItems()
     existing.KeepOnlyExisting(items, savedConnections);
 }
 
-void TCmdPkgConnect::redo()
+void TCmdPkgConnect::Do()
 {
     ActOnAll(Action::Connect);
 }
 
-void TCmdPkgConnect::undo()
+void TCmdPkgConnect::Undo()
 {
     ActOnSaved(Action::Disconnect);
 }
@@ -230,15 +230,14 @@ void TCmdPkgConnect::UpdateRats()
 
 TCmdPkgDisconnect::TCmdPkgDisconnect(const QList<TGraphicsItem*>& selection, TBoard* ofBoard)
     : TCmdPkgConnect(selection, ofBoard)
-{
-}
+{}
 
-void TCmdPkgDisconnect::redo()
+void TCmdPkgDisconnect::Do()
 {
     ActOnAll(Action::Disconnect);
 }
 
-void TCmdPkgDisconnect::undo()
+void TCmdPkgDisconnect::Undo()
 {
     ActOnSaved(Action::Connect);
 }

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "properties/commands/TExistingItems.h"
+#include "properties/commands/TReversibleCommand.h"
 
 #include <properties/Export.h>
 
-#include <application/TUndoCommand.h>
 #include <workspace/Osmirel.h>
 
 #include <QStringList>
@@ -17,23 +17,24 @@ class TProject;
  * Moves packages to the other side of the board: cuts their connections, shows their texts as the board's switches say,
  * and connects them to what their pads touch there. Packages that are on the side already are left out.
  */
-class PROPERTIES_EXPORT TCmdPkgSide : public TUndoCommand
+class PROPERTIES_EXPORT TCmdPkgSide : public TReversibleCommand
 {
 public:
     TCmdPkgSide(const QList<TGraphicsPackageItem*>& packages, Osmirel::Layer layer, TBoard* board);
-
-    void redo() override;
-    void undo() override;
 
     /** Moves one package and shows or hides its designator and value as the board's switches say. */
     void SetLayer(TGraphicsPackageItem* package, Osmirel::Layer layer);
     /** Forgets the packages that are no longer on the board. */
     void ExistItems();
 
+protected:
+    void Do() override;
+    void Undo() override;
+
 private:
     TBoard* board;
     QList<TGraphicsPackageItem*> items;
-    QVector<Osmirel::Layer> oldLayers;                  ///< Parallel to `items`.
+    QVector<Osmirel::Layer> oldLayers;                 ///< Parallel to `items`.
     QVector<QVector<TGraphicsItem*>> savedConnections; ///< What the last redo cut; parallel to `items` from then on.
     Osmirel::Layer newLayer;
 };
@@ -42,18 +43,18 @@ private:
  * Renames the selected packages of the project's board. In a project that keeps schematic and board in step, packages
  * that belong to a component keep their designator.
  */
-class PROPERTIES_EXPORT TCmdPackageRefDes : public TUndoCommand
+class PROPERTIES_EXPORT TCmdPackageRefDes : public TReversibleCommand
 {
 public:
     TCmdPackageRefDes(const QString& text, TProject* project);
-
-    void redo() override;
-    void undo() override;
 
     /** Forgets the packages that are no longer on the board. */
     void ExistItems();
 
 protected:
+    void Do() override;
+    void Undo() override;
+
     /** Writes the text that the command is about. */
     virtual void Write(TGraphicsPackageItem& package, const QString& text) const;
 
@@ -78,18 +79,18 @@ protected:
 };
 
 /** Connects packages and net ties of the board to what their pads touch. */
-class PROPERTIES_EXPORT TCmdPkgConnect : public TUndoCommand
+class PROPERTIES_EXPORT TCmdPkgConnect : public TReversibleCommand
 {
 public:
     TCmdPkgConnect(const QList<TGraphicsItem*>& selection, TBoard* board);
-
-    void redo() override;
-    void undo() override;
 
     /** Forgets the items that are no longer on the board. */
     void ExistItems();
 
 protected:
+    void Do() override;
+    void Undo() override;
+
     enum class Action { Connect, Disconnect };
 
     /** Acts on every item with all that it touches, keeps what each of them returned, and updates the rat lines. */
@@ -112,6 +113,7 @@ class PROPERTIES_EXPORT TCmdPkgDisconnect : public TCmdPkgConnect
 public:
     TCmdPkgDisconnect(const QList<TGraphicsItem*>& selection, TBoard* board);
 
-    void redo() override;
-    void undo() override;
+protected:
+    void Do() override;
+    void Undo() override;
 };

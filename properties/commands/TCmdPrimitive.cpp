@@ -31,30 +31,24 @@ void Attributes::BrushStyle::Write(TGraphicsItem& item, Qt::BrushStyle style)
 
 TCmdPenWidth::TCmdPenWidth(const QList<TGraphicsItem*>& selection, double millimetres)
     : TMergingCommand(selection, Attribute::FromEditor(millimetres))
-{
-}
+{}
 
 TCmdPenStyle::TCmdPenStyle(const QList<TGraphicsItem*>& selection, Qt::PenStyle style)
     : TMergingCommand(selection, style)
-{
-}
+{}
 
 TCmdBrushStyle::TCmdBrushStyle(const QList<TGraphicsItem*>& selection, int style)
     : TAttributeCommand(selection, Attribute::FromEditor(style))
-{
-}
+{}
 
 TCmdLayerPrim::TCmdLayerPrim(const QList<TGraphicsItem*>& selection, Osmirel::Layer layer)
     : TAttributeCommandWithId(selection, layer)
-{
-}
+{}
 
 TCmdUserColor::TCmdUserColor(const QList<TGraphicsItem*>& selection, const QColor& color)
     : TMergingCommand(selection, color)
-{
-}
+{}
 
 TCmdRectSize::TCmdRectSize(const QList<TGraphicsRectItem*>& selection, double width, double height)
     : TAttributeCommandWithId(selection, QSizeF(width, height))
-{
-}
+{}

@@ -35,48 +35,30 @@ bool Attributes::TextBold::Read(const TGraphicsTextItem& text)
 }
 
 TCmdTextTrueType::TCmdTextTrueType(QList<TGraphicsTextItem*> texts, bool outlines) : TAttributeCommand(texts, outlines)
-{
-}
+{}
 
 TCmdTextFontName::TCmdTextFontName(QList<TGraphicsTextItem*> texts, const QString& family)
     : TAttributeCommand(texts, family)
-{
-}
+{}
 
-TCmdTextFontSize::TCmdTextFontSize(QList<TGraphicsTextItem*> texts, int points) : TMergingCommand(texts, points)
-{
-}
+TCmdTextFontSize::TCmdTextFontSize(QList<TGraphicsTextItem*> texts, int points) : TMergingCommand(texts, points) {}
 
 TCmdTextAlign::TCmdTextAlign(QList<TGraphicsTextItem*> texts, int alignment)
     : TAttributeCommand(texts, Attribute::FromEditor(alignment))
-{
-}
+{}
 
 TCmdTextAlign::TCmdTextAlign(const QList<TGraphicsItem*>& selection, int alignment)
     : TAttributeCommand(selection, Attribute::FromEditor(alignment))
-{
-}
+{}
 
-TCmdTextAngle::TCmdTextAngle(QList<TGraphicsTextItem*> texts, int degrees) : TAttributeCommand(texts, degrees)
-{
-}
+TCmdTextAngle::TCmdTextAngle(QList<TGraphicsTextItem*> texts, int degrees) : TAttributeCommand(texts, degrees) {}
 
-TCmdTextBold::TCmdTextBold(QList<TGraphicsTextItem*> texts, bool bold) : TAttributeCommand(texts, bold)
-{
-}
+TCmdTextBold::TCmdTextBold(QList<TGraphicsTextItem*> texts, bool bold) : TAttributeCommand(texts, bold) {}
 
-TCmdTextItalic::TCmdTextItalic(QList<TGraphicsTextItem*> texts, bool italic) : TAttributeCommand(texts, italic)
-{
-}
+TCmdTextItalic::TCmdTextItalic(QList<TGraphicsTextItem*> texts, bool italic) : TAttributeCommand(texts, italic) {}
 
-TCmdTextLayer::TCmdTextLayer(QList<TGraphicsTextItem*> texts, Osmirel::Layer layer) : TAttributeCommand(texts, layer)
-{
-}
+TCmdTextLayer::TCmdTextLayer(QList<TGraphicsTextItem*> texts, Osmirel::Layer layer) : TAttributeCommand(texts, layer) {}
 
-TCmdTextMirrH::TCmdTextMirrH(QList<TGraphicsTextItem*> texts, bool on) : TAttributeCommand(texts, on)
-{
-}
+TCmdTextMirrH::TCmdTextMirrH(QList<TGraphicsTextItem*> texts, bool on) : TAttributeCommand(texts, on) {}
 
-TCmdTextMirrV::TCmdTextMirrV(QList<TGraphicsTextItem*> texts, bool on) : TAttributeCommand(texts, on)
-{
-}
+TCmdTextMirrV::TCmdTextMirrV(QList<TGraphicsTextItem*> texts, bool on) : TAttributeCommand(texts, on) {}

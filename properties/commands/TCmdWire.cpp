@@ -55,7 +55,7 @@ TCmdWireAddNode::TCmdWireAddNode(TGraphicsWireItem* ofWire, const QPointF& point
     }
 }
 
-void TCmdWireAddNode::redo()
+void TCmdWireAddNode::Do()
 {
     if (!wire) {
         return;
@@ -72,7 +72,7 @@ void TCmdWireAddNode::redo()
     newWire->SetFirstLink(wire);
 }
 
-void TCmdWireAddNode::undo()
+void TCmdWireAddNode::Undo()
 {
     if (!wire || !newWire) {
         return;
@@ -97,7 +97,7 @@ TCmdWireDelNode::TCmdWireDelNode(TGraphicsWireItem* keptWire, TGraphicsWireItem*
     }
 }
 
-void TCmdWireDelNode::redo()
+void TCmdWireDelNode::Do()
 {
     if (!kept) {
         return;
@@ -111,7 +111,7 @@ void TCmdWireDelNode::redo()
     removed.Detach();
 }
 
-void TCmdWireDelNode::undo()
+void TCmdWireDelNode::Undo()
 {
     if (!kept) {
         return;

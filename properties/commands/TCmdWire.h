@@ -3,6 +3,7 @@
 #include "properties/commands/Attributes.h"
 #include "properties/commands/TAttributeCommand.h"
 #include "properties/commands/TDetachedItem.h"
+#include "properties/commands/TReversibleCommand.h"
 
 #include <properties/Export.h>
 
@@ -37,14 +38,15 @@ public:
  * Splits a wire at a node: the wire ends there, and a copy of it goes on from there. The board owns the copy while the
  * split is in force.
  */
-class PROPERTIES_EXPORT TCmdWireAddNode : public TUndoCommand
+class PROPERTIES_EXPORT TCmdWireAddNode : public TReversibleCommand
 {
 public:
     /** The node is the foot of the perpendicular from @p point, in scene coordinates, onto the wire's line. */
     TCmdWireAddNode(TGraphicsWireItem* wire, const QPointF& point);
 
-    void redo() override;
-    void undo() override;
+protected:
+    void Do() override;
+    void Undo() override;
 
 private:
     TGraphicsWireItem* wire;
@@ -53,14 +55,15 @@ private:
 };
 
 /** Joins two wires at a node: the kept one is prolonged over the removed one, which the command owns meanwhile. */
-class PROPERTIES_EXPORT TCmdWireDelNode : public TUndoCommand
+class PROPERTIES_EXPORT TCmdWireDelNode : public TReversibleCommand
 {
 public:
     /** The last end of @p kept meets the first end of @p removed. */
     TCmdWireDelNode(TGraphicsWireItem* kept, TGraphicsWireItem* removed);
 
-    void redo() override;
-    void undo() override;
+protected:
+    void Do() override;
+    void Undo() override;
 
 private:
     TGraphicsWireItem* kept;

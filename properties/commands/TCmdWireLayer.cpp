@@ -40,7 +40,7 @@ TCmdWireLayer::TCmdWireLayer(TProject* ofProject, const QList<TGraphicsWireItem*
 
 TCmdWireLayer::~TCmdWireLayer() = default;
 
-void TCmdWireLayer::redo()
+void TCmdWireLayer::Do()
 {
     for (TGraphicsWireItem* wire : qAsConst(wires)) {
         wire->SetLayer(newLayer);
@@ -49,7 +49,7 @@ void TCmdWireLayer::redo()
     }
 }
 
-void TCmdWireLayer::undo()
+void TCmdWireLayer::Undo()
 {
     for (int i = 0; i < wires.size(); ++i) {
         wires.at(i)->SetLayer(oldLayers.at(i));
@@ -83,11 +83,8 @@ void TCmdWireLayer::LinkRedo(TGraphicsWireItem* wire, bool atFirst)
         MoveOrReplaceJunction(*wire, atFirst, static_cast<TGraphicsJunctionItem&>(*endItem));
         break;
     case ItemType::Via:
-    case ItemType::Pad:
-        CutFromCopperWithoutLayer(*wire, atFirst, static_cast<TGraphicsViaItem&>(*endItem));
-        break;
-    default:
-        break;
+    case ItemType::Pad: CutFromCopperWithoutLayer(*wire, atFirst, static_cast<TGraphicsViaItem&>(*endItem)); break;
+    default: break;
     }
 }
 
@@ -223,9 +220,9 @@ TGraphicsViaItem* TCmdWireLayer::AddVia(const QPointF& scenePoint)
     if (!owner) {
         return nullptr;
     }
-    const TGraphicsViaItem* pattern = !insertedVias.isEmpty()       ? insertedVias.first()
+    const TGraphicsViaItem* pattern = !insertedVias.isEmpty()      ? insertedVias.first()
                                       : !replacedJunctions.empty() ? replacedJunctions.front().via
-                                                                    : nullptr;
+                                                                   : nullptr;
     TGraphicsViaItem* via = nullptr;
     if (pattern) {
         via = static_cast<TGraphicsViaItem*>(pattern->CreateCopy());

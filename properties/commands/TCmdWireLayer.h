@@ -1,10 +1,10 @@
 #pragma once
 
 #include "properties/commands/TDetachedItem.h"
+#include "properties/commands/TReversibleCommand.h"
 
 #include <properties/Export.h>
 
-#include <application/TUndoCommand.h>
 #include <graphics/TGraphicsItem.h>
 
 #include <QList>
@@ -28,16 +28,13 @@ class TProject;
  *
  * Undo reads as the mirror of redo: what redo did is recorded, and taken back from the end.
  */
-class PROPERTIES_EXPORT TCmdWireLayer : public TUndoCommand
+class PROPERTIES_EXPORT TCmdWireLayer : public TReversibleCommand
 {
 public:
     /** Keeps the wires that are not on the new layer yet. Without a project with a board there are none. */
     TCmdWireLayer(TProject* project, const QList<TGraphicsWireItem*>& wires, Osmirel::Layer layer);
     ~TCmdWireLayer() override;
     Q_DISABLE_COPY(TCmdWireLayer)
-
-    void redo() override;
-    void undo() override;
 
     /** Adapts what one end of a moved wire is linked to. Does nothing for an end without a link. */
     void LinkRedo(TGraphicsWireItem* wire, bool atFirst);
@@ -48,6 +45,10 @@ public:
 
     /** A length in scene units from a setting in millimetres; the default where that is no number within the range. */
     double FromRegDouble(QSettings* settings, const QString& key, double min, double max, double def);
+
+protected:
+    void Do() override;
+    void Undo() override;
 
 private:
     void PutViaBetween(TGraphicsWireItem& wire, bool atFirst, TGraphicsWireItem& staying);

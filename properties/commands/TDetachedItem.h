@@ -17,8 +17,7 @@ public:
     explicit TDetachedItem(Item* ofItem) : item(ofItem) {}
     TDetachedItem(TDetachedItem&& other) noexcept
         : item(other.item), owner(other.owner), detached(std::exchange(other.detached, false))
-    {
-    }
+    {}
     TDetachedItem& operator=(TDetachedItem&& other) noexcept
     {
         std::swap(item, other.item);

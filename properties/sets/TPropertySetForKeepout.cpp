@@ -44,6 +44,7 @@ void TPropertySetForKeepout::SetEn(bool on)
         return;
     }
     const auto layer = static_cast<Osmirel::Layer>(Osmirel::CopperTop + std::distance(rows.cbegin(), found));
-    EditBy(keepouts, [&] { return new TCmdKeepoutLayEn(keepouts, layer, on); },
-           [layer, on](TGraphicsKeepoutItem& keepout) { keepout.SetLayerEnable(layer, on); });
+    EditBy(
+        keepouts, [&] { return new TCmdKeepoutLayEn(keepouts, layer, on); },
+        [layer, on](TGraphicsKeepoutItem& keepout) { keepout.SetLayerEnable(layer, on); });
 }

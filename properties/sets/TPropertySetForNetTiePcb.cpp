@@ -35,8 +35,8 @@ void TPropertySetForNetTiePcb::MakeRows(const TGraphicsNetTiePcbItem& shown)
     connect(wireWidth, SIGNAL(sigValueChanged(qreal)), this, SLOT(SetWireWidth(double)));
 
     TWorkspace* workspace = shown.Workspace();
-    layer = NewRow<TPropertyLayer>(
-        tr("Layer:"), workspace ? workspace->Layers().CopperLayers() : QList<Osmirel::Layer>(), workspace);
+    layer = NewRow<TPropertyLayer>(tr("Layer:"),
+                                   workspace ? workspace->Layers().CopperLayers() : QList<Osmirel::Layer>(), workspace);
     layer->SetCurrentLayer(shown.Layer());
     connect(layer, SIGNAL(sigLayerChanged(Osmirel::Layer)), this, SLOT(SetLayer(Osmirel::Layer)));
 
@@ -48,33 +48,38 @@ void TPropertySetForNetTiePcb::MakeRows(const TGraphicsNetTiePcbItem& shown)
 
 void TPropertySetForNetTiePcb::SetName(QString newName)
 {
-    EditBy(ties, [&] { return new TCmdNetTieName(ties, newName, project); },
-           [&newName](TGraphicsNetTiePcbItem& tie) { tie.SetName(newName); });
+    EditBy(
+        ties, [&] { return new TCmdNetTieName(ties, newName, project); },
+        [&newName](TGraphicsNetTiePcbItem& tie) { tie.SetName(newName); });
 }
 
 void TPropertySetForNetTiePcb::SetNameVis(bool visible)
 {
-    EditBy(ties, [&] { return new TCmdNetTieNameVis(ties, visible, project); },
-           [visible](TGraphicsNetTiePcbItem& tie) { tie.SetNameVisible(visible); });
+    EditBy(
+        ties, [&] { return new TCmdNetTieNameVis(ties, visible, project); },
+        [visible](TGraphicsNetTiePcbItem& tie) { tie.SetNameVisible(visible); });
 }
 
 void TPropertySetForNetTiePcb::SetLayer(Osmirel::Layer newLayer)
 {
-    EditBy(ties, [&] { return new TCmdNetTiePcbLayer(ties, newLayer, project); },
-           [newLayer](TGraphicsNetTiePcbItem& tie) { tie.SetLayer(newLayer); });
+    EditBy(
+        ties, [&] { return new TCmdNetTiePcbLayer(ties, newLayer, project); },
+        [newLayer](TGraphicsNetTiePcbItem& tie) { tie.SetLayer(newLayer); });
 }
 
 void TPropertySetForNetTiePcb::SetPadSz(double size)
 {
     const double sceneSize = Units::SceneFromMillimetres(size);
-    EditBy(ties, [&] { return new TCmdNetTiePadSz(ties, sceneSize, project); },
-           [sceneSize](TGraphicsNetTiePcbItem& tie) { tie.SetPadSize(sceneSize); });
+    EditBy(
+        ties, [&] { return new TCmdNetTiePadSz(ties, sceneSize, project); },
+        [sceneSize](TGraphicsNetTiePcbItem& tie) { tie.SetPadSize(sceneSize); });
 }
 
 void TPropertySetForNetTiePcb::SetWireWidth(double width)
 {
     const double sceneWidth = Units::SceneFromMillimetres(width);
     // Intended: the command is one of the pad size; only the direct write changes the wire.
-    EditBy(ties, [&] { return new TCmdNetTiePadSz(ties, sceneWidth, project); },
-           [sceneWidth](TGraphicsNetTiePcbItem& tie) { Attributes::NetTieWireWidth::Write(tie, sceneWidth); });
+    EditBy(
+        ties, [&] { return new TCmdNetTiePadSz(ties, sceneWidth, project); },
+        [sceneWidth](TGraphicsNetTiePcbItem& tie) { Attributes::NetTieWireWidth::Write(tie, sceneWidth); });
 }

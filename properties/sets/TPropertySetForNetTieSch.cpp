@@ -35,18 +35,21 @@ void TPropertySetForNetTieSch::MakeRows(const TGraphicsNetTieSchItem& shown)
 
 void TPropertySetForNetTieSch::SetName(QString newName)
 {
-    EditBy(ties, [&] { return new TCmdNetTieName(ties, newName, project); },
-           [&newName](TGraphicsNetTieSchItem& tie) { tie.SetName(newName); });
+    EditBy(
+        ties, [&] { return new TCmdNetTieName(ties, newName, project); },
+        [&newName](TGraphicsNetTieSchItem& tie) { tie.SetName(newName); });
 }
 
 void TPropertySetForNetTieSch::SetNameVis(bool visible)
 {
-    EditBy(ties, [&] { return new TCmdNetTieNameVis(ties, visible, project); },
-           [visible](TGraphicsNetTieSchItem& tie) { tie.SetNameVisible(visible); });
+    EditBy(
+        ties, [&] { return new TCmdNetTieNameVis(ties, visible, project); },
+        [visible](TGraphicsNetTieSchItem& tie) { tie.SetNameVisible(visible); });
 }
 
 void TPropertySetForNetTieSch::SetSymbol(int newSymbol)
 {
-    EditBy(ties, [&] { return new TCmdNetTieSchSymbol(ties, newSymbol, project); },
-           [newSymbol](TGraphicsNetTieSchItem& tie) { Attributes::NetTieSymbol::Write(tie, newSymbol); });
+    EditBy(
+        ties, [&] { return new TCmdNetTieSchSymbol(ties, newSymbol, project); },
+        [newSymbol](TGraphicsNetTieSchItem& tie) { Attributes::NetTieSymbol::Write(tie, newSymbol); });
 }

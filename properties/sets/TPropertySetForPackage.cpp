@@ -75,9 +75,7 @@ void TPropertySetForPackage::MakeRows(const Values& values, const QList<Osmirel:
     AddProperties({refDes, value, package, lock, side});
 }
 
-void TPropertySetForPackage::SetRefDes(QString)
-{
-}
+void TPropertySetForPackage::SetRefDes(QString) {}
 
 void TPropertySetForPackage::SetValue(QString newValue)
 {
@@ -114,8 +112,9 @@ void TPropertySetForPackage::SetLockValue(bool on)
 void TPropertySetForPackage::SetSide(Osmirel::Layer layer)
 {
     // Intended: unlike the command, the direct write refreshes neither texts, connections nor rat lines.
-    EditBy(packages, [&] { return new TCmdPkgSide(packages, layer, board); },
-           [layer](TGraphicsPackageItem& item) { item.SetLayer(layer); });
+    EditBy(
+        packages, [&] { return new TCmdPkgSide(packages, layer, board); },
+        [layer](TGraphicsPackageItem& item) { item.SetLayer(layer); });
 }
 
 void TPropertySetForPackage::KeyPressEvent(QKeyEvent* event)

@@ -64,12 +64,10 @@ void TPropertySetForPour::MakeFillRows(const TGraphicsPourItem& shown)
 
 void TPropertySetForPour::MakeClearanceAndThermalRows(const TGraphicsPourItem& shown)
 {
-    clearanceToEtch =
-        NewLengthRow(tr("Clearance to etch:"), shown.ClearanceToEtch(), SLOT(SetClearanceToEtch(qreal)));
+    clearanceToEtch = NewLengthRow(tr("Clearance to etch:"), shown.ClearanceToEtch(), SLOT(SetClearanceToEtch(qreal)));
     clearanceToBorder =
         NewLengthRow(tr("Clearance to border:"), shown.ClearanceToBorder(), SLOT(SetClearanceToBorder(qreal)));
-    clearanceToPour =
-        NewLengthRow(tr("Clearance to pour:"), shown.ClearanceToPour(), SLOT(SetClearanceToPour(qreal)));
+    clearanceToPour = NewLengthRow(tr("Clearance to pour:"), shown.ClearanceToPour(), SLOT(SetClearanceToPour(qreal)));
 
     thermalEnable = NewRow<TPropertyCheck>(tr("Thermal enable:"));
     thermalEnable->SetCurrentState(shown.ThermalEnable());

@@ -76,9 +76,8 @@ void TPropertySetForText::MakeFontRows(const Values& values)
 
     fontSize = NewRow<TPropertyEnum>(tr("Font size:"));
     TextRows::AddFontSizes(*fontSize);
-    RowValues::ShowIfShared(*fontSize, values.size.AllEqual(), [&] {
-        fontSize->SetCurrentEnum(TextRows::OfferedFontSize(values.size.First()));
-    });
+    RowValues::ShowIfShared(*fontSize, values.size.AllEqual(),
+                            [&] { fontSize->SetCurrentEnum(TextRows::OfferedFontSize(values.size.First())); });
     connect(fontSize, SIGNAL(sigEnumChanged(int)), this, SLOT(SetFontSize(int)));
 
     bold = NewRow<TPropertyCheck>(tr("Bold:"));

@@ -97,11 +97,11 @@ void TPropertySetForWire::MakeNetClassRow(bool onOneNet)
 {
     const TSchematic* schematic = ProjectParts::Schematic(project);
     netClass = NewRow<TPropertyEnum>(tr("Net class:"), schematic->NetClassNames());
-    const std::optional<QString> name = schematic->NetClass(netName);
-    if (name) {
-        netClass->SetCurrentText(name->isEmpty() ? QStringLiteral("Default") : *name);
+    const std::optional<QString> className = schematic->NetClass(netName);
+    if (className) {
+        netClass->SetCurrentText(className->isEmpty() ? QStringLiteral("Default") : *className);
     }
-    netClass->SetEnabled(name && onOneNet);
+    netClass->SetEnabled(className && onOneNet);
     connect(netClass, SIGNAL(sigTextChanged(QString)), this, SLOT(SetClass(QString)));
 }
 
@@ -138,8 +138,9 @@ QList<Osmirel::Layer> TPropertySetForWire::OfferedLayers() const
 void TPropertySetForWire::SetLayer(Osmirel::Layer newLayer)
 {
     // Intended: the direct write adapts none of the links, as the command does.
-    EditBy(wires, [&] { return new TCmdWireLayer(project, wires, newLayer); },
-           [newLayer](TGraphicsWireItem& wire) { wire.SetLayer(newLayer); });
+    EditBy(
+        wires, [&] { return new TCmdWireLayer(project, wires, newLayer); },
+        [newLayer](TGraphicsWireItem& wire) { wire.SetLayer(newLayer); });
 }
 
 void TPropertySetForWire::SetWidth(qreal newWidth)

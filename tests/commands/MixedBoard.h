@@ -17,6 +17,7 @@ public:
 
 protected:
     void Draw(QPainter&, double) const override {}
+    std::unique_ptr<TGraphicsItem> CreateEmpty() const override { return std::make_unique<ForeignItem>(number); }
 
 private:
     int number;
