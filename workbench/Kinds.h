@@ -7,7 +7,7 @@
 
 #include <memory>
 
-class TBoard;
+class TDesign;
 class TPropertySet;
 
 /** What the workbench knows of a kind of items: what users call it, and the set that edits it. */
@@ -16,8 +16,10 @@ struct TKind
     ItemType::Number type;
     const char* one; ///< The words are translated in the context "Kinds".
     const char* many;
-    std::unique_ptr<TPropertySet> (*makeSet)(const QList<TGraphicsItem*>& selection, TBoard& board);
+    std::unique_ptr<TPropertySet> (*makeSet)(const QList<TGraphicsItem*>& selection, TDesign& design);
+    Osmirel::Layer only = Osmirel::NoLayer; ///< The layer that makes the kind what it is, if one does.
 
+    bool Holds(const TGraphicsItem& item) const;
     /** The kind's word for more than one, translated. */
     QString Plural() const;
 };
@@ -27,6 +29,12 @@ namespace Kinds {
 /** The kinds that can be edited, in the order of menus and counts. */
 const QVector<TKind>& All();
 
+/** The kind of an item; null if it has no set. */
+const TKind* Of(const TGraphicsItem& item);
+
+/** The word for an item on a command line: that of its kind, in one word. */
+QString Word(const TGraphicsItem& item);
+
 /** Such as "784 vias"; items of several kinds are just "items". */
 QString Counted(int count, const TKind* kind);
 
@@ -34,7 +42,7 @@ QString Counted(int count, const TKind* kind);
 const TKind* OfFirst(const QList<TGraphicsItem*>& selection);
 
 /** The set for the kind of the first item, made with the whole selection; null if there is none. */
-std::unique_ptr<TPropertySet> MakePropertySet(const QList<TGraphicsItem*>& selection, TBoard& board);
+std::unique_ptr<TPropertySet> MakePropertySet(const QList<TGraphicsItem*>& selection, TDesign& design);
 
 /** Such as "784 vias, 12 pads"; items of other kinds are not mentioned. Empty without any. */
 QString Summary(const QList<TGraphicsItem*>& items);

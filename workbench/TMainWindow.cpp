@@ -1,9 +1,11 @@
 #include "workbench/TMainWindow.h"
 
 #include "properties/TPropertyWidget.h"
+#include "workbench/DesignActions.h"
 #include "workbench/Kinds.h"
 #include "workbench/LoadBoard.h"
 #include "workbench/TCanvas.h"
+#include "workbench/TDesign.h"
 #include "workbench/Theme.h"
 #include "workbench/TLayerList.h"
 #include "workbench/TPropertyEditing.h"
@@ -11,12 +13,14 @@
 #include "workbench/TUndoKeys.h"
 
 #include <application/TBoard.h>
+#include <application/TUndoCommand.h>
 
 #include <QActionGroup>
 #include <QApplication>
 #include <QDockWidget>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QInputDialog>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
@@ -80,6 +84,7 @@ void TMainWindow::MakeMenus()
 {
     MakeFileMenu();
     MakeEditMenu();
+    MakeDesignMenu();
     MakeViewMenu();
     MakeLanguageMenu();
 }
@@ -107,6 +112,25 @@ void TMainWindow::MakeEditMenu()
     for (const TKind& kind : Kinds::All()) {
         menu->addAction(tr("Select all %1").arg(kind.Plural()), this, [this, &kind] { slotSelectKind(kind); });
     }
+}
+
+void TMainWindow::MakeDesignMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&Design"));
+    for (const TDesignAction& action : DesignActions::All()) {
+        QAction* entry = menu->addAction(action.MenuText(), this, [this, &action] { slotAction(action); });
+        entry->setShortcut(QString::fromLatin1(action.key));
+        entry->setShortcutContext(Qt::WidgetShortcut);
+        canvas->addAction(entry);
+    }
+    menu->addSeparator();
+    designators = menu->addAction(tr("Show d&esignators"));
+    values = menu->addAction(tr("Show v&alues"));
+    for (QAction* shown : {designators, values}) {
+        shown->setCheckable(true);
+    }
+    connect(designators, &QAction::toggled, this, &TMainWindow::slotDesignators);
+    connect(values, &QAction::toggled, this, &TMainWindow::slotValues);
 }
 
 void TMainWindow::MakeViewMenu()
@@ -173,30 +197,93 @@ void TMainWindow::Connect()
 void TMainWindow::DropBoard()
 {
     // From the top down: the set's rows and the commands point to items, the items to the board.
-    editing->SetBoard(nullptr);
+    editing->SetDesign(nullptr);
     selection->SetScene(nullptr);
     undoStack->clear();
     layerList->SetLayers(nullptr);
     canvas->Show(nullptr);
-    board.reset();
+    design.reset();
 }
 
 void TMainWindow::ShowBoard(TImportResult result, const QString& name)
 {
     DropBoard();
     const QString missing = DescribeNotShown(result);
-    board = std::move(result.board);
-    board->SetView(canvas);
-    canvas->Show(board->Scene());
-    layerList->SetLayers(board->LayerManager());
-    selection->SetScene(board->Scene());
-    editing->SetBoard(board.get());
+    design = std::make_unique<TDesign>(std::move(result));
+    TBoard& board = design->Board();
+    board.SetView(canvas);
+    canvas->Show(board.Scene());
+    layerList->SetLayers(board.LayerManager());
+    selection->SetScene(board.Scene());
+    editing->SetDesign(design.get());
+    const QSignalBlocker designatorsBlocker(designators);
+    const QSignalBlocker valuesBlocker(values);
+    designators->setChecked(board.RefDesVisible());
+    values->setChecked(board.ValuesVisible());
     setWindowTitle(tr("%1 – Workbench").arg(name));
-    content->setText(Kinds::Summary(board->Items()));
+    content->setText(Kinds::Summary(board.Items()));
     const QString notice = missing.isEmpty() ? QString() : tr("Not shown: %1").arg(missing);
     constexpr int widestNotice = 420;
     notShown->setText(notShown->fontMetrics().elidedText(notice, Qt::ElideRight, widestNotice));
     notShown->setToolTip(notice);
+}
+
+TBoard* TMainWindow::Board() const
+{
+    return design ? &design->Board() : nullptr;
+}
+
+bool TMainWindow::Do(const TDesignAction& action, const QString& text, const QPointF& point)
+{
+    if (!design) {
+        return false;
+    }
+    std::unique_ptr<TUndoCommand> command = action.make({*design, selection->Items(), text, point});
+    if (command) {
+        editing->Push(std::move(command));
+        return true;
+    }
+    return false;
+}
+
+void TMainWindow::slotAction(const TDesignAction& action)
+{
+    QString text;
+    if (action.asks == TDesignAction::Asks::Text) {
+        bool accepted = false;
+        text = QInputDialog::getText(this, tr("Design"), action.Question(), QLineEdit::Normal, QString(), &accepted);
+        if (!accepted) {
+            return;
+        }
+    }
+    if (!Do(action, text, cursor)) {
+        constexpr int shownForMilliseconds = 5000;
+        statusBar()->showMessage(tr("Select %1 first").arg(action.Needs()), shownForMilliseconds);
+    }
+}
+
+void TMainWindow::ShowDesignators(bool on)
+{
+    designators->setChecked(on);
+}
+
+void TMainWindow::ShowValues(bool on)
+{
+    values->setChecked(on);
+}
+
+void TMainWindow::slotDesignators(bool on)
+{
+    if (design) {
+        design->ShowDesignators(on);
+    }
+}
+
+void TMainWindow::slotValues(bool on)
+{
+    if (design) {
+        design->ShowValues(on);
+    }
 }
 
 void TMainWindow::OpenFile(const QString& file)
@@ -230,8 +317,8 @@ void TMainWindow::slotSelectAll()
 void TMainWindow::SelectVisible(const TKind* kind)
 {
     QList<TGraphicsItem*> items;
-    for (TGraphicsItem* item : board ? board->Items() : QList<TGraphicsItem*>()) {
-        if ((!kind || item->type() == kind->type) && item->IsOnVisibleLayer()) {
+    for (TGraphicsItem* item : design ? design->Board().Items() : QList<TGraphicsItem*>()) {
+        if ((!kind || kind->Holds(*item)) && item->IsOnVisibleLayer()) {
             items.append(item);
         }
     }
@@ -266,8 +353,9 @@ void TMainWindow::slotSetShown()
 
 void TMainWindow::slotCursorMoved(const QPointF& scenePoint)
 {
-    if (board) {
-        const TWorkspace& workspace = *board->Workspace();
+    cursor = scenePoint;
+    if (design) {
+        const TWorkspace& workspace = *design->Board().Workspace();
         position->setText(QStringLiteral("%1, %2 %3")
                               .arg(workspace.ValueFromScene(scenePoint.x()), 0, 'f', 3)
                               .arg(workspace.ValueFromScene(scenePoint.y()), 0, 'f', 3)

@@ -3,6 +3,7 @@
 #include "workbench/TLanguages.h"
 
 #include <QMainWindow>
+#include <QPointF>
 
 #include <memory>
 
@@ -10,11 +11,13 @@ class QLabel;
 class QUndoStack;
 class TBoard;
 class TCanvas;
+class TDesign;
 class TGraphicsItem;
 class TLayerList;
 class TPropertyEditing;
 class TPropertyWidget;
 class TSelection;
+struct TDesignAction;
 struct TImportResult;
 struct TKind;
 
@@ -31,12 +34,21 @@ public:
     void ShowBoard(TImportResult result, const QString& name);
 
     /** Null before the first one is shown. */
-    TBoard* Board() const { return board.get(); }
+    TBoard* Board() const;
+    TDesign* Design() const { return design.get(); }
     TSelection& Selection() const { return *selection; }
     QUndoStack& UndoStack() const { return *undoStack; }
     TPropertyEditing& Editing() const { return *editing; }
     TPropertyWidget& Panel() const { return *panel; }
     TCanvas& Canvas() const { return *canvas; }
+
+    /** Does something with what is selected; false if the selection does not suit it, or nothing is shown. The point
+     *  is one of the scene. */
+    bool Do(const TDesignAction& action, const QString& text, const QPointF& point);
+
+    /** Shows or hides the designators, or the values, of all packages. */
+    void ShowDesignators(bool on);
+    void ShowValues(bool on);
 
 public slots:
     /** Opens a file. Without success the shown board stays, and one message says why. */
@@ -50,12 +62,16 @@ private slots:
     void slotLanguage();
     void slotSetShown();
     void slotCursorMoved(const QPointF& scenePoint);
+    void slotAction(const TDesignAction& action);
+    void slotDesignators(bool on);
+    void slotValues(bool on);
 
 private:
     void MakeDocks();
     void MakeMenus();
     void MakeFileMenu();
     void MakeEditMenu();
+    void MakeDesignMenu();
     void MakeViewMenu();
     void MakeLanguageMenu();
     void MakeStatusBar();
@@ -63,7 +79,7 @@ private:
     void DropBoard();
     void SelectVisible(const TKind* kind);
 
-    std::unique_ptr<TBoard> board;
+    std::unique_ptr<TDesign> design;
     TLanguages languages;
 
     // Owned by their parents, this window or one of its docks.
@@ -73,10 +89,13 @@ private:
     TPropertyWidget* panel = nullptr;
     TLayerList* layerList = nullptr;
     QList<QDockWidget*> docks;
+    QAction* designators = nullptr;
+    QAction* values = nullptr;
     QLabel* content = nullptr;
     QLabel* notShown = nullptr;
     QLabel* selected = nullptr;
     QLabel* position = nullptr;
 
     std::unique_ptr<TPropertyEditing> editing;
+    QPointF cursor; ///< Where it was last above the canvas, in scene units.
 };

@@ -22,20 +22,20 @@ TPropertyEditing::TPropertyEditing(TPropertyWidget& propertyPanel, TSelection& e
     connect(&undoStack, &QUndoStack::indexChanged, this, &TPropertyEditing::slotIndexChanged);
 }
 
-void TPropertyEditing::SetBoard(TBoard* newBoard)
+void TPropertyEditing::SetDesign(TDesign* newDesign)
 {
-    board = newBoard;
+    design = newDesign;
     panel.SetPropertySet(nullptr);
     emit sigSetShown();
 }
 
 void TPropertyEditing::ShowSelection()
 {
-    if (!board) {
+    if (!design) {
         return;
     }
     const QString focused = FocusedLabel();
-    std::unique_ptr<TPropertySet> set = Kinds::MakePropertySet(selection.Items(), *board);
+    std::unique_ptr<TPropertySet> set = Kinds::MakePropertySet(selection.Items(), *design);
     if (set) {
         connect(set.get(), &TPropertySet::sigCmd, this, &TPropertyEditing::slotCmd);
     }
@@ -51,13 +51,23 @@ void TPropertyEditing::ForwardKey(QKeyEvent* event)
     }
 }
 
-void TPropertyEditing::slotCmd(TUndoCommand* command)
+void TPropertyEditing::Name(TUndoCommand& command) const
 {
     const TKind* kind = Kinds::OfFirst(selection.Items());
-    const auto edited =
-        std::count_if(selection.Items().cbegin(), selection.Items().cend(),
-                      [kind](const TGraphicsItem* item) { return !kind || item->type() == kind->type; });
-    command->setText(CommandNames::Text(*command, Kinds::Counted(static_cast<int>(edited), kind)));
+    const auto edited = std::count_if(selection.Items().cbegin(), selection.Items().cend(),
+                                      [kind](const TGraphicsItem* item) { return !kind || kind->Holds(*item); });
+    command.setText(CommandNames::Text(command, Kinds::Counted(static_cast<int>(edited), kind)));
+}
+
+void TPropertyEditing::Push(std::unique_ptr<TUndoCommand> command)
+{
+    Name(*command);
+    undoStack.push(command.release());
+}
+
+void TPropertyEditing::slotCmd(TUndoCommand* command)
+{
+    Name(*command);
     // The rows already show what this command writes.
     const QScopedValueRollback<bool> pushing(isPushing, true);
     undoStack.push(command);

@@ -2,9 +2,11 @@
 
 #include <QObject>
 
+#include <memory>
+
 class QKeyEvent;
 class QUndoStack;
-class TBoard;
+class TDesign;
 class TPropertySet;
 class TPropertyWidget;
 class TSelection;
@@ -21,8 +23,11 @@ class TPropertyEditing : public QObject
 public:
     TPropertyEditing(TPropertyWidget& panel, TSelection& selection, QUndoStack& undoStack);
 
-    /** The board whose items are edited; null for none. The panel is empty until something is selected. */
-    void SetBoard(TBoard* newBoard);
+    /** The design whose items are edited; null for none. The panel is empty until something is selected. */
+    void SetDesign(TDesign* newDesign);
+
+    /** Pushes a command of the application's own, and shows the values anew. */
+    void Push(std::unique_ptr<TUndoCommand> command);
 
     /** Gives a key to the shown set. */
     void ForwardKey(QKeyEvent* event);
@@ -40,12 +45,13 @@ private slots:
     void slotIndexChanged();
 
 private:
+    void Name(TUndoCommand& command) const;
     QString FocusedLabel() const;
     void FocusRow(const QString& label) const;
 
     TPropertyWidget& panel;
     TSelection& selection;
     QUndoStack& undoStack;
-    TBoard* board = nullptr;
+    TDesign* design = nullptr;
     bool isPushing = false;
 };

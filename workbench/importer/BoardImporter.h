@@ -1,6 +1,7 @@
 #pragma once
 
 #include <application/TBoard.h>
+#include <application/TSchematic.h>
 
 #include <QByteArray>
 #include <QList>
@@ -15,6 +16,9 @@ struct TImportResult
 {
     /** Null if the file could not be read, or reading was cancelled. A board is never half of what is in its file. */
     std::unique_ptr<TBoard> board;
+
+    /** The nets of the board, their classes and colours; null if there is no board. */
+    std::unique_ptr<TSchematic> schematic;
 
     /** What the file holds and the board does not, with counts: ("track segments", 17921). */
     QList<QPair<QString, int>> notShown;

@@ -1,14 +1,17 @@
 #include "workbench/session/CommandLine.h"
 
+#include "workbench/DesignActions.h"
 #include "workbench/session/TItemQuery.h"
 #include "workbench/session/TSession.h"
 #include "workbench/session/TSessionError.h"
 
 #include <QKeySequence>
+#include <QPointF>
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <iterator>
+#include <cmath>
+#include <vector>
 
 namespace {
 
@@ -22,8 +25,8 @@ struct TStepOption
     const char* name;
     Argument takes;
     const char* argument;
-    const char* help;
-    TPerform (*parse)(const QString& argument);
+    QString help;
+    std::function<TPerform(const QString& argument)> parse;
 };
 
 TPerform ParseSelect(const QString& what)
@@ -54,13 +57,43 @@ TPerform ParseKey(const QString& name)
     return [key](TSession& session) { return session.Press(key); };
 }
 
-TPerform ParseBypass(const QString& state)
+/** A step that switches something. */
+template <QString (TSession::*step)(bool on)>
+TPerform ParseSwitch(const QString& state)
 {
     const bool on = state == QLatin1String("on");
     if (!on && state != QLatin1String("off")) {
         throw TSessionError(QStringLiteral("takes on or off, not \"%1\"").arg(state));
     }
-    return [on](TSession& session) { return session.Bypass(on); };
+    return [on](TSession& session) { return (session.*step)(on); };
+}
+
+/** A point of the scene, given as "x,y" in millimetres. */
+QPointF ParsePoint(const QString& text)
+{
+    const QStringList parts = text.split(QLatin1Char(','));
+    bool isX = false;
+    bool isY = false;
+    const double x = parts.value(0).toDouble(&isX);
+    const double y = parts.value(1).toDouble(&isY);
+    if (parts.size() != 2 || !isX || !isY || !std::isfinite(x) || !std::isfinite(y)) {
+        throw TSessionError(QStringLiteral("\"%1\" is no place: x,y in millimetres").arg(text));
+    }
+    constexpr double sceneUnitsPerMillimetre = 300.0 / 25.4;
+    return QPointF(x, y) * sceneUnitsPerMillimetre;
+}
+
+TStepOption OptionOf(const TDesignAction& action)
+{
+    using Asks = TDesignAction::Asks;
+    const char* argument = action.asks == Asks::Text ? "TEXT" : action.asks == Asks::Point ? "X,Y" : "";
+    QString help = QString::fromUtf8(action.menuText).remove(QLatin1Char('&')).remove(QChar(0x2026));
+    help[0] = help[0].toLower();
+    return {action.option, action.asks == Asks::Nothing ? Argument::None : Argument::Required, argument, help,
+            [&action](const QString& given) -> TPerform {
+                const QPointF point = action.asks == Asks::Point ? ParsePoint(given) : QPointF();
+                return [&action, given, point](TSession& session) { return session.Do(action, given, point); };
+            }};
 }
 
 int ParseCount(const QString& count)
@@ -93,32 +126,52 @@ TPerform ParseScreenshot(const QString& file)
     return [file](TSession& session) { return session.Screenshot(file); };
 }
 
-constexpr TStepOption stepOptions[] = {
-    {"--select", Argument::Required, "WHAT",
-     "select items: via, pad, hole, several with commas, or all; with [i] or [i..j]\n"
-     "for positions in the design's order among that kind, from 0",
-     ParseSelect},
-    {"--panel", Argument::None, "", "print the panel: its title, then each row's label and value", ParsePanel},
-    {"--set", Argument::Required, "LABEL=VALUE",
-     "edit a row; its parts are LABEL.check=on, LABEL.width=1.2, LABEL.height=0.6,\n"
-     "LABEL.show=off, LABEL.1=on and LABEL.2=on",
-     ParseSet},
-    {"--key", Argument::Required, "KEY", "press a key on the canvas", ParseKey},
-    {"--bypass", Argument::Required, "on|off", "let edits of the selected items leave no undo step, or again leave one",
-     ParseBypass},
-    {"--undo", Argument::Count, "[N]", "undo the last edit, or the last N", ParseUndo},
-    {"--redo", Argument::Count, "[N]", "redo the next edit, or the next N", ParseRedo},
-    {"--history", Argument::None, "", "print the undo history", ParseHistory},
-    {"--dump", Argument::Required, "FILE", "write every item of the design as one line of text; - prints it",
-     ParseDump},
-    {"--screenshot", Argument::Required, "FILE", "write the window as a PNG picture", ParseScreenshot},
-};
+std::vector<TStepOption> MakeStepOptions()
+{
+    std::vector<TStepOption> options{
+        {"--select", Argument::Required, "WHAT",
+         "select items: wire, via, pad and the like, several with commas, or all; with [i] or [i..j]\n"
+         "for positions in the design's order among that kind, from 0",
+         ParseSelect},
+        {"--panel", Argument::None, "", "print the panel: its title, then each row's label and value", ParsePanel},
+        {"--set", Argument::Required, "LABEL=VALUE",
+         "edit a row; its parts are LABEL.check=on, LABEL.width=1.2, LABEL.height=0.6,\n"
+         "LABEL.show=off, LABEL.1=on and LABEL.2=on",
+         ParseSet},
+        {"--key", Argument::Required, "KEY", "press a key on the canvas", ParseKey},
+        {"--bypass", Argument::Required, "on|off",
+         "let edits of the selected items leave no undo step, or again leave one", ParseSwitch<&TSession::Bypass>},
+    };
+    for (const TDesignAction& action : DesignActions::All()) {
+        options.push_back(OptionOf(action));
+    }
+    const std::initializer_list<TStepOption> others{
+        {"--designators", Argument::Required, "on|off", "show or hide the designators of all packages",
+         ParseSwitch<&TSession::ShowDesignators>},
+        {"--values", Argument::Required, "on|off", "show or hide the values of all packages",
+         ParseSwitch<&TSession::ShowValues>},
+        {"--undo", Argument::Count, "[N]", "undo the last edit, or the last N", ParseUndo},
+        {"--redo", Argument::Count, "[N]", "redo the next edit, or the next N", ParseRedo},
+        {"--history", Argument::None, "", "print the undo history", ParseHistory},
+        {"--dump", Argument::Required, "FILE", "write every item of the design as one line of text; - prints it",
+         ParseDump},
+        {"--screenshot", Argument::Required, "FILE", "write the window as a PNG picture", ParseScreenshot},
+    };
+    options.insert(options.end(), others);
+    return options;
+}
+
+const std::vector<TStepOption>& StepOptions()
+{
+    static const std::vector<TStepOption> options = MakeStepOptions();
+    return options;
+}
 
 const TStepOption* FindOption(const QString& name)
 {
-    const auto* found = std::find_if(std::begin(stepOptions), std::end(stepOptions),
-                                     [&name](const TStepOption& option) { return name == QLatin1String(option.name); });
-    return found == std::end(stepOptions) ? nullptr : found;
+    const auto found = std::find_if(StepOptions().begin(), StepOptions().end(),
+                                    [&name](const TStepOption& option) { return name == QLatin1String(option.name); });
+    return found == StepOptions().end() ? nullptr : &*found;
 }
 
 bool IsCount(const QString& text)
@@ -198,20 +251,19 @@ TCommandLine TCommandLine::Parse(const QStringList& arguments)
 QString TCommandLine::Usage()
 {
     constexpr int helpColumn = 23;
-    const auto entry = [](const QString& option, const char* words) {
-        QString text = QString::fromUtf8(words);
+    const auto entry = [](const QString& option, QString text) {
         text.replace(QLatin1Char('\n'), QLatin1Char('\n') + QString(helpColumn, QLatin1Char(' ')));
         return QStringLiteral("  %1").arg(option).leftJustified(helpColumn) + text + QLatin1Char('\n');
     };
     QString usage = QStringLiteral("workbench [FILE] [STEP...]\n\n"
                                    "Opens a board (.kicad_pcb), or without FILE a sample board.\n\n"
                                    "Steps are done in their order, without a screen:\n");
-    for (const TStepOption& option : stepOptions) {
+    for (const TStepOption& option : StepOptions()) {
         usage +=
             entry(QStringLiteral("%1 %2").arg(QLatin1String(option.name), QLatin1String(option.argument)), option.help);
     }
-    usage += entry(QStringLiteral("--timing"), "print how many milliseconds each step takes");
-    usage += entry(QStringLiteral("--help"), "print this and end");
+    usage += entry(QStringLiteral("--timing"), QStringLiteral("print how many milliseconds each step takes"));
+    usage += entry(QStringLiteral("--help"), QStringLiteral("print this and end"));
     usage += QStringLiteral("\nThe exit code is 0, or 2 after an error.\n");
     return usage;
 }

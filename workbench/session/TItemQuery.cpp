@@ -1,5 +1,6 @@
 #include "workbench/session/TItemQuery.h"
 
+#include "workbench/Kinds.h"
 #include "workbench/session/TSessionError.h"
 
 #include <application/TBoard.h>
@@ -25,11 +26,12 @@ QList<TGraphicsItem*> SelectableItems(const TBoard& board)
 QString KindsOf(const QList<TGraphicsItem*>& items)
 {
     QStringList kinds;
-    QSet<int> seen;
+    QSet<QString> seen;
     for (const TGraphicsItem* item : items) {
-        if (!seen.contains(item->type())) {
-            seen.insert(item->type());
-            kinds.append(item->KindName());
+        const QString word = Kinds::Word(*item);
+        if (!seen.contains(word)) {
+            seen.insert(word);
+            kinds.append(word);
         }
     }
     return kinds.isEmpty() ? QStringLiteral("nothing") : kinds.join(QStringLiteral(", "));
@@ -39,7 +41,7 @@ QList<TGraphicsItem*> OfKind(const QString& kind, const QList<TGraphicsItem*>& i
 {
     QList<TGraphicsItem*> found;
     for (TGraphicsItem* item : items) {
-        if (kind.isEmpty() || item->KindName() == kind) {
+        if (kind.isEmpty() || Kinds::Word(*item) == kind) {
             found.append(item);
         }
     }

@@ -3,6 +3,7 @@
 #include "properties/rows/TAbstractProperty.h"
 #include "properties/TPropertySet.h"
 #include "properties/TPropertyWidget.h"
+#include "workbench/DesignActions.h"
 #include "workbench/Kinds.h"
 #include "workbench/session/TAssignment.h"
 #include "workbench/session/TItemQuery.h"
@@ -124,6 +125,27 @@ QString TSession::Bypass(bool on)
         item->SetTFlag(TGraphicsItem::UndoBypass, on);
     }
     return QStringLiteral("bypass %1: %2").arg(on ? QStringLiteral("on") : QStringLiteral("off"), Counted(items));
+}
+
+QString TSession::Do(const TDesignAction& action, const QString& text, const QPointF& point)
+{
+    const int index = window.UndoStack().index();
+    if (!window.Do(action, text, point)) {
+        throw TSessionError(QStringLiteral("select %1 first").arg(action.Needs()));
+    }
+    return PushedSince(index).join(QStringLiteral("; "));
+}
+
+QString TSession::ShowDesignators(bool on)
+{
+    window.ShowDesignators(on);
+    return QStringLiteral("designators: %1").arg(on ? QStringLiteral("shown") : QStringLiteral("hidden"));
+}
+
+QString TSession::ShowValues(bool on)
+{
+    window.ShowValues(on);
+    return QStringLiteral("values: %1").arg(on ? QStringLiteral("shown") : QStringLiteral("hidden"));
 }
 
 QString TSession::Undo(int times)

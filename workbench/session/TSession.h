@@ -4,7 +4,9 @@
 #include <QStringList>
 
 class QKeySequence;
+class QPointF;
 class TItemQuery;
+struct TDesignAction;
 class TMainWindow;
 class TPropertySet;
 
@@ -28,6 +30,11 @@ public:
     QString Press(const QKeySequence& key);
     /** Sets or clears the flag of the selected items by which their edits leave no undo step. */
     QString Bypass(bool on);
+    /** Does what the application does itself with the selected items; the point is one of the scene. */
+    QString Do(const TDesignAction& action, const QString& text, const QPointF& point);
+    /** Shows or hides the designators, or the values, of all packages. */
+    QString ShowDesignators(bool on);
+    QString ShowValues(bool on);
     QString Undo(int times);
     QString Redo(int times);
     QString History() const;
