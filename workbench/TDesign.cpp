@@ -28,6 +28,11 @@ TDesign::TDesign(TImportResult result)
 
 TDesign::~TDesign() = default;
 
+QString TDesign::Dump() const
+{
+    return board->Dump() + schematic->NetModel()->Dump();
+}
+
 void TDesign::ShowDesignators(bool on)
 {
     board->SetRefDesVisible(on);

@@ -18,6 +18,9 @@ public:
     TBoard& Board() const { return *board; }
     TProject& Project() { return project; }
 
+    /** The state of every item of the board, then of every net, one line each. */
+    QString Dump() const;
+
     /** Shows or hides the designators, or the values, of all packages. */
     void ShowDesignators(bool on);
     void ShowValues(bool on);

@@ -1,5 +1,7 @@
 #include <application/TNetModel.h>
 
+#include <graphics/TStateText.h>
+
 void TNetModel::AddNet(const QString& net, const QString& netClass, const QColor& colorSch, const QColor& colorPcb,
                        int priority)
 {
@@ -43,4 +45,19 @@ void TNetModel::Set(const QString& net, Column column, const QVariant& value)
     if (row >= 0) {
         rows[row][column] = value;
     }
+}
+
+QString TNetModel::Dump() const
+{
+    QString dump;
+    for (int row = 0; row < RowCount(); ++row) {
+        TStateText state(QStringLiteral("net"));
+        state.Add("name", NetName(row))
+            .Add("class", Text(row, Class))
+            .Add("colorSch", ColorSch(row))
+            .Add("colorPcb", ColorPcb(row))
+            .Add("priority", Text(row, PriorityLevel));
+        dump += state.Line() + QLatin1Char('\n');
+    }
+    return dump;
 }

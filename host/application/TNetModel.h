@@ -43,6 +43,9 @@ public:
     QString Priority(const QString& net) const { return Text(NetRow(net), PriorityLevel); }
     void SetPriority(const QString& net, const QString& level) { Set(net, PriorityLevel, level); }
 
+    /** The state of every net, one line each, in the order of their rows. */
+    QString Dump() const;
+
 private:
     QVariant At(int row, Column column) const;
     QString Text(int row, Column column) const { return At(row, column).toString(); }

@@ -4,9 +4,10 @@
 
 namespace Test {
 
-EditingModel::EditingModel(TBoard& board) : rules(board.LayerManager()->DrillPairs())
+EditingModel::EditingModel(TBoard& board, const QList<TGraphicsItem*>& modelled)
+    : rules(board.LayerManager()->DrillPairs())
 {
-    for (const TGraphicsItem* item : board.Items()) {
+    for (const TGraphicsItem* item : modelled) {
         items.push_back({item->StateLine(), {}});
     }
     for (const QString& pair : board.ViaGroups()) {
@@ -17,15 +18,6 @@ EditingModel::EditingModel(TBoard& board) : rules(board.LayerManager()->DrillPai
             sides.append(static_cast<int>(side));
         }
     }
-}
-
-QString EditingModel::Dump() const
-{
-    QString dump;
-    for (const Item& item : items) {
-        dump += item.line + QLatin1Char('\n');
-    }
-    return dump;
 }
 
 const StateFields& EditingModel::Fields(int item) const

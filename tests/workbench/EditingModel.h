@@ -16,12 +16,11 @@ namespace Test {
 class EditingModel
 {
 public:
-    explicit EditingModel(TBoard& board);
+    /** A model of these items of the board. */
+    EditingModel(TBoard& board, const QList<TGraphicsItem*>& modelled);
 
     QString Kind(int item) const { return Line(item).section(QLatin1Char(' '), 0, 0); }
-    /** The line of one item, and of all items as a dump has them. */
     const QString& Line(int item) const { return items[static_cast<std::size_t>(item)].line; }
-    QString Dump() const;
 
     /** Shows a new set for the selected items; the first one's kind decides which. */
     void Show(const QVector<int>& selection);

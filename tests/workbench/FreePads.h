@@ -11,13 +11,16 @@ namespace Test {
 inline void FreePads(TBoard& board, int everyNth)
 {
     int pads = 0;
+    QStringList nets;
     for (TGraphicsItem* item : board.Items()) {
         if (item->type() == ItemType::Pad && pads++ % everyNth == 0) {
             const QPointF place = item->scenePos();
             item->setParentItem(nullptr);
             item->setPos(place);
+            nets.append(item->Net());
         }
     }
+    board.UpdateRats(nets); // As whoever moves items does.
 }
 
 } // namespace Test

@@ -1,8 +1,12 @@
 #include "tests/workbench/PanelCells.h"
 
+#include "properties/rows/TCheckBox2Widget.h"
 #include "properties/rows/TLineEdit.h"
+#include "properties/rows/TPropertyCheck.h"
+#include "properties/rows/TPropertyCheck2.h"
 #include "properties/rows/TPropertyChoice.h"
 #include "properties/rows/TPropertyFloatSpin.h"
+#include "properties/rows/TPropertyIntSpin.h"
 #include "properties/rows/TPropertySize.h"
 #include "properties/rows/TPropertyText.h"
 #include "properties/TPropertySet.h"
@@ -13,6 +17,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QSpinBox>
 #include <QTest>
 
 namespace Test {
@@ -28,7 +33,8 @@ bool PanelCell::CanBeEdited() const
 
 double PanelCell::Number() const
 {
-    return qobject_cast<QDoubleSpinBox*>(widget)->value();
+    const auto* whole = qobject_cast<QSpinBox*>(widget);
+    return whole ? whole->value() : qobject_cast<QDoubleSpinBox*>(widget)->value();
 }
 
 QString PanelCell::Describe() const
@@ -39,6 +45,9 @@ QString PanelCell::Describe() const
                                    enabled ? QStringLiteral("enabled") : QStringLiteral("disabled"));
     if (const auto* spin = qobject_cast<QDoubleSpinBox*>(widget)) {
         return state + QString::number(spin->value(), 'f', spin->decimals());
+    }
+    if (const auto* whole = qobject_cast<QSpinBox*>(widget)) {
+        return state + QString::number(whole->value());
     }
     if (const auto* box = qobject_cast<QComboBox*>(widget)) {
         return state + QStringLiteral("%1 of %2").arg(box->currentIndex()).arg(box->count());
@@ -51,7 +60,11 @@ QString PanelCell::Describe() const
 
 void PanelCell::Enter(double number) const
 {
-    qobject_cast<QDoubleSpinBox*>(widget)->setValue(number);
+    if (auto* whole = qobject_cast<QSpinBox*>(widget)) {
+        whole->setValue(static_cast<int>(number));
+    } else {
+        qobject_cast<QDoubleSpinBox*>(widget)->setValue(number);
+    }
 }
 
 void PanelCell::Choose(int option) const
@@ -79,6 +92,8 @@ bool PanelCell::GiveAnotherValue() const
     if (auto* spin = qobject_cast<QDoubleSpinBox*>(widget)) {
         const double step = 3 * spin->singleStep();
         Enter(spin->value() + (spin->value() + step > spin->maximum() ? -step : step));
+    } else if (const auto* whole = qobject_cast<QSpinBox*>(widget)) {
+        Enter(whole->value() + (whole->value() == whole->maximum() ? -1 : 1));
     } else if (const auto* box = qobject_cast<QComboBox*>(widget)) {
         const int other = box->currentIndex() < 0 ? box->count() - 1 : (box->currentIndex() + 1) % box->count();
         if (other == box->currentIndex()) {
@@ -91,6 +106,24 @@ bool PanelCell::GiveAnotherValue() const
         Type(qobject_cast<TLineEdit*>(widget)->Text() + QStringLiteral("x"));
     }
     return true;
+}
+
+void PanelCell::GiveValue(int number) const
+{
+    if (qobject_cast<QDoubleSpinBox*>(widget)) {
+        Enter(number / 100.0);
+    } else if (qobject_cast<QSpinBox*>(widget)) {
+        Enter(number);
+    } else if (const auto* box = qobject_cast<QComboBox*>(widget)) {
+        if (box->count() > 0) {
+            Choose(number % box->count());
+        }
+    } else if (qobject_cast<QCheckBox*>(widget)) {
+        Click();
+    } else {
+        const QStringList texts{"1", "", "A1", "say \"x\" \\ ", QString::fromUtf8("\xCE\xA9 7")};
+        Type(texts[number % texts.size()]);
+    }
 }
 
 std::vector<PanelCell> PanelCells(const TPropertySet& set)
@@ -109,6 +142,17 @@ std::vector<PanelCell> PanelCells(const TPropertySet& set)
             cells.emplace_back(label + QStringLiteral("height"), size->height, shown);
         } else if (const auto* text = qobject_cast<const TPropertyText*>(row)) {
             cells.emplace_back(label, text->line, shown, text->line->IsEditable());
+            if (!text->visible->isHidden()) {
+                cells.emplace_back(label + QStringLiteral("show"), text->visible, shown);
+            }
+        } else if (qobject_cast<const TPropertyCheck*>(row)) {
+            cells.emplace_back(label, row->Editor()->findChild<QCheckBox*>(), shown);
+        } else if (qobject_cast<const TPropertyCheck2*>(row)) {
+            const auto* boxes = qobject_cast<TCheckBox2Widget*>(row->Editor());
+            cells.emplace_back(label + QLatin1Char('1'), boxes->box1, shown);
+            cells.emplace_back(label + QLatin1Char('2'), boxes->box2, shown);
+        } else if (qobject_cast<const TPropertyIntSpin*>(row)) {
+            cells.emplace_back(label, row->Editor(), shown);
         } else if (const auto* choice = dynamic_cast<const TPropertyChoice*>(row)) {
             cells.emplace_back(label, choice->Box(), shown);
         }

@@ -30,6 +30,8 @@ public:
     void Type(const QString& text) const;
     /** Does whichever of these gives it another value; false if there is no other one to give. */
     bool GiveAnotherValue() const;
+    /** Does whichever of these gives it a value that the number stands for, which may be the one that it has. */
+    void GiveValue(int number) const;
 
 private:
     QString name;

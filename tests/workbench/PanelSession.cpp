@@ -5,10 +5,24 @@
 
 #include <application/TUndoCommand.h>
 
+#include <algorithm>
+
 namespace Test {
 
-PanelSession::PanelSession(std::unique_ptr<TBoard> edited, PanelWindow& shownIn)
-    : board(std::move(edited)), items(board->Items()), model(*board), window(shownIn)
+namespace {
+
+QList<TGraphicsItem*> EditedItems(const TBoard& board)
+{
+    QList<TGraphicsItem*> items = board.Items();
+    const auto isDerived = [](const TGraphicsItem* item) { return item->IsDerived(); };
+    items.erase(std::remove_if(items.begin(), items.end(), isDerived), items.end());
+    return items;
+}
+
+} // namespace
+
+PanelSession::PanelSession(std::unique_ptr<TDesign> edited, PanelWindow& shownIn)
+    : design(std::move(edited)), items(EditedItems(design->Board())), model(design->Board(), items), window(shownIn)
 {}
 
 PanelSession::~PanelSession()
@@ -28,7 +42,7 @@ void PanelSession::Show(const QVector<int>& selection)
     for (const int item : selection) {
         selected.append(items.at(item));
     }
-    std::unique_ptr<TPropertySet> set = Kinds::MakePropertySet(selected, *board);
+    std::unique_ptr<TPropertySet> set = Kinds::MakePropertySet(selected, *design);
     if (set) {
         connect(set.get(), SIGNAL(sigCmd(TUndoCommand*)), this, SLOT(Push(TUndoCommand*)));
     }
@@ -90,14 +104,14 @@ QString PanelSession::Disagreement() const
     const auto differ = [](const QString& what, const QString& actual, const QString& expected) {
         return QStringLiteral("%1 is\n  %2\nand should be\n  %3").arg(what, actual, expected);
     };
-    if (board->Dump() != model.Dump()) {
-        for (int item = 0; item < items.size(); ++item) {
-            const QString line = items[item]->StateLine();
-            if (line != model.Line(item)) {
-                return differ(QStringLiteral("item %1").arg(item), line, model.Line(item));
-            }
+    for (int item = 0; item < items.size(); ++item) {
+        const QString line = items[item]->StateLine();
+        if (line != model.Line(item)) {
+            return differ(QStringLiteral("item %1").arg(item), line, model.Line(item));
         }
-        return QStringLiteral("the dump does not consist of the items' lines");
+    }
+    if (EditedItems(design->Board()) != items) {
+        return QStringLiteral("the board has other items");
     }
     if (stack.count() != model.StackCount() || stack.index() != model.StackIndex()) {
         const QString place = QStringLiteral("%1 of %2");

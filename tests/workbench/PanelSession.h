@@ -4,7 +4,7 @@
 #include "tests/workbench/EditingModel.h"
 #include "tests/workbench/PanelCells.h"
 
-#include <application/TBoard.h>
+#include "workbench/TDesign.h"
 
 #include <QUndoStack>
 
@@ -21,7 +21,7 @@ class PanelSession : public QObject
 
 public:
     /** The window, which outlives the session, is left without a set. */
-    PanelSession(std::unique_ptr<TBoard> edited, PanelWindow& shownIn);
+    PanelSession(std::unique_ptr<TDesign> edited, PanelWindow& shownIn);
     ~PanelSession() override;
 
     /** Shows a new set for these items, as the workbench does. */
@@ -48,8 +48,8 @@ private slots:
 private:
     std::vector<PanelCell> Cells() const;
 
-    std::unique_ptr<TBoard> board;
-    const QList<TGraphicsItem*> items;
+    std::unique_ptr<TDesign> design;
+    const QList<TGraphicsItem*> items; ///< Without the rat lines, which come and go with what they follow from.
     EditingModel model;
     QUndoStack stack;
     PanelWindow& window;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "workbench/TDesign.h"
 #include "workbench/TMainWindow.h"
 
 #include <application/TBoard.h>
@@ -41,7 +42,7 @@ public:
     /** The results of steps that must succeed. */
     QString Results(const QStringList& arguments);
 
-    QString Dump() const { return window->Board()->Dump(); }
+    QString Dump() const { return window->Design()->Dump(); }
     QString Title() const;
     /** The shown row of that label, null if there is none. */
     TAbstractProperty* Row(const QString& label) const;

@@ -84,7 +84,10 @@ void TestCanvas::aClickWithControlAppends()
 void TestCanvas::aRubberBandSelectsInTheDesignsOrder()
 {
     Test::ShownWorkbench workbench;
-    const TItems all = workbench.Items(ItemType::Via) + workbench.Items(ItemType::Pad);
+    TItems all = workbench.window->Board()->Items();
+    while (all.last()->type() == ItemType::Hole) {
+        all.removeLast();
+    }
     const QPointF corner = all.last()->scenePos() + QPointF(30, 30);
     workbench.Drag(corner, all.first()->scenePos() - QPointF(30, 30));
     QCOMPARE(workbench.TakeSetsShown(), 1);

@@ -169,8 +169,8 @@ void TestCommandLine::stepsSayTheirResults_data()
         {"selected: 3 vias, 2 holes", "Properties - Hole", "Diameter: 2.00 mm"});
     row("the same item twice", {"--select", "hole[1],hole"}, {"selected: 2 holes"});
     row("everything", {"--select", "all", "--panel", "--undo"},
-        {"selected: 3 vias, 3 pads, 2 holes", "Properties - Vias", "Diameter: 0.6 mm", "Drill: 0.3 mm", "Thermal: Auto",
-         "Drill pair: Top - Bottom", "Mask: [ ] En 0.1mm", "nothing to undo"});
+        {"selected: 3 vias, 3 pads, 2 holes, 1 package", "Properties - Vias", "Diameter: 0.6 mm", "Drill: 0.3 mm",
+         "Thermal: Auto", "Drill pair: Top - Bottom", "Mask: [ ] En 0.1mm", "nothing to undo"});
     row("an edit, undone and done again",
         {"--select", "via", "--set", "Diameter:=1.2", "--undo", "--history", "--redo", "--history", "--redo"},
         {"selected: 3 vias", "Diameter: 1.2 mm (Change diameter of 3 vias)", "undone: Change diameter of 3 vias",
@@ -221,12 +221,12 @@ void TestCommandLine::aStepThatFailsEndsTheRun_data()
     row("an edit of nothing", {"--panel"}, {"--set", "Diameter:=1"}, "nothing is selected");
     row("a key for nothing", {"--panel"}, {"--key", "O"}, "nothing is selected");
     row("bypass for nothing", {"--panel"}, {"--bypass", "on"}, "nothing is selected");
-    row("an unknown kind", {"--panel"}, {"--select", "wire"}, "the board has no wire; it has via, pad, hole");
-    row("a kind that is not selected", {"--panel"}, {"--select", "package"},
-        "the board has no package; it has via, pad, hole");
+    row("an unknown kind", {"--panel"}, {"--select", "wire"}, "the board has no wire; it has via, pad, package, hole");
+    row("a kind that is not selected", {"--panel"}, {"--select", "pour"},
+        "the board has no pour; it has via, pad, package, hole");
     row("a position behind the last", via, {"--select", "hole[2]"}, "there is no hole[2]: positions go from 0 to 1");
-    row("a range that ends behind the last", via, {"--select", "all[0..8]"},
-        "there is no all[8]: positions go from 0 to 7");
+    row("a range that ends behind the last", via, {"--select", "all[0..9]"},
+        "there is no all[9]: positions go from 0 to 8");
     row("an unknown label", via, {"--set", "Width:=1"},
         "there is no row \"Width:\"; the panel has \"Diameter:\", \"Drill:\", \"Thermal:\", \"Drill pair:\", \"Mask:\"");
     row("a beginning of a label", via, {"--set", "Diam=1"},

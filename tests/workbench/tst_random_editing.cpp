@@ -46,11 +46,11 @@ std::ostream& operator<<(std::ostream& stream, const Step& step)
 
 const QStringList texts{"1", "", "A1", "say \"x\" \\ ", "1", QString::fromUtf8("\xCE\xA9 7")};
 
-std::unique_ptr<TBoard> SampleWithFreePads()
+std::unique_ptr<TDesign> SampleWithFreePads()
 {
-    std::unique_ptr<TBoard> board = ImportBoard(SampleBoardFile()).board;
-    Test::FreePads(*board, 3);
-    return board;
+    auto design = std::make_unique<TDesign>(ImportBoard(SampleBoardFile()));
+    Test::FreePads(design->Board(), 3);
+    return design;
 }
 
 /** A board that is edited step by step. */

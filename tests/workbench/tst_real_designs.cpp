@@ -5,6 +5,7 @@
 #include "tests/workbench/PanelCells.h"
 #include "workbench/Kinds.h"
 #include "workbench/LoadBoard.h"
+#include "workbench/TDesign.h"
 
 #include <application/TUndoCommand.h>
 
@@ -112,9 +113,10 @@ private slots:
     {
         QFETCH(QString, file);
         QFETCH(bool, freePads);
-        const TImportResult imported = ImportBoard(file);
+        TImportResult imported = ImportBoard(file);
         QVERIFY2(imported.board, qPrintable(imported.error));
-        board = imported.board.get();
+        design = std::make_unique<TDesign>(std::move(imported));
+        TBoard* board = &design->Board();
         if (freePads) {
             Test::FreePads(*board, 1);
         }
@@ -157,7 +159,7 @@ private:
 
     std::vector<PanelCell> Show(const Items& selection)
     {
-        std::unique_ptr<TPropertySet> set = Kinds::MakePropertySet(selection, *board);
+        std::unique_ptr<TPropertySet> set = Kinds::MakePropertySet(selection, *design);
         connect(set.get(), SIGNAL(sigCmd(TUndoCommand*)), this, SLOT(Push(TUndoCommand*)));
         window->Show(set.release());
         return Cells();
@@ -261,7 +263,7 @@ private:
 
     std::unique_ptr<Test::PanelWindow> window;
     QUndoStack stack;
-    TBoard* board = nullptr;
+    std::unique_ptr<TDesign> design;
     Items items;
     QStringList lines; ///< Of all items, as they are now.
 };

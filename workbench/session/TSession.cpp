@@ -10,6 +10,7 @@
 #include "workbench/session/TRowEditor.h"
 #include "workbench/session/TSessionError.h"
 #include "workbench/TCanvas.h"
+#include "workbench/TDesign.h"
 #include "workbench/TMainWindow.h"
 #include "workbench/TSelection.h"
 
@@ -187,7 +188,7 @@ QString TSession::History() const
 
 QString TSession::Dump(const QString& file) const
 {
-    const QString dump = window.Board()->Dump();
+    const QString dump = window.Design()->Dump();
     if (file == QLatin1String("-")) {
         return dump.chopped(dump.isEmpty() ? 0 : 1);
     }

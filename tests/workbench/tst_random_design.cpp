@@ -1,0 +1,305 @@
+#include "properties/commands/TCmdText.h"
+#include "tests/support/PanelFixture.h"
+#include "tests/support/TestMain.h"
+#include "tests/workbench/PanelCells.h"
+#include "workbench/DesignActions.h"
+#include "workbench/Kinds.h"
+#include "workbench/LoadBoard.h"
+#include "workbench/TDesign.h"
+
+#include <application/TUndoCommand.h>
+
+#include <QGraphicsView>
+#include <QKeyEvent>
+#include <QtTest>
+#include <QUndoStack>
+
+#include <rapidcheck.h>
+
+#include <ostream>
+#include <vector>
+
+namespace {
+
+using Items = QList<TGraphicsItem*>;
+
+/** What is done next. The numbers are taken modulo what there is, so that every step can be done and dropped. */
+struct Step
+{
+    int action;
+    int what;
+    int value;
+};
+
+enum Action : int { Select, Undo, Redo, Edit, Act, Key };
+
+constexpr Action actions[] = {Edit, Select, Undo, Edit, Redo, Act, Select, Edit, Undo, Key};
+
+Action ActionOf(const Step& step)
+{
+    return actions[static_cast<std::size_t>(step.action) % std::size(actions)];
+}
+
+void showValue(const Step& step, std::ostream& stream)
+{
+    constexpr const char* names[] = {"Select", "Undo", "Redo", "Edit", "Act", "Key"};
+    stream << names[ActionOf(step)] << '(' << step.what << ", " << step.value << ')';
+}
+
+/** What by intention cannot be undone at all, or not to the last digit; it has tests of its own. */
+bool LeavesNoExactStep(const QString& kind, const QString& cell)
+{
+    static const QSet<QString> exceptions{
+        "package Lock:1",          // written at once
+        "package Lock:2",          // written at once
+        "package Side:",           // shows and hides texts as the board's switches say
+        "text Line width:",        // written at once
+        "pad Size (W x H):width",  // a locked height follows, and comes back as the width
+        "pad Size (W x H):height", // comes back as the width
+        "pad Shape:",              // may lock the height
+    };
+    return exceptions.contains(kind + ' ' + cell);
+}
+
+/** Gives texts values that a command brings back as they were. */
+void MakeTextsExact(const TBoard& board)
+{
+    QList<TGraphicsTextItem*> texts;
+    for (TGraphicsItem* item : board.Items()) {
+        if (item->type() == ItemType::Text) {
+            texts.append(static_cast<TGraphicsTextItem*>(item));
+        }
+    }
+    TCmdTextFontSize size(texts, 10);
+    TCmdTextAngle angle(texts, 0);
+    TCmdTextBold bold(texts, true);
+    TCmdTextItalic italic(texts, true);
+    for (TUndoCommand* command : std::initializer_list<TUndoCommand*>{&size, &angle, &bold, &italic}) {
+        command->redo();
+        command->undo();
+    }
+}
+
+/** A design that is edited step by step, with the dump that belongs to each state of its undo stack. */
+class Run : public QObject
+{
+    Q_OBJECT
+
+public:
+    Run(Test::PanelWindow& shownIn, QSet<QString>& usedEditors)
+        : design(ImportBoard(SampleBoardFile())), window(shownIn), used(usedEditors)
+    {
+        view.setScene(design.Board().Scene());
+        design.Board().SetView(&view);
+        MakeTextsExact(design.Board());
+        dumps.append(design.Dump());
+    }
+    ~Run() override { window.panel->SetPropertySet(nullptr); }
+
+    void Do(const Step& step)
+    {
+        switch (ActionOf(step)) {
+        case Select: Pick(step); break;
+        case Undo: stack.undo(); break;
+        case Redo: stack.redo(); break;
+        case Edit: EditCell(step); break;
+        case Act: DoAction(step); break;
+        case Key: Press(step); break;
+        }
+        if (ActionOf(step) != Edit && ActionOf(step) != Key) {
+            Show();
+        }
+    }
+
+    /** Where the design is not what it was in this state of the undo stack; empty if it is. */
+    QString Disagreement()
+    {
+        const QString dump = design.Dump();
+        if (stack.index() >= dumps.size()) {
+            dumps.append(dump);
+        }
+        const QStringList actual = dump.split('\n');
+        const QStringList expected = dumps[stack.index()].split('\n');
+        for (int i = 0; i < std::max(actual.size(), expected.size()); ++i) {
+            if (actual.value(i) != expected.value(i)) {
+                return QStringLiteral("line %1 is\n  %2\nand should be\n  %3")
+                    .arg(i)
+                    .arg(actual.value(i), expected.value(i));
+            }
+        }
+        return {};
+    }
+
+public slots:
+    void Push(TUndoCommand* command)
+    {
+        while (dumps.size() > stack.index() + 1) {
+            dumps.removeLast();
+        }
+        stack.push(command);
+        dumps.append(design.Dump());
+    }
+
+private:
+    void Pick(const Step& step)
+    {
+        const TKind& kind = Kinds::All()[step.what % Kinds::All().size()];
+        Items ofKind;
+        for (TGraphicsItem* item : design.Board().Items()) {
+            if (Kinds::Of(*item) == &kind) {
+                ofKind.append(item);
+            }
+        }
+        design.Board().Scene()->clearSelection();
+        const int count = step.value % 7 == 6 ? ofKind.size() : step.value % 7 + 1;
+        for (int i = 0; i < std::min(count, ofKind.size()); ++i) {
+            ofKind[(step.value + i) % ofKind.size()]->setSelected(true);
+        }
+    }
+
+    Items Selected() const
+    {
+        Items items;
+        for (TGraphicsItem* item : design.Board().Items()) {
+            if (item->isSelected()) {
+                items.append(item);
+            }
+        }
+        return items;
+    }
+
+    void Show()
+    {
+        std::unique_ptr<TPropertySet> set = Kinds::MakePropertySet(Selected(), design);
+        if (set) {
+            connect(set.get(), SIGNAL(sigCmd(TUndoCommand*)), this, SLOT(Push(TUndoCommand*)));
+        }
+        window.Show(set.release());
+    }
+
+    void EditCell(const Step& step)
+    {
+        const TPropertySet* set = window.panel->PropertySet();
+        const Items selected = Selected();
+        if (!set || selected.isEmpty()) {
+            return;
+        }
+        const QString kind = Kinds::Word(*selected.first());
+        std::vector<Test::PanelCell> cells;
+        for (const Test::PanelCell& cell : Test::PanelCells(*set)) {
+            if (cell.CanBeEdited() && !LeavesNoExactStep(kind, cell.Name())) {
+                cells.push_back(cell);
+            }
+        }
+        if (!cells.empty()) {
+            const Test::PanelCell& cell = cells[static_cast<std::size_t>(step.what) % cells.size()];
+            used.insert(kind + ' ' + cell.Name());
+            cell.GiveValue(step.value);
+        }
+    }
+
+    void DoAction(const Step& step)
+    {
+        const TDesignAction& action = DesignActions::All()[step.what % DesignActions::All().size()];
+        const Items selected = Selected();
+        const QPointF point = selected.isEmpty() ? QPointF() : selected.first()->sceneBoundingRect().center();
+        const QString text = QStringLiteral("text %1").arg(step.value);
+        if (auto command = action.make({design, selected, text, point})) {
+            used.insert(QString::fromLatin1(action.option));
+            Push(command.release());
+        }
+    }
+
+    void Press(const Step& step)
+    {
+        TPropertySet* set = window.panel->PropertySet();
+        const Items selected = Selected();
+        if (!set || selected.isEmpty() || selected.first()->type() == ItemType::Package) {
+            return; // A package's texts are shown or hidden on its way to the other side.
+        }
+        const int key = step.value % 11 == 10 ? Qt::Key_O : Qt::Key_0 + step.value % 11;
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        set->KeyPressEvent(&event);
+    }
+
+    QGraphicsView view;
+    TDesign design;
+    QUndoStack stack;  // Its commands point to items.
+    QStringList dumps; ///< By the index of the undo stack.
+    Test::PanelWindow& window;
+    QSet<QString>& used;
+};
+
+rc::Gen<std::vector<Step>> Steps()
+{
+    constexpr int fullRange = 100; // the size at which numbers are drawn from their whole range
+    constexpr int most = 60;       // steps of a case, half as many on average
+    const auto step =
+        rc::gen::resize(fullRange, rc::gen::build<Step>(rc::gen::set(&Step::action, rc::gen::inRange(0, 100)),
+                                                        rc::gen::set(&Step::what, rc::gen::inRange(0, 1000)),
+                                                        rc::gen::set(&Step::value, rc::gen::inRange(0, 2500))));
+    return rc::gen::resize(most, rc::gen::container<std::vector<Step>>(step));
+}
+
+} // namespace
+
+class TestRandomDesign : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    // `RC_PARAMS` repeats a failed case or tries others: "seed=1", "max_success=10000".
+    void initTestCase()
+    {
+        triesAll = qEnvironmentVariableIsEmpty("RC_PARAMS");
+        if (triesAll) {
+            qputenv("RC_PARAMS", "seed=20240108 max_success=200");
+        }
+    }
+
+    void sampleHasEveryKind()
+    {
+        const TImportResult imported = ImportBoard(SampleBoardFile());
+        QVERIFY2(imported.board, qPrintable(imported.error));
+        const Items items = imported.board->Items();
+        for (const TKind& kind : Kinds::All()) {
+            QVERIFY2(std::any_of(items.cbegin(), items.cend(),
+                                 [&kind](const TGraphicsItem* item) { return Kinds::Of(*item) == &kind; }),
+                     kind.many);
+        }
+    }
+
+    void everyStateOfTheStackHasOneDump()
+    {
+        Test::PanelWindow window;
+        QSet<QString> used;
+        const auto undoAndRedoAreExact = [&window, &used] {
+            const std::vector<Step> steps = *Steps();
+            Run run(window, used);
+            for (const Step& step : steps) {
+                run.Do(step);
+                const QString disagreement = run.Disagreement();
+                if (!disagreement.isEmpty()) {
+                    showValue(step, RC_LOG() << "after ");
+                    RC_LOG() << '\n' << disagreement.toStdString();
+                    RC_FAIL("the design is not what it was");
+                }
+            }
+        };
+        QVERIFY(rc::check("undo and redo bring back every state of the design", undoAndRedoAreExact));
+        if (triesAll) {
+            QStringList editors(used.cbegin(), used.cend());
+            editors.sort();
+            qInfo("%d editors and actions: %s", editors.size(), qPrintable(editors.join(QStringLiteral(", "))));
+            for (const TDesignAction& action : DesignActions::All()) {
+                QVERIFY2(used.contains(QString::fromLatin1(action.option)), action.option);
+            }
+        }
+    }
+
+private:
+    bool triesAll = true;
+};
+
+PROPERTIES_TEST_MAIN(TestRandomDesign)
+#include "tst_random_design.moc"
