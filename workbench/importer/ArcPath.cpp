@@ -1,8 +1,11 @@
 #include "workbench/importer/ArcPath.h"
 
 #include <QLineF>
+#include <QtMath>
 
+#include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace {
 
@@ -11,9 +14,17 @@ QRectF SquareAround(const QPointF& centre, double radius)
     return {centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius};
 }
 
-} // namespace
+/** A part of a circle; angles in degrees, counterclockwise as seen. */
+struct TArc
+{
+    QPointF centre;
+    double radius;
+    double startAngle;
+    double sweep;
+};
 
-void ArcPath::AddThrough(QPainterPath& path, const QPointF& start, const QPointF& middle, const QPointF& end)
+/** The arc through three points; none if they lie in one line. */
+std::optional<TArc> Through(const QPointF& start, const QPointF& middle, const QPointF& end)
 {
     // The centre, seen from the start, is as far from the start as from the two other points.
     const QPointF toMiddle = middle - start;
@@ -21,8 +32,7 @@ void ArcPath::AddThrough(QPainterPath& path, const QPointF& start, const QPointF
     const double cross = toMiddle.x() * toEnd.y() - toMiddle.y() * toEnd.x();
     constexpr double flat = 1e-9;
     if (std::abs(cross) < flat) {
-        path.lineTo(end);
-        return;
+        return {};
     }
     const double middleSquare = QPointF::dotProduct(toMiddle, toMiddle);
     const double endSquare = QPointF::dotProduct(toEnd, toEnd);
@@ -30,11 +40,50 @@ void ArcPath::AddThrough(QPainterPath& path, const QPointF& start, const QPointF
                            (toMiddle.x() * endSquare - toEnd.x() * middleSquare) / (2 * cross));
     const QPointF centre = start + toCentre;
 
-    const double startAngle = QLineF(centre, start).angle();
-    const double counterclockwise = QLineF(centre, start).angleTo(QLineF(centre, end));
-    const double middleOnTheWay = QLineF(centre, start).angleTo(QLineF(centre, middle));
+    const QLineF toStart(centre, start);
+    const double counterclockwise = toStart.angleTo(QLineF(centre, end));
+    const double middleOnTheWay = toStart.angleTo(QLineF(centre, middle));
     const double sweep = middleOnTheWay <= counterclockwise ? counterclockwise : counterclockwise - 360;
-    path.arcTo(SquareAround(centre, QLineF(centre, start).length()), startAngle, sweep);
+    return TArc{centre, toStart.length(), toStart.angle(), sweep};
+}
+
+} // namespace
+
+void ArcPath::AddThrough(QPainterPath& path, const QPointF& start, const QPointF& middle, const QPointF& end)
+{
+    const std::optional<TArc> arc = Through(start, middle, end);
+    if (!arc) {
+        path.lineTo(end);
+        return;
+    }
+    path.arcTo(SquareAround(arc->centre, arc->radius), arc->startAngle, arc->sweep);
+}
+
+std::vector<TGridPoint> ArcPath::CornersThrough(const TGridPoint& start, const TGridPoint& middle,
+                                                const TGridPoint& end)
+{
+    constexpr double deviation = 2000; // Nanometres, as the points are.
+    const auto point = [](const TGridPoint& place) {
+        return QPointF(static_cast<double>(place.x), static_cast<double>(place.y));
+    };
+    const std::optional<TArc> arc = Through(point(start), point(middle), point(end));
+    std::vector<TGridPoint> corners;
+    if (!arc || arc->radius <= deviation) {
+        return corners;
+    }
+    const double step = 2 * qRadiansToDegrees(std::acos(1 - deviation / arc->radius));
+    const int lines = std::max(2, static_cast<int>(std::ceil(std::abs(arc->sweep) / step)));
+    TGridPoint last = start;
+    for (int i = 1; i < lines; ++i) {
+        const QPointF corner =
+            arc->centre + QLineF::fromPolar(arc->radius, arc->startAngle + arc->sweep * i / lines).p2();
+        const TGridPoint place{std::llround(corner.x()), std::llround(corner.y())};
+        if (place != last && place != end) {
+            corners.push_back(place);
+            last = place;
+        }
+    }
+    return corners;
 }
 
 QPainterPath ArcPath::Around(const QPointF& centre, const QPointF& start, double clockwiseDegrees)

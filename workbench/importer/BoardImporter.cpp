@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 namespace {
 
@@ -33,6 +34,21 @@ TImportResult Failed(const QString& error)
     return result;
 }
 
+/** What stands in the project file beside a board; @p problem says why it cannot be read. */
+QByteArray ProjectText(const QString& fileName, QString& problem)
+{
+    constexpr qint64 largestFile = 100'000'000;
+    QFile file(fileName);
+    const bool isOpen = file.open(QIODevice::ReadOnly);
+    if (!isOpen || file.size() > largestFile) {
+        const QString cause = isOpen ? QStringLiteral("larger than 100 MB") : file.errorString();
+        problem = QStringLiteral("%1: %2; nets have no classes and colours from there")
+                      .arg(QDir::toNativeSeparators(fileName), cause);
+        return {};
+    }
+    return file.readAll();
+}
+
 } // namespace
 
 TImportResult ImportBoard(const QString& fileName, const TImportProgress& progress)
@@ -53,20 +69,43 @@ TImportResult ImportBoard(const QString& fileName, const TImportProgress& progre
     if (file.error() != QFileDevice::NoError) {
         return Failed(QStringLiteral("%1: %2").arg(name, file.errorString()));
     }
-    return ImportBoardText(text, name, progress);
+    const QFileInfo board(fileName);
+    const QString projectFile =
+        board.path() + QLatin1Char('/') + board.completeBaseName() + QLatin1String(".kicad_pro");
+    QString problem;
+    const QByteArray project = ProjectText(projectFile, problem);
+    return ImportBoardText({text, name, project, QDir::toNativeSeparators(projectFile), problem}, progress);
 }
 
 TImportResult ImportBoardText(const QByteArray& text, const QString& name, const TImportProgress& progress)
 {
+    return ImportBoardText({text, name, {}, {}, {}}, progress);
+}
+
+TImportResult ImportBoardText(const TImportSource& source, const TImportProgress& progress)
+{
     TImportResult result;
     try {
-        const TSexpressionTree tree(text, Half(0, progress));
+        const TSexpressionTree tree(source.text, Half(0, progress));
         TBoardDraft draft;
+        if (!source.projectText.isEmpty()) {
+            const QString cause = draft.netSettings.ReadProject(source.projectText);
+            if (!cause.isEmpty()) {
+                result.warnings.append(QStringLiteral("%1:%2; nets have no classes and colours from there")
+                                           .arg(source.projectName, cause));
+            }
+        }
         ReadBoard(tree.Root(), draft, Half(50, progress));
+        const bool needsProject = draft.netSettings.Classes().isEmpty();
+        if (needsProject && !source.projectProblem.isEmpty()) {
+            result.warnings.append(source.projectProblem);
+        }
+        result.schematic = std::make_unique<TSchematic>();
+        draft.netSettings.Fill(*result.schematic, draft.netNames);
         result.notShown = draft.notShown.Kinds();
         result.board = std::move(draft.board);
     } catch (const TImportError& error) {
-        result.error = QStringLiteral("%1:%2: %3").arg(name, QString::number(error.Line()), error.Cause());
+        result.error = QStringLiteral("%1:%2: %3").arg(source.name, QString::number(error.Line()), error.Cause());
     } catch (const TCancelled&) {
         result.cancelled = true;
     }

@@ -7,6 +7,7 @@
 #include <QList>
 #include <QPair>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <memory>
@@ -17,11 +18,16 @@ struct TImportResult
     /** Null if the file could not be read, or reading was cancelled. A board is never half of what is in its file. */
     std::unique_ptr<TBoard> board;
 
-    /** The nets of the board, their classes and colours; null if there is no board. */
+    /** Where the board's nets have their classes and colours: a schematic with nothing on its page. Null without a
+     *  board. */
     std::unique_ptr<TSchematic> schematic;
 
     /** What the file holds and the board does not, with counts: ("track segments", 17921). */
     QList<QPair<QString, int>> notShown;
+
+    /** What could not be read besides the board, "file: cause" or "file:line: cause". The board is whole all the same.
+     */
+    QStringList warnings;
 
     /** "file:line: cause"; empty if there is a board, and if reading was cancelled. */
     QString error;
@@ -32,8 +38,23 @@ struct TImportResult
 /** Called with the part that is done, 1 to 100 percent, each time that it has grown. False cancels. */
 using TImportProgress = std::function<bool(int percent)>;
 
-/** Reads a board file (`.kicad_pcb`, formats 20171130 to 20241229). Resources can be read like files. */
+/**
+ * Reads a board file (`.kicad_pcb`, formats 20171130 to 20241229), and the project file (`.kicad_pro`) beside it for
+ * the net classes and colours. Resources can be read like files.
+ */
 TImportResult ImportBoard(const QString& fileName, const TImportProgress& progress = {});
 
-/** Reads the text of a board file; @p name stands for the file in the error. */
+/** Texts of files, with the names that stand for them in messages. */
+struct TImportSource
+{
+    QByteArray text;
+    QString name;
+    QByteArray projectText; ///< Empty for none.
+    QString projectName;
+    QString projectProblem; ///< Why there is none, to be told if the board needs one.
+};
+
+/** Reads the texts of a board file and its project file. */
+TImportResult ImportBoardText(const TImportSource& source, const TImportProgress& progress = {});
+/** Reads the text of a board file that has no project file. */
 TImportResult ImportBoardText(const QByteArray& text, const QString& name, const TImportProgress& progress = {});

@@ -8,8 +8,6 @@ namespace {
 
 /** The elements of boards and footprints that are not read yet, in the words of the user. */
 constexpr std::pair<std::string_view, const char*> kinds[] = {
-    {"segment", "track segments"},
-    {"arc", "track arcs"},
     {"zone", "zones"},
     {"gr_line", "graphic shapes"},
     {"gr_arc", "graphic shapes"},

@@ -20,7 +20,9 @@ bool MarksUp(QChar character)
     return QLatin1String("~$^_").contains(character);
 }
 
-QString WithoutWrittenOutCharacters(QString name)
+} // namespace
+
+QString ElementParts::WithoutWrittenOutCharacters(QString name)
 {
     for (int open = name.indexOf(QLatin1Char('{')); open >= 0; open = name.indexOf(QLatin1Char('{'), open + 1)) {
         const int close = name.indexOf(QLatin1Char('}'), open);
@@ -36,8 +38,6 @@ QString WithoutWrittenOutCharacters(QString name)
     }
     return name;
 }
-
-} // namespace
 
 QPointF ElementParts::Position(const TSexpression& list)
 {

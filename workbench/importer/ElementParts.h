@@ -18,6 +18,9 @@ qint64 Angle(const TSexpression& at);
 /** A name of the user's, with the written-out characters such as `{slash}` as themselves; a lone `~` is empty. */
 QString UserName(const TSexpression& atom);
 
+/** The same for a name that stands elsewhere than in the board file. */
+QString WithoutWrittenOutCharacters(QString name);
+
 /** The name of the net that an element is on, by its `(net number ...)`; empty if it is on none. */
 QString NetName(const TSexpression& element, const TBoardDraft& draft);
 

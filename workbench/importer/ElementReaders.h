@@ -22,6 +22,8 @@ void ReadFootprint(const TSexpression& footprint, TBoardDraft& draft);
 void ReadPad(const TSexpression& pad, const TFootprintFrame& footprint, TBoardDraft& draft);
 /** What a footprint or a pad says of the properties that pads inherit, and the inherited ones where it is silent. */
 TPadDefaults ReadPadDefaults(const TSexpression& element, TPadDefaults defaults);
+void ReadSegment(const TSexpression& segment, TBoardDraft& draft);
+void ReadTrackArc(const TSexpression& arc, TBoardDraft& draft);
 void ReadVia(const TSexpression& via, TBoardDraft& draft);
 
 /** Counts an element that is not read yet; the properties of what it stands in are no elements. */

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <limits>
 
 namespace {
@@ -68,6 +69,12 @@ std::optional<double> Measures::ParseDecimal(std::string_view text)
         return std::nullopt;
     }
     return text.front() == '-' ? -value : value;
+}
+
+TGridPoint Measures::OnGrid(const QPointF& scenePoint)
+{
+    constexpr double nanometres = 254'000.0 / 3;
+    return {std::llround(scenePoint.x() * nanometres), std::llround(scenePoint.y() * nanometres)};
 }
 
 double Measures::SceneRotation(qint64 counterclockwiseMillionths)

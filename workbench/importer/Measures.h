@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QtGlobal>
+#include "workbench/importer/TTrack.h"
+
+#include <QPointF>
 
 #include <optional>
 #include <string_view>
@@ -23,6 +25,13 @@ constexpr double SceneLength(qint64 nanometres)
     // 300 units and 25 400 000 nm to the inch. Both operands are exact below 3 000 km, so that it is rounded only once.
     return static_cast<double>(nanometres * 3) / 254'000.0;
 }
+
+/** A place in the scene, and the place on the file's grid that is nearest to one in the scene. */
+inline QPointF ScenePoint(const TGridPoint& place)
+{
+    return {SceneLength(place.x), SceneLength(place.y)};
+}
+TGridPoint OnGrid(const QPointF& scenePoint);
 
 /** A rotation as scenes have it, clockwise and from -180 to 180 degrees, of millionths of a degree counterclockwise. */
 double SceneRotation(qint64 counterclockwiseMillionths);

@@ -1,6 +1,7 @@
 #include "workbench/importer/ReadBoard.h"
 
 #include "workbench/importer/ElementReaders.h"
+#include "workbench/importer/LinkTracks.h"
 #include "workbench/importer/TBoardDraft.h"
 
 #include <algorithm>
@@ -26,6 +27,8 @@ constexpr TElementReader itemReaders[] = {
     {"footprint", ElementReaders::ReadFootprint},
     {"module", ElementReaders::ReadFootprint}, // the name of footprints in the oldest files
     {"via", ElementReaders::ReadVia},
+    {"segment", ElementReaders::ReadSegment},
+    {"arc", ElementReaders::ReadTrackArc},
 };
 
 template <std::size_t size>
@@ -80,4 +83,5 @@ void ReadBoard(const TSexpression& root, TBoardDraft& draft, const std::function
             progress(percent);
         }
     }
+    LinkTracks(draft);
 }

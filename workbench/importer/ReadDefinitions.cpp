@@ -56,7 +56,9 @@ void ElementReaders::ReadNet(const TSexpression& net, TBoardDraft& draft)
     if (draft.nets.contains(number)) {
         net.Fail(QStringLiteral("net %1 is listed twice").arg(number));
     }
-    draft.nets.insert(number, ElementParts::UserName(net.Value(1)));
+    const QString name = ElementParts::UserName(net.Value(1));
+    draft.nets.insert(number, name);
+    draft.netNames.append(name);
 }
 
 void ElementReaders::ReadNetClass(const TSexpression& netClass, TBoardDraft& draft)
@@ -64,9 +66,13 @@ void ElementReaders::ReadNetClass(const TSexpression& netClass, TBoardDraft& dra
     TViaDrills drills;
     ReadExtent(netClass, "via_drill", drills.via);
     ReadExtent(netClass, "uvia_drill", drills.microVia);
+    const QString name = ElementParts::UserName(netClass.Value(0));
+    draft.netSettings.AddClass(name);
     for (const TSexpression value : netClass) {
         if (value.Name() == "add_net") {
-            draft.netViaDrills.insert(ElementParts::UserName(value.Value(0)), drills);
+            const QString net = ElementParts::UserName(value.Value(0));
+            draft.netViaDrills.insert(net, drills);
+            draft.netSettings.Assign(net, name);
         }
     }
 }

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "workbench/importer/TFileLayers.h"
+#include "workbench/importer/TNetSettings.h"
 #include "workbench/importer/TNotShown.h"
+#include "workbench/importer/TTrack.h"
 
 #include <application/TBoard.h>
 
@@ -9,6 +11,7 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 /** What a pad does not say itself it takes over from its footprint, and a footprint from the board. */
 struct TPadDefaults
@@ -31,11 +34,15 @@ struct TBoardDraft
 {
     std::unique_ptr<TBoard> board = std::make_unique<TBoard>();
     TFileLayers layers;
-    QHash<int, QString> nets; ///< Names by the numbers that the file uses.
+    QHash<int, QString> nets; ///< Names by the numbers that the file uses,
+    QStringList netNames;     ///< and in the order of the file.
+    TNetSettings netSettings;
     TPadDefaults padDefaults;
     TViaDrills viaDrills;                    ///< Of the whole board,
     QHash<QString, TViaDrills> netViaDrills; ///< and of the nets whose class has its own.
     bool viasTented = true;                  ///< The solder mask covers vias that do not say otherwise.
+    std::vector<TTrack> tracks;              ///< To become wires when all that they can be linked to has been read.
+    QHash<const TGraphicsItem*, QStringList> netsOfTies; ///< Which nets each net tie joins.
     TNotShown notShown;
 
     /** The name of the drill pair of two layers, in any order; the board gets the pair if it has none yet. */

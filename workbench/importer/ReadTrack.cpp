@@ -1,0 +1,52 @@
+#include "workbench/importer/ArcPath.h"
+#include "workbench/importer/ElementParts.h"
+#include "workbench/importer/ElementReaders.h"
+#include "workbench/importer/TBoardDraft.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+TGridPoint GridPoint(const TSexpression& list)
+{
+    return {list.Value(0).Millionths(), list.Value(1).Millionths()};
+}
+
+/** What a track says besides its place. */
+TTrack Track(const TSexpression& element, const TBoardDraft& draft)
+{
+    TTrack track;
+    const TSexpression layer = element.Get("layer").Value(0);
+    track.start = GridPoint(element.Get("start"));
+    track.end = GridPoint(element.Get("end"));
+    track.width = element.Get("width").Value(0).Extent();
+    track.layer = draft.layers.Find(layer.Text());
+    track.net = ElementParts::NetName(element, draft);
+    track.isLocked = element.HasFlag("locked");
+    if (!Osmirel::IsCopper(track.layer)) {
+        layer.Fail(QStringLiteral("a track on layer '%1', which is no copper layer of the board").arg(layer.Text()));
+    }
+    return track;
+}
+
+} // namespace
+
+void ElementReaders::ReadSegment(const TSexpression& segment, TBoardDraft& draft)
+{
+    draft.tracks.push_back(Track(segment, draft));
+}
+
+void ElementReaders::ReadTrackArc(const TSexpression& arc, TBoardDraft& draft)
+{
+    TTrack track = Track(arc, draft);
+    const TGridPoint end = track.end;
+    const std::vector<TGridPoint> corners = ArcPath::CornersThrough(track.start, GridPoint(arc.Get("mid")), track.end);
+    for (const TGridPoint& corner : corners) {
+        track.end = corner;
+        draft.tracks.push_back(track);
+        track.start = corner;
+    }
+    track.end = end;
+    draft.tracks.push_back(track);
+}

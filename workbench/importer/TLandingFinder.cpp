@@ -1,0 +1,41 @@
+#include "workbench/importer/TLandingFinder.h"
+
+#include "workbench/importer/Measures.h"
+#include "workbench/importer/TPlaceGrid.h"
+
+#include <graphics/TGraphicsItem.h>
+
+TLandingFinder::TLandingFinder(const QVector<TGraphicsItem*>& copper)
+{
+    for (TGraphicsItem* item : copper) {
+        const QRectF box = item->sceneBoundingRect();
+        const TGridPoint first = TPlaceGrid::CellOf(Measures::OnGrid(box.topLeft()));
+        const TGridPoint last = TPlaceGrid::CellOf(Measures::OnGrid(box.bottomRight()));
+        for (qint64 x = first.x; x <= last.x; ++x) {
+            for (qint64 y = first.y; y <= last.y; ++y) {
+                cells[{x, y}].append(item);
+            }
+        }
+        centres.append(Measures::OnGrid(item->scenePos()));
+    }
+}
+
+TGraphicsItem* TLandingFinder::At(const TGridPoint& place) const
+{
+    const auto cell = cells.constFind(TPlaceGrid::CellOf(place));
+    if (cell == cells.constEnd()) {
+        return nullptr;
+    }
+    TGraphicsItem* nearest = nullptr;
+    double nearestSquare = 0;
+    for (TGraphicsItem* item : *cell) {
+        const QPointF point = item->mapFromScene(Measures::ScenePoint(place));
+        const double square = QPointF::dotProduct(point, point);
+        const bool isNearer = !nearest || square < nearestSquare;
+        if (isNearer && item->boundingRect().contains(point) && item->Outline().contains(point)) {
+            nearest = item;
+            nearestSquare = square;
+        }
+    }
+    return nearest;
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "workbench/importer/TTrack.h"
+
+#include <QVector>
+
+class TGraphicsItem;
+
+/** The vias, pads and net ties that the tracks of one net can end on, on one layer. */
+class TLandingFinder
+{
+public:
+    explicit TLandingFinder(const QVector<TGraphicsItem*>& copper);
+
+    /** The item whose copper is there, the one with the nearest centre of several; null if there is none. */
+    TGraphicsItem* At(const TGridPoint& place) const;
+    /** Where the items' own positions are. */
+    const QVector<TGridPoint>& Centres() const { return centres; }
+
+private:
+    QHash<TGridPoint, QVector<TGraphicsItem*>> cells;
+    QVector<TGridPoint> centres;
+};
