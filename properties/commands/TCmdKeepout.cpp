@@ -5,6 +5,7 @@
 TCmdKeepoutLayEn::TCmdKeepoutLayEn(QList<TGraphicsKeepoutItem*> keepouts, Osmirel::Layer onLayer, bool enable)
     : items(std::move(keepouts)), layer(onLayer), newValue(enable)
 {
+    items.removeAll(nullptr);
     oldValues.reserve(items.size());
     for (const TGraphicsKeepoutItem* keepout : qAsConst(items)) {
         oldValues.append(keepout->IsLayerEnable(layer));

@@ -7,6 +7,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <memory>
@@ -22,6 +23,7 @@ struct CommandLaw
     QString name;
     int id = -1;
     Merging merging = Merging::Never;
+    unsigned categories = 0;
     bool repaints = true;
     /** Which items the command keeps. */
     std::function<bool(const TGraphicsItem&)> accepts;
@@ -37,11 +39,15 @@ struct CommandLaw
     bool hasMergeRule = false;
 
     CommandLaw& WithId(int number, Merging rule);
+    CommandLaw& WithCategories(unsigned bits);
     CommandLaw& WithoutRepaint();
     CommandLaw& Undone(std::function<void(StateFields&)> quirk);
 };
 
-/** One law for each command that the library has. */
+/** One law for each command that writes one value to each of the items that it is given. */
 const std::vector<CommandLaw>& LawTable();
+
+/** The other commands that the library has: a test of its own holds each of them. */
+const QStringList& CommandsWithTestsOfTheirOwn();
 
 } // namespace Test

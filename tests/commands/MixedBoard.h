@@ -2,9 +2,23 @@
 
 #include "tests/support/TestBoard.h"
 
+#include <graphics/TGraphicsArcItem.h>
+#include <graphics/TGraphicsEllipseItem.h>
+#include <graphics/TGraphicsLineItem.h>
+#include <graphics/TGraphicsPolygonItem.h>
+#include <graphics/TGraphicsPolylineItem.h>
+#include <graphics/TGraphicsTextItem.h>
+#include <objects/TGraphicsJunctionItem.h>
+#include <objects/TGraphicsKeepoutItem.h>
+#include <objects/TGraphicsNetTiePcbItem.h>
+#include <objects/TGraphicsNetTieSchItem.h>
+#include <objects/TGraphicsOutlineItem.h>
+#include <objects/TGraphicsPourItem.h>
+#include <objects/TGraphicsWireItem.h>
+
 namespace Test {
 
-/** An item of a kind that no command of boards' pads, vias and holes knows: nothing but its type number. */
+/** An item of a kind that a board has no class for: nothing but its type number. */
 class ForeignItem : public TGraphicsItem
 {
 public:
@@ -40,14 +54,17 @@ public:
         AddPads();
         AddHole(3.2);
         AddHole(2.1)->SetTFlag(TGraphicsItem::Lock, true);
-        Add<TGraphicsRectItem>()->SetSize(40, 25.5F);
-        Add<TGraphicsRectItem>()->SetSize(0, 0);
-        const QList<int> otherKinds{0x10002, 0x10004, 0x10005, 0x10006, 0x10007, 0x10008, 0x10009,
-                                    0x1000a, 0x1000c, 0x1000d, 0x1000e, 0x1000f, 0x10010, 0x10013,
-                                    0x10014, 0x10018, 0x1001b, 0x1001d, 0x1001e, 0x1001f};
+        AddPrimitives();
+        AddTexts();
+        AddCopper();
+        AddPours();
+        AddNetTies();
+        AddOutline();
+        const QList<int> otherKinds{0x10009, 0x1000a, 0x1000c, 0x1000e, 0x1000f, 0x1001b};
         for (const int kind : otherKinds) {
             Add<ForeignItem>(kind);
         }
+        Add<ForeignItem>(0x1000a)->SetTFlag(TGraphicsItem::Lock, true);
     }
 
     QStringList Lines() const
@@ -87,6 +104,7 @@ private:
     {
         TGraphicsPackageItem* package = AddPackage();
         package->setRotation(30);
+        AddParts(*package);
 
         TGraphicsPadItem* surface = AddSurfacePad(1.1, 0.6);
         surface->SetNumber("1");
@@ -118,6 +136,146 @@ private:
         Add<OddPad>()->SetSize(8, 6);
         Add<OddPad>()->SetNumber("odd");
     }
+
+    /** What commands over free drawings leave alone, being part of a package. */
+    void AddParts(TGraphicsPackageItem& package)
+    {
+        auto* line = Add<TGraphicsLineItem>();
+        line->setParentItem(&package);
+        line->SetLine({-20, -20, 20, -20});
+        line->SetLayer(Osmirel::SilkTop);
+        package.SetRefDesText(AddText("U1", Osmirel::SilkTop));
+        package.SetValueText(AddText("74HC00", Osmirel::SilkTop));
+        AddPackage("locked")->SetTFlag(TGraphicsItem::Lock, true);
+    }
+
+    void AddPrimitives()
+    {
+        auto* rectangle = Add<TGraphicsRectItem>();
+        rectangle->SetSize(40, 25.5F);
+        rectangle->Brush().setStyle(Qt::Dense4Pattern);
+        rectangle->SetLayer(Osmirel::SilkTop);
+        rectangle->SetAltColor(QColor(1, 2, 3, 4));
+        Add<TGraphicsRectItem>()->SetSize(0, 0);
+
+        auto* ellipse = Add<TGraphicsEllipseItem>();
+        ellipse->SetSize(31, 11);
+        ellipse->SetPenWidth(1.5F);
+
+        auto* line = Add<TGraphicsLineItem>();
+        line->SetLine({0, 0, 30, 40});
+        line->SetPenWidth(0.7F);
+        line->Pen().setStyle(Qt::DotLine);
+        line->SetAltColor(Qt::red);
+
+        auto* polyline = Add<TGraphicsPolylineItem>();
+        polyline->SetPoints(QVector<QPointF>{{0, 0}, {20, 10}, {30, -10}});
+        polyline->SetLayer(Osmirel::Milling);
+        polyline->SetTFlag(TGraphicsItem::Lock, true);
+
+        auto* polygon = Add<TGraphicsPolygonItem>();
+        polygon->SetPoints(QVector<QPointF>{{0, 0}, {20, 10}, {-5, 22}});
+        polygon->Brush().setStyle(Qt::HorPattern);
+        polygon->Pen().setStyle(Qt::DashDotLine);
+
+        auto* arc = Add<TGraphicsArcItem>();
+        arc->SetArc(15, 30, -200);
+        arc->SetLayer(Osmirel::CopperBottom);
+        arc->SetPenWidth(3);
+    }
+
+    TGraphicsTextItem* AddText(const QString& content, Osmirel::Layer layer)
+    {
+        auto* text = Add<TGraphicsTextItem>();
+        text->SetText(content);
+        text->SetLayer(layer);
+        text->UpdatePath(false);
+        return text;
+    }
+
+    void AddTexts()
+    {
+        auto* plain = AddText("plain", Osmirel::SilkTop);
+        plain->Font().setPixelSize(41); // 10 points
+        plain->SetAlignment(Qt::AlignLeft);
+        auto* odd = AddText("odd \"x\"", Osmirel::SilkBottom);
+        odd->Font().setFamily("Monospace");
+        odd->Font().setPixelSize(44); // no whole points
+        odd->Font().setWeight(QFont::DemiBold);
+        odd->Font().setStyle(QFont::StyleOblique);
+        odd->SetVector(false);
+        odd->SetAlignment(Qt::AlignRight);
+        odd->setRotation(12.75);
+        odd->SetTFlag(TGraphicsItem::MirrorHorizontal, true);
+        odd->SetLineWidth(2.5F);
+        auto* bold = AddText("bold", Osmirel::DrawingsTop);
+        bold->Font().setWeight(QFont::Bold);
+        bold->Font().setStyle(QFont::StyleItalic);
+        bold->setRotation(-45);
+        bold->SetTFlag(TGraphicsItem::MirrorVertical, true);
+    }
+
+    void AddCopper()
+    {
+        const auto addWire = [this](Osmirel::Layer layer, float width) {
+            auto* wire = Add<TGraphicsWireItem>();
+            wire->SetLayer(layer);
+            wire->SetPenWidth(width);
+            wire->SetPoint2({25, 5});
+            return wire;
+        };
+        addWire(Osmirel::CopperTop, 2);
+        addWire(Osmirel::Copper2, 0.3F)->SetAltColor(Qt::green);
+        addWire(Osmirel::CopperBottom, 4.1F)->SetCompositionMode(3);
+        auto* junction = Add<TGraphicsJunctionItem>();
+        junction->SetLayer(Osmirel::CopperTop);
+        junction->SetSize(3, 3);
+    }
+
+    void AddPours()
+    {
+        const QPolygonF area(QRectF(-20, -20, 40, 40));
+        auto* plain = Add<TGraphicsPourItem>();
+        plain->SetArea(area);
+        plain->SetLayer(Osmirel::CopperTop);
+        auto* other = Add<TGraphicsPourItem>();
+        other->SetArea(area);
+        other->SetLayer(Osmirel::Copper2);
+        other->SetNet("GND");
+        other->SetClearanceToEtch(1.25);
+        other->SetClearanceToBorder(2.25);
+        other->SetClearanceToPour(3.25);
+        other->SetFillType(Qt::HorPattern);
+        other->SetLineWidth(0.5);
+        other->SetMinimumArea(4);
+        other->SetOnlyConnected(true);
+        other->SetPriority(7);
+        other->SetThermalEnable(true);
+        other->SetThermalLine(1.75);
+        other->SetThermalIsolation(2.75);
+
+        auto* keepout = Add<TGraphicsKeepoutItem>();
+        keepout->SetArea(area);
+        keepout->SetLayerEnable(Osmirel::Copper3, false);
+        auto* keepoutOfAll = Add<TGraphicsKeepoutItem>();
+        keepoutOfAll->SetArea(area);
+        for (int layer = Osmirel::CopperTop; layer <= Osmirel::CopperBottom; ++layer) {
+            keepoutOfAll->SetLayerEnable(static_cast<Osmirel::Layer>(layer), true);
+        }
+    }
+
+    void AddNetTies()
+    {
+        auto* tie = Add<TGraphicsNetTiePcbItem>();
+        tie->SetNumber(3);
+        tie->SetPadSize(8);
+        tie->SetPadDistance(20);
+        auto* symbol = Add<TGraphicsNetTieSchItem>();
+        symbol->SetNumber(3);
+        symbol->SetSymbol(2);
+    }
+
+    void AddOutline() { Add<TGraphicsOutlineItem>()->SetPoints({{0, 0, 0}, {50, 0, 0}, {50, 50, 0}}); }
 
     int extra = 0;
 };

@@ -144,7 +144,7 @@ private slots:
             QCOMPARE(command->text(), QString());
             QCOMPARE(command->actionText(), QString());
             QCOMPARE(command->childCount(), 0);
-            QCOMPARE(command->Categories(), 0U);
+            QCOMPARE(command->Categories(), session.law.categories);
             QVERIFY(!command->isObsolete());
         }
     }

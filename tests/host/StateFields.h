@@ -39,6 +39,7 @@ public:
     }
 
     const QString& Kind() const { return kind; }
+    void SetKind(const QString& word) { kind = word; }
 
     QStringList Names() const
     {
