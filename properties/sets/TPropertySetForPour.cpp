@@ -5,6 +5,45 @@
 #include "properties/sets/CompositionModes.h"
 #include "properties/sets/RowValues.h"
 
+/** What the rows show of a pour. */
+struct TPropertySetForPour::Values
+{
+    Values() = default;
+    explicit Values(const TGraphicsPourItem& pour);
+
+    double clearanceToEtch = 0;
+    double clearanceToBorder = 0;
+    double clearanceToPour = 0;
+    int fillType = Qt::NoBrush;
+    double lineWidth = 0;
+    double minimumArea = 0;
+    bool onlyConnected = false;
+    int priority = 0;
+    bool thermalEnable = false;
+    double thermalLine = 0;
+    double thermalIsolation = 0;
+    int compositionMode = 0;
+    Osmirel::Layer layer = Osmirel::NoLayer;
+    QString net;
+};
+
+TPropertySetForPour::Values::Values(const TGraphicsPourItem& pour)
+    : clearanceToEtch(pour.ClearanceToEtch()),
+      clearanceToBorder(pour.ClearanceToBorder()),
+      clearanceToPour(pour.ClearanceToPour()),
+      fillType(pour.FillType()),
+      lineWidth(pour.LineWidth()),
+      minimumArea(pour.MinimumArea()),
+      onlyConnected(pour.OnlyConnected()),
+      priority(pour.Priority()),
+      thermalEnable(pour.ThermalEnable()),
+      thermalLine(pour.ThermalLine()),
+      thermalIsolation(pour.ThermalIsolation()),
+      compositionMode(pour.CompositionMode()),
+      layer(pour.Layer()),
+      net(pour.Net())
+{}
+
 TPropertySetForPour::TPropertySetForPour(QList<TGraphicsItem*> selection, QList<Osmirel::Layer> layers)
     : TPropertySet(selection.size() == 1 ? tr("Pour") : tr("Pours"))
 {
@@ -13,13 +52,11 @@ TPropertySetForPour::TPropertySetForPour(QList<TGraphicsItem*> selection, QList<
             pours.append(static_cast<TGraphicsPourItem*>(item));
         }
     }
-    if (pours.isEmpty()) {
-        return;
-    }
-    const TGraphicsPourItem& shown = *pours.last();
+    // Intended: without a pour the rows show a cleared record.
+    const Values shown = pours.isEmpty() ? Values() : Values(*pours.last());
     MakeFillRows(shown);
     MakeClearanceAndThermalRows(shown);
-    MakeDrawingRows(shown, layers, selection.first()->Workspace());
+    MakeDrawingRows(shown, layers, selection.isEmpty() ? nullptr : selection.first()->Workspace());
 
     // Intended: the rows for border clearance, connection, composition mode and alpha are made and not shown.
     AddProperties({clearanceToEtch, clearanceToPour, fillType, lineWidth, minimumArea, priority, thermalEnable,
@@ -34,7 +71,7 @@ TPropertyFloatSpin* TPropertySetForPour::NewLengthRow(const QString& label, doub
     return row;
 }
 
-void TPropertySetForPour::MakeFillRows(const TGraphicsPourItem& shown)
+void TPropertySetForPour::MakeFillRows(const Values& shown)
 {
     fillType = NewRow<TPropertyEnum>(tr("Fill type:"));
     fillType->AddItem(tr("No fill"), Qt::NoBrush);
@@ -42,54 +79,56 @@ void TPropertySetForPour::MakeFillRows(const TGraphicsPourItem& shown)
     fillType->AddItem(tr("H-Lines"), Qt::HorPattern);
     fillType->AddItem(tr("V-Lines"), Qt::VerPattern);
     fillType->AddItem(tr("Cross"), Qt::CrossPattern);
-    fillType->SetCurrentEnum(shown.FillType());
+    fillType->SetCurrentEnum(shown.fillType);
     connect(fillType, SIGNAL(sigEnumChanged(int)), this, SLOT(SetFillType(int)));
     connect(fillType, SIGNAL(sigEnumChanged(int)), this, SLOT(FillTypeChanged(int)));
 
-    lineWidth = NewLengthRow(tr("Line width:"), shown.LineWidth(), SLOT(SetLineWidth(qreal)));
+    lineWidth = NewLengthRow(tr("Line width:"), shown.lineWidth, SLOT(SetLineWidth(qreal)));
 
     constexpr QChar superscriptTwo(178);
     minimumArea = NewRow<TPropertyFloatSpin>(tr("Minimum area:"), 0.0, 9999.0, 1.0, 0);
-    RowValues::Show(*minimumArea, shown.MinimumArea(), tr(" mm") + superscriptTwo);
+    RowValues::Show(*minimumArea, shown.minimumArea, tr(" mm") + superscriptTwo);
     connect(minimumArea, SIGNAL(sigValueChanged(qreal)), this, SLOT(SetMinimumArea(qreal)));
 
     onlyConnected = NewRow<TPropertyCheck>(tr("Only connected:"));
-    onlyConnected->SetCurrentState(shown.OnlyConnected());
+    onlyConnected->SetCurrentState(shown.onlyConnected);
     connect(onlyConnected, SIGNAL(sigStateChanged(bool)), this, SLOT(SetOnlyConnected(bool)));
 
     priority = NewRow<TPropertyIntSpin>(tr("Priority:"), 0, 15, 1);
-    priority->SetCurrentValue(shown.Priority());
+    priority->SetCurrentValue(shown.priority);
     connect(priority, SIGNAL(sigValueChanged(int)), this, SLOT(SetPriority(int)));
 }
 
-void TPropertySetForPour::MakeClearanceAndThermalRows(const TGraphicsPourItem& shown)
+void TPropertySetForPour::MakeClearanceAndThermalRows(const Values& shown)
 {
-    clearanceToEtch = NewLengthRow(tr("Clearance to etch:"), shown.ClearanceToEtch(), SLOT(SetClearanceToEtch(qreal)));
+    clearanceToEtch = NewLengthRow(tr("Clearance to etch:"), shown.clearanceToEtch, SLOT(SetClearanceToEtch(qreal)));
     clearanceToBorder =
-        NewLengthRow(tr("Clearance to border:"), shown.ClearanceToBorder(), SLOT(SetClearanceToBorder(qreal)));
-    clearanceToPour = NewLengthRow(tr("Clearance to pour:"), shown.ClearanceToPour(), SLOT(SetClearanceToPour(qreal)));
+        NewLengthRow(tr("Clearance to border:"), shown.clearanceToBorder, SLOT(SetClearanceToBorder(qreal)));
+    clearanceToPour = NewLengthRow(tr("Clearance to pour:"), shown.clearanceToPour, SLOT(SetClearanceToPour(qreal)));
 
     thermalEnable = NewRow<TPropertyCheck>(tr("Thermal enable:"));
-    thermalEnable->SetCurrentState(shown.ThermalEnable());
+    thermalEnable->SetCurrentState(shown.thermalEnable);
     connect(thermalEnable, SIGNAL(sigStateChanged(bool)), this, SLOT(SetThermalEn(bool)));
 
-    thermalLine = NewLengthRow(tr("Thermal line:"), shown.ThermalLine(), SLOT(SetThermalLine(qreal)));
-    thermalIsolation = NewLengthRow(tr("Thermal isolation:"), shown.ThermalIsolation(), SLOT(SetThermalIsol(qreal)));
+    thermalLine = NewLengthRow(tr("Thermal line:"), shown.thermalLine, SLOT(SetThermalLine(qreal)));
+    thermalIsolation = NewLengthRow(tr("Thermal isolation:"), shown.thermalIsolation, SLOT(SetThermalIsol(qreal)));
 }
 
-void TPropertySetForPour::MakeDrawingRows(const TGraphicsPourItem& shown, const QList<Osmirel::Layer>& layers,
+void TPropertySetForPour::MakeDrawingRows(const Values& shown, const QList<Osmirel::Layer>& layers,
                                           TWorkspace* workspace)
 {
     layer = NewRow<TPropertyLayer>(tr("Layer:"), layers, workspace);
-    layer->SetCurrentLayer(shown.Layer());
+    if (shown.layer != Osmirel::NoLayer) {
+        layer->SetCurrentLayer(shown.layer);
+    }
     connect(layer, SIGNAL(sigLayerChanged(Osmirel::Layer)), this, SLOT(SetLayer(Osmirel::Layer)));
 
-    net = NewRow<TPropertyText>(tr("Net:"), shown.Net(), false);
+    net = NewRow<TPropertyText>(tr("Net:"), shown.net, false);
     connect(net, SIGNAL(sigTextChanged(QString)), this, SLOT(SetNet(QString)));
 
     compositionMode = NewRow<TPropertyEnum>(QStringLiteral("Comp mode:"));
     CompositionModes::AddTo(*compositionMode);
-    compositionMode->SetCurrentEnum(shown.CompositionMode());
+    compositionMode->SetCurrentEnum(shown.compositionMode);
     connect(compositionMode, SIGNAL(sigEnumChanged(int)), this, SLOT(SetCompMode(int)));
 
     constexpr int shownAlpha = 130; // Intended: whatever the pours hold.

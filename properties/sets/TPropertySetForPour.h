@@ -10,7 +10,10 @@ class TPropertyIntSpin;
 class TPropertyLayer;
 class TPropertyText;
 
-/** Edits pours. Intended: the rows show the last pour's values, and every edit is a command, with undo bypassed too. */
+/**
+ * Edits pours. Intended: the rows show the last pour's values, and every edit is a command, with undo bypassed too.
+ * Without a pour the rows are there, and editing them does nothing.
+ */
 class PROPERTIES_EXPORT TPropertySetForPour : public TPropertySet
 {
     Q_OBJECT
@@ -43,10 +46,12 @@ public slots:
     void SetAlpha(int alpha);
 
 private:
+    struct Values;
+
     TPropertyFloatSpin* NewLengthRow(const QString& label, double sceneLength, const char* slot);
-    void MakeFillRows(const TGraphicsPourItem& shown);
-    void MakeClearanceAndThermalRows(const TGraphicsPourItem& shown);
-    void MakeDrawingRows(const TGraphicsPourItem& shown, const QList<Osmirel::Layer>& layers, TWorkspace* workspace);
+    void MakeFillRows(const Values& shown);
+    void MakeClearanceAndThermalRows(const Values& shown);
+    void MakeDrawingRows(const Values& shown, const QList<Osmirel::Layer>& layers, TWorkspace* workspace);
 
     /** Emits a command over all pours; without pours nothing happens. */
     template <class Command, class Value>

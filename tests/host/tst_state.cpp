@@ -1,16 +1,34 @@
+#include "tests/host/StateChanges.h"
 #include "tests/host/StateFields.h"
 #include "tests/support/TestBoard.h"
 #include "tests/support/TestMain.h"
 
+#include <graphics/TGraphicsArcItem.h>
+#include <graphics/TGraphicsEllipseItem.h>
+#include <graphics/TGraphicsLineItem.h>
+#include <graphics/TGraphicsPolygonItem.h>
+#include <graphics/TGraphicsPolylineItem.h>
+#include <graphics/TGraphicsTextItem.h>
 #include <graphics/TStateText.h>
+#include <objects/TGraphicsJunctionItem.h>
+#include <objects/TGraphicsKeepoutItem.h>
+#include <objects/TGraphicsNetTiePcbItem.h>
+#include <objects/TGraphicsNetTieSchItem.h>
+#include <objects/TGraphicsOutlineItem.h>
+#include <objects/TGraphicsPourItem.h>
+#include <objects/TGraphicsRatLineItem.h>
+#include <objects/TGraphicsWireItem.h>
 
 #include <QtTest>
 
 #include <cmath>
-#include <functional>
 #include <limits>
 
+using Test::Change;
+using Test::Placed;
+using Test::StateChanges;
 using Test::StateFields;
+using Test::WireBeside;
 
 namespace {
 
@@ -21,172 +39,6 @@ QString Written(const Value& value)
     const QString line = TStateText("kind").Add("name", value).Line();
     const QString start("kind name=");
     return line.startsWith(start) ? line.mid(start.size()) : "not " + start + ": " + line;
-}
-
-/** One change of an item and the attributes of its line that are to tell of it. */
-struct Change
-{
-    const char* name;
-    std::function<TGraphicsItem*(Test::TestBoard&)> place;
-    std::function<void(TGraphicsItem&)> change;
-    QStringList fields;
-};
-
-template <class Item, class Call>
-std::function<void(TGraphicsItem&)> On(Call call)
-{
-    return [call](TGraphicsItem& item) { call(static_cast<Item&>(item)); };
-}
-
-template <class Call>
-std::function<void(TGraphicsItem&)> OnVia(Call call)
-{
-    return On<TGraphicsViaItem>(call);
-}
-
-template <class Call>
-std::function<void(TGraphicsItem&)> OnPad(Call call)
-{
-    return On<TGraphicsPadItem>(call);
-}
-
-template <class Call>
-std::function<void(TGraphicsItem&)> OnRectangle(Call call)
-{
-    return On<TGraphicsRectItem>(call);
-}
-
-template <class Call>
-std::function<void(TGraphicsItem&)> OnPackage(Call call)
-{
-    return On<TGraphicsPackageItem>(call);
-}
-
-TGraphicsItem* Via(Test::TestBoard& board)
-{
-    return board.AddVia();
-}
-
-TGraphicsItem* Pad(Test::TestBoard& board)
-{
-    return board.AddSurfacePad();
-}
-
-TGraphicsItem* ThroughPad(Test::TestBoard& board)
-{
-    return board.AddThroughPad();
-}
-
-TGraphicsItem* PadOfPackage(Test::TestBoard& board)
-{
-    return board.AddSurfacePad(1, 1, board.AddPackage());
-}
-
-TGraphicsItem* Hole(Test::TestBoard& board)
-{
-    return board.AddHole();
-}
-
-TGraphicsItem* Rectangle(Test::TestBoard& board)
-{
-    auto rectangle = std::make_unique<TGraphicsRectItem>();
-    TGraphicsItem* item = rectangle.get();
-    board.Attach(std::move(rectangle));
-    return item;
-}
-
-TGraphicsItem* Package(Test::TestBoard& board)
-{
-    return board.AddPackage();
-}
-
-const QList<Change>& Changes()
-{
-    using Via_ = TGraphicsViaItem;
-    using Pad_ = TGraphicsPadItem;
-    using Rect = TGraphicsRectItem;
-    using Package_ = TGraphicsPackageItem;
-    static const QPainterPath square = [] {
-        QPainterPath path;
-        path.addRect(0, 0, 3, 4);
-        return path;
-    }();
-    static const QList<Change> changes{
-        {"position", Via, [](TGraphicsItem& item) { item.setPos(1.5, -2); }, {"at"}},
-        {"position of a package moves its pads",
-         PadOfPackage,
-         [](TGraphicsItem& item) { item.parentItem()->moveBy(1, 0); },
-         {"at", "in.at"}},
-        {"rotation", Pad, [](TGraphicsItem& item) { item.setRotation(-22.5); }, {"rotation"}},
-        {"layer", Hole, [](TGraphicsItem& item) { item.SetLayer(Osmirel::Milling); }, {"layer"}},
-        {"bypass flag", Via, [](TGraphicsItem& item) { item.SetTFlag(TGraphicsItem::UndoBypass, true); }, {"flags"}},
-        {"lock flag", Package, [](TGraphicsItem& item) { item.SetTFlag(TGraphicsItem::Lock, true); }, {"flags"}},
-        {"colour", Rectangle, [](TGraphicsItem& item) { item.SetAltColor(Qt::red); }, {"color"}},
-        {"opacity of the colour",
-         Rectangle,
-         [](TGraphicsItem& item) { item.SetAltColor(QColor(0, 0, 0, 1)); },
-         {"color"}},
-
-        {"via size", Via, OnVia([](Via_& via) { via.SetSize(8, 9); }), {"width", "height"}},
-        {"via width by a hair",
-         Via,
-         OnVia([](Via_& via) { via.SetSize(std::nextafter(via.Width(), 99), via.Height()); }),
-         {"width"}},
-        {"drill", Via, OnVia([](Via_& via) { via.SetDrill(2); }), {"drill"}},
-        {"drill by a hair", Via, OnVia([](Via_& via) { via.SetDrill(std::nextafter(via.Drill(), 99.0F)); }), {"drill"}},
-        {"thermal", Via, OnVia([](Via_& via) { via.SetThermal(Via_::ThermalNo); }), {"thermal"}},
-        {"drill pair", Via, OnVia([](Via_& via) { via.SetViaGroup("Top - Inner 1"); }), {"drillPair", "end"}},
-        {"mask", Via, OnVia([](Via_& via) { via.SetMaskEnabled(true); }), {"mask"}},
-        {"mask clearance", Via, OnVia([](Via_& via) { via.SetMaskClearance(-0.5F); }), {"maskClearance"}},
-        {"layers",
-         Via,
-         OnVia([](Via_& via) { via.SetLayers(Osmirel::Copper2, Osmirel::Copper3); }),
-         {"layer", "start", "end"}},
-        {"net", Via, OnVia([](Via_& via) { via.SetNet("GND"); }), {"net"}},
-
-        {"pad width", Pad, OnPad([](Pad_& pad) { pad.SetWidth(3); }), {"width"}},
-        {"pad height", Pad, OnPad([](Pad_& pad) { pad.SetHeight(3); }), {"height"}},
-        {"number", Pad, OnPad([](Pad_& pad) { pad.SetNumber("1 a"); }), {"number"}},
-        {"name", Pad, OnPad([](Pad_& pad) { pad.SetName("name=\""); }), {"name"}},
-        {"shape", Pad, OnPad([](Pad_& pad) { pad.SetPadShape(Pad_::ShapeSquare); }), {"shape"}},
-        {"side", Pad, OnPad([](Pad_& pad) { pad.SetPadSide(Osmirel::CopperBottom); }), {"layer", "start", "end"}},
-        {"type to through", Pad, OnPad([](Pad_& pad) { pad.SetTypeSMD(false); }), {"end"}},
-        {"type to surface", ThroughPad, OnPad([](Pad_& pad) { pad.SetTypeSMD(true); }), {"end"}},
-        {"pad mask clearance", Pad, OnPad([](Pad_& pad) { pad.SetMaskClearance(1); }), {"maskClearance"}},
-        {"paste", Pad, OnPad([](Pad_& pad) { pad.SetPasteEnabled(true); }), {"paste"}},
-        {"paste clearance", Pad, OnPad([](Pad_& pad) { pad.SetPasteClearance(-1); }), {"pasteClearance"}},
-        {"corner ratio", Pad, OnPad([](Pad_& pad) { pad.SetCornerRatio(0.25); }), {"cornerRatio"}},
-        {"taper",
-         Pad,
-         OnPad([](Pad_& pad) {
-             pad.SetTaper({0, 1});
-         }),
-         {"taper"}},
-        {"copper offset",
-         Pad,
-         OnPad([](Pad_& pad) {
-             pad.SetCopperOffset({0, 1});
-         }),
-         {"copperOffset"}},
-        {"drill stretch",
-         Pad,
-         OnPad([](Pad_& pad) {
-             pad.SetDrillStretch({0, 1});
-         }),
-         {"drillStretch"}},
-        {"extra copper", Pad, OnPad([](Pad_& pad) { pad.SetExtraCopper(square); }), {"extraCopper"}},
-
-        {"hole size", Hole, OnRectangle([](Rect& hole) { hole.SetSize(9, 9); }), {"size"}},
-        {"rectangle size", Rectangle, OnRectangle([](Rect& rect) { rect.SetSize(0, 2); }), {"size"}},
-        {"pen width", Rectangle, OnRectangle([](Rect& rect) { rect.SetPenWidth(0.1F); }), {"penWidth"}},
-        {"pen style", Rectangle, OnRectangle([](Rect& rect) { rect.Pen().setStyle(Qt::DotLine); }), {"penStyle"}},
-        {"brush style", Rectangle, OnRectangle([](Rect& rect) { rect.Brush().setStyle(Qt::CrossPattern); }), {"brush"}},
-
-        {"designator", Package, OnPackage([](Package_& package) { package.SetRefDes("R1"); }), {"refDes"}},
-        {"value", Package, OnPackage([](Package_& package) { package.SetValue("4k7 \xCE\xA9"); }), {"value"}},
-        {"package name", Package, OnPackage([](Package_& package) { package.SetPackageName("0402@x"); }), {"package"}},
-    };
-    return changes;
 }
 
 } // namespace
@@ -318,14 +170,14 @@ private slots:
     {
         QTest::addColumn<int>("row");
         int row = 0;
-        for (const Change& change : Changes()) {
+        for (const Change& change : StateChanges()) {
             QTest::newRow(change.name) << row++;
         }
     }
     void everyAttributeChangesTheLine()
     {
         QFETCH(int, row);
-        const Change& change = Changes().at(row);
+        const Change& change = StateChanges().at(row);
         Test::TestBoard board;
         TGraphicsItem* item = change.place(board);
         const StateFields before(item->StateLine());
@@ -337,17 +189,37 @@ private slots:
     void everyFieldOfALineHasAChange()
     {
         Test::TestBoard board;
-        QSet<QString> covered{"in"}; // the parent of a pad: see the next test
-        for (const Change& change : Changes()) {
+        const QSet<QString> ofAllKinds{"at", "in", "in.at", "rotation", "layer", "flags", "color", "net"};
+        QMap<QString, QSet<QString>> fields;
+        QMap<QString, QSet<QString>> covered;
+        for (const Change& change : StateChanges()) {
+            TGraphicsItem* item = change.place(board);
+            const StateFields line(item->StateLine());
+            for (const QString& field : line.Names()) {
+                fields[line.Kind()].insert(field);
+            }
             for (const QString& field : change.fields) {
-                covered.insert(field);
+                covered[line.Kind()].insert(field);
             }
         }
-        for (const auto& place : {Via, PadOfPackage, Hole, Rectangle, Package}) {
-            for (const QString& field : StateFields(place(board)->StateLine()).Names()) {
-                QVERIFY2(covered.contains(field), qPrintable(field));
+        // What kinds have from a common base may be covered by another kind of that base.
+        const QMap<QString, QStringList> bases{{"pad", {"via"}},           {"hole", {"rectangle"}},
+                                               {"ellipse", {"rectangle"}}, {"junction", {"rectangle"}},
+                                               {"line", {"rectangle"}},    {"polyline", {"rectangle"}},
+                                               {"polygon", {"rectangle"}}, {"arc", {"rectangle"}},
+                                               {"outline", {"rectangle"}}, {"wire", {"rectangle"}}};
+        QStringList uncovered;
+        for (const QString& kind : fields.keys()) {
+            QSet<QString> all = ofAllKinds + covered[kind];
+            for (const QString& base : bases[kind]) {
+                all += covered[base];
+            }
+            for (const QString& field : fields[kind] - all) {
+                uncovered.append(kind + ' ' + field);
             }
         }
+        QCOMPARE(uncovered, QStringList());
+        QCOMPARE(fields.size(), 19);
     }
 
     void packageAndHidingChangeTheLine()
@@ -380,13 +252,20 @@ private slots:
         via->SetDrill(6);
         QCOMPARE(via->StateLine(),
                  QString("via at=(0,0) rotation=0 layer=68 flags=0 color=default net=\"\" width=12 height=12 drill=6 "
-                         "thermal=0 drillPair=\"Top - Bottom\" start=68 end=75 mask=no maskClearance=0"));
+                         "thermal=0 drillPair=\"Top - Bottom\" start=68 end=75 mask=no maskClearance=0 wires=[]"));
+        TGraphicsWireItem* wire = WireBeside(*via);
+        wire->SetLayer(Osmirel::CopperTop);
+        wire->LinkToFirst(via);
+        QCOMPARE(StateFields(via->StateLine()).Text("wires"), QString("[wire@68(0,0)(10,0)]"));
+        QCOMPARE(StateFields(wire->StateLine()).Text("first"), QString("[via@68(0,0)]"));
     }
 
     void selectionIsNoPartOfTheLine()
     {
         Test::TestBoard board;
-        for (TGraphicsItem* item : {Via(board), Pad(board), Hole(board), Rectangle(board)}) {
+        const QList<TGraphicsItem*> items{board.AddVia(), board.AddSurfacePad(), board.AddHole(),
+                                          Placed<TGraphicsRectItem>(board)};
+        for (TGraphicsItem* item : items) {
             const QString before = item->StateLine();
             item->setSelected(true);
             QVERIFY(item->isSelected());
@@ -417,11 +296,25 @@ private slots:
     {
         Test::TestBoard board;
         const auto kind = [](const TGraphicsItem* item) { return qMakePair(item->type(), item->KindName()); };
-        QCOMPARE(kind(Via(board)), qMakePair(0x10011, QString("via")));
-        QCOMPARE(kind(Pad(board)), qMakePair(0x10012, QString("pad")));
-        QCOMPARE(kind(Hole(board)), qMakePair(0x10015, QString("hole")));
-        QCOMPARE(kind(Rectangle(board)), qMakePair(0x10003, QString("rectangle")));
-        QCOMPARE(kind(Package(board)), qMakePair(0x1000b, QString("package")));
+        QCOMPARE(kind(board.AddVia()), qMakePair(0x10011, QString("via")));
+        QCOMPARE(kind(board.AddSurfacePad()), qMakePair(0x10012, QString("pad")));
+        QCOMPARE(kind(board.AddHole()), qMakePair(0x10015, QString("hole")));
+        QCOMPARE(kind(Placed<TGraphicsRectItem>(board)), qMakePair(0x10003, QString("rectangle")));
+        QCOMPARE(kind(board.AddPackage()), qMakePair(0x1000b, QString("package")));
+        QCOMPARE(kind(Placed<TGraphicsLineItem>(board)), qMakePair(0x10002, QString("line")));
+        QCOMPARE(kind(Placed<TGraphicsEllipseItem>(board)), qMakePair(0x10004, QString("ellipse")));
+        QCOMPARE(kind(Placed<TGraphicsPolylineItem>(board)), qMakePair(0x10005, QString("polyline")));
+        QCOMPARE(kind(Placed<TGraphicsPolygonItem>(board)), qMakePair(0x10006, QString("polygon")));
+        QCOMPARE(kind(Placed<TGraphicsArcItem>(board)), qMakePair(0x10007, QString("arc")));
+        QCOMPARE(kind(Placed<TGraphicsTextItem>(board)), qMakePair(0x10008, QString("text")));
+        QCOMPARE(kind(Placed<TGraphicsJunctionItem>(board)), qMakePair(0x1000d, QString("junction")));
+        QCOMPARE(kind(Placed<TGraphicsWireItem>(board)), qMakePair(0x10010, QString("wire")));
+        QCOMPARE(kind(Placed<TGraphicsRatLineItem>(board)), qMakePair(0x10013, QString("ratline")));
+        QCOMPARE(kind(Placed<TGraphicsPourItem>(board)), qMakePair(0x10014, QString("pour")));
+        QCOMPARE(kind(Placed<TGraphicsOutlineItem>(board)), qMakePair(0x10018, QString("outline")));
+        QCOMPARE(kind(Placed<TGraphicsNetTieSchItem>(board)), qMakePair(0x1001d, QString("nettiesymbol")));
+        QCOMPARE(kind(Placed<TGraphicsNetTiePcbItem>(board)), qMakePair(0x1001e, QString("nettie")));
+        QCOMPARE(kind(Placed<TGraphicsKeepoutItem>(board)), qMakePair(0x1001f, QString("keepout")));
     }
 };
 

@@ -17,8 +17,18 @@
 #include "properties/rows/TPropertySize.h"
 #include "properties/rows/TPropertyText.h"
 #include "properties/sets/TPropertySetForHole.h"
+#include "properties/sets/TPropertySetForKeepout.h"
+#include "properties/sets/TPropertySetForMilling.h"
+#include "properties/sets/TPropertySetForNetTiePcb.h"
+#include "properties/sets/TPropertySetForNetTieSch.h"
+#include "properties/sets/TPropertySetForOutline.h"
+#include "properties/sets/TPropertySetForPackage.h"
 #include "properties/sets/TPropertySetForPad.h"
+#include "properties/sets/TPropertySetForPour.h"
+#include "properties/sets/TPropertySetForPrimitives.h"
+#include "properties/sets/TPropertySetForText.h"
 #include "properties/sets/TPropertySetForVia.h"
+#include "properties/sets/TPropertySetForWire.h"
 #include "properties/TPropertySet.h"
 #include "properties/TPropertyWidget.h"
 #include "properties/TTreeWidget.h"
@@ -104,6 +114,44 @@ const Signature signatures[] = {
       "SetMaskClearance(double)", "SetPasteEnable(bool)", "SetPasteClearance(double)", "TypeChanged(int)",
       "ShapeChanged(int)"}},
     {&TPropertySetForHole::staticMetaObject, &TPropertySet::staticMetaObject, {}, {"slotDiam(double)"}},
+    {&TPropertySetForWire::staticMetaObject,
+     &TPropertySet::staticMetaObject,
+     {},
+     {"SetLayer(Osmirel::Layer)", "SetWidth(double)", "SetClass(QString)", "SetColor(QColor)", "SetCompMode(int)"}},
+    {&TPropertySetForPackage::staticMetaObject,
+     &TPropertySet::staticMetaObject,
+     {"sigAttr()"},
+     {"SetRefDes(QString)", "SetValue(QString)", "SetPackage(QString)", "SetLockRefDes(bool)", "SetLockValue(bool)",
+      "SetSide(Osmirel::Layer)"}},
+    {&TPropertySetForNetTieSch::staticMetaObject,
+     &TPropertySet::staticMetaObject,
+     {},
+     {"SetName(QString)", "SetNameVis(bool)", "SetSymbol(int)"}},
+    {&TPropertySetForNetTiePcb::staticMetaObject,
+     &TPropertySet::staticMetaObject,
+     {},
+     {"SetName(QString)", "SetNameVis(bool)", "SetLayer(Osmirel::Layer)", "SetPadSz(double)", "SetWireWidth(double)"}},
+    {&TPropertySetForText::staticMetaObject,
+     &TPropertySet::staticMetaObject,
+     {},
+     {"SetColor(QColor)", "SetFontSize(int)", "SetLayer(Osmirel::Layer)", "SetBold(bool)", "SetItalic(bool)",
+      "SetAlign(int)", "SetAngle(int)", "SetTrueTrue(int)", "SetFontName(QString)", "SetMirrorV(bool)",
+      "SetMirrorH(bool)", "SetLine(double)"}},
+    {&TPropertySetForPrimitives::staticMetaObject,
+     &TPropertySet::staticMetaObject,
+     {},
+     {"slotSetColor(QColor)", "slotSetFillStyle(int)", "slotSetLayer(Osmirel::Layer)", "slotSetLineStyle(Qt::PenStyle)",
+      "slotSetLineWidth(double)"}},
+    {&TPropertySetForMilling::staticMetaObject, &TPropertySet::staticMetaObject, {}, {"slotSetLineWidth(double)"}},
+    {&TPropertySetForKeepout::staticMetaObject, &TPropertySet::staticMetaObject, {}, {"SetEn(bool)"}},
+    {&TPropertySetForOutline::staticMetaObject, &TPropertySet::staticMetaObject, {}, {}},
+    {&TPropertySetForPour::staticMetaObject,
+     &TPropertySet::staticMetaObject,
+     {},
+     {"SetClearanceToEtch(double)", "SetClearanceToBorder(double)", "SetClearanceToPour(double)", "SetFillType(int)",
+      "SetLineWidth(double)", "SetMinimumArea(double)", "SetOnlyConnected(bool)", "SetPriority(int)",
+      "SetThermalEn(bool)", "SetThermalLine(double)", "SetThermalIsol(double)", "SetLayer(Osmirel::Layer)",
+      "SetNet(QString)", "FillTypeChanged(int)", "ThermalTypeChanged(int)", "SetCompMode(int)", "SetAlpha(int)"}},
 };
 
 QStringList OwnMethods(const QMetaObject* kind, QMetaMethod::MethodType type)
@@ -235,7 +283,14 @@ private slots:
         const QList<QList<QByteArray>> slotNames{
             {"SetDiam", "SetDrill", "SetMaskClearance"},
             {"SetDrill", "SetWidth", "SetHeight", "SetMaskClearance", "SetPasteClearance"},
-            {"slotDiam"}};
+            {"slotDiam"},
+            {"SetWidth"},
+            {"SetPadSz", "SetWireWidth"},
+            {"SetLine"},
+            {"slotSetLineWidth"},
+            {"slotSetLineWidth"},
+            {"SetClearanceToEtch", "SetClearanceToBorder", "SetClearanceToPour", "SetLineWidth", "SetMinimumArea",
+             "SetThermalLine", "SetThermalIsol"}};
         for (int set = 0; set < slotNames.size(); ++set) {
             for (const QByteArray& name : slotNames[set]) {
                 QTest::addRow("%d: %s(qreal)", set, name.constData()) << name + "(qreal)" << set;
@@ -251,7 +306,13 @@ private slots:
         TPropertySetForVia via({}, {});
         TPropertySetForPad pad({}, {});
         TPropertySetForHole hole({});
-        const QList<TPropertySet*> sets{&via, &pad, &hole};
+        TPropertySetForWire wire({}, nullptr);
+        TPropertySetForNetTiePcb tie({}, nullptr);
+        TPropertySetForText text({}, {});
+        TPropertySetForPrimitives drawing({}, {});
+        TPropertySetForMilling milling({});
+        TPropertySetForPour pour({}, {});
+        const QList<TPropertySet*> sets{&via, &pad, &hole, &wire, &tie, &text, &drawing, &milling, &pour};
         TPropertyFloatSpin row("Number:", 0, 10, 1, 1);
         for (const char* signalName : {SIGNAL(sigValueChanged(qreal)), SIGNAL(sigValueChanged(double))}) {
             QVERIFY(connect(&row, signalName, sets[set], "1" + slotName));

@@ -1,8 +1,11 @@
 #include "tests/support/RowText.h"
 
 #include "properties/rows/TLineEdit.h"
-#include "properties/rows/TPropertyChoice.h"
+#include "properties/rows/TPropertyCheck.h"
+#include "properties/rows/TPropertyCheck2.h"
+#include "properties/rows/TPropertyColor.h"
 #include "properties/rows/TPropertyFloatSpin.h"
+#include "properties/rows/TPropertyIntSpin.h"
 #include "properties/rows/TPropertySize.h"
 #include "properties/rows/TPropertyText.h"
 #include "properties/TPropertySet.h"
@@ -12,6 +15,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QSpinBox>
 
 namespace Test {
 
@@ -24,6 +28,11 @@ QString RangeOf(const QDoubleSpinBox* box)
         .arg(box->maximum())
         .arg(box->singleStep())
         .arg(box->decimals());
+}
+
+QString BoxText(const QCheckBox* box)
+{
+    return (box->isChecked() ? "[x] " : "[ ] ") + box->text();
 }
 
 QString Value(const TPropertyFloatSpin& row)
@@ -42,7 +51,27 @@ QString Value(const TPropertySize& row)
 
 QString Value(const TPropertyText& row)
 {
-    return "= " + row.line->label->text() + (row.line->IsEditable() ? "" : ", read-only");
+    const QString show = row.visible->isHidden() ? "" : ", " + BoxText(row.visible);
+    return "= " + row.line->label->text() + show + (row.line->IsEditable() ? "" : ", read-only");
+}
+
+QString Value(const QSpinBox* box)
+{
+    return QStringLiteral("%1..%2 step %3 = %4")
+        .arg(box->minimum())
+        .arg(box->maximum())
+        .arg(box->singleStep())
+        .arg(box->text());
+}
+
+/** All check boxes of an editor, in their order. */
+QString BoxTexts(const QWidget* editor)
+{
+    QStringList boxes;
+    for (const QCheckBox* box : editor->findChildren<QCheckBox*>()) {
+        boxes.append(BoxText(box).trimmed());
+    }
+    return "= " + boxes.join(' ');
 }
 
 QString Value(const QComboBox* box)
@@ -66,8 +95,15 @@ QString ValueOf(const TAbstractProperty* row)
     if (const auto* text = qobject_cast<const TPropertyText*>(row)) {
         return Value(*text);
     }
-    if (const auto* box = qobject_cast<const QComboBox*>(row->Editor())) {
+    if (qobject_cast<const TPropertyCheck*>(row) || qobject_cast<const TPropertyCheck2*>(row)) {
+        return BoxTexts(row->Editor());
+    }
+    if (const auto* box = qobject_cast<const QSpinBox*>(row->Editor())) {
         return Value(box);
+    }
+    if (const auto* box = qobject_cast<const QComboBox*>(row->Editor())) {
+        const bool isColor = qobject_cast<const TPropertyColor*>(row) != nullptr;
+        return isColor ? QStringLiteral("%1 colours = %2").arg(box->count()).arg(box->currentText()) : Value(box);
     }
     return "of an unknown kind";
 }
