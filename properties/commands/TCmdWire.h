@@ -18,7 +18,7 @@ struct WireWidth : Plain<TGraphicsWireItem, double>
 {
     static bool Accepts(const TGraphicsWireItem&) { return true; }
     static double Read(const TGraphicsWireItem& wire) { return static_cast<double>(wire.PenWidth()); }
-    static void Write(TGraphicsWireItem& wire, double width);
+    PROPERTIES_EXPORT static void Write(TGraphicsWireItem& wire, double width);
 };
 
 } // namespace Attributes
