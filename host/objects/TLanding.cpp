@@ -117,23 +117,26 @@ std::optional<TLanding::Place> TLanding::PlaceFor(TGraphicsSectionItem* wire,
                                                   const QVector<TGraphicsItem*>& targets) const
 {
     // The copper that the end was cut from and still lies on; else that it was cut from; else the nearest it lies on.
-    enum Rank { CutAndTouching, Cut, Touching };
+    // What it was cut from gets it back even if it has been linked elsewhere since, but a free end comes first.
+    enum Rank { CutAndTouching, CutAndTouchingButTaken, Cut, CutButTaken, Touching, Unsuitable };
     std::optional<Place> best;
-    auto bestRank = std::make_pair(Touching, 0.0);
+    auto bestRank = std::make_pair(Unsuitable, 0.0);
     for (const LinkEnd end : bothEnds) {
-        if (wire->Link(end)) {
-            continue;
-        }
+        const bool isTaken = wire->Link(end) != nullptr;
         const QVector<const TGraphicsItem*> remembered = cutFrom.value(KeyOf(wire, end));
         for (TGraphicsItem* target : targets) {
             const std::optional<Touch> touch = TouchOf(wire, end, target);
             const bool wasCut = remembered.contains(target);
-            if (!touch && !wasCut) {
-                continue;
+            Rank kind = Unsuitable;
+            if (wasCut && touch) {
+                kind = isTaken ? CutAndTouchingButTaken : CutAndTouching;
+            } else if (wasCut) {
+                kind = isTaken ? CutButTaken : Cut;
+            } else if (touch && !isTaken) {
+                kind = Touching;
             }
-            const Rank kind = wasCut ? (touch ? CutAndTouching : Cut) : Touching;
             const auto rank = std::make_pair(kind, touch ? touch->squareDistance : 0.0);
-            if (!best || rank < bestRank) {
+            if (rank < bestRank && kind != Unsuitable) {
                 best = Place{end, target};
                 bestRank = rank;
             }

@@ -77,6 +77,22 @@ private slots:
         QCOMPARE(part.package->Disconnect({away}), Items());
     }
 
+    void connectTakesAnEndBackThatAnotherPackageTook()
+    {
+        Test::Network board;
+        const Part part(board);
+        const Part other(board); // In the same place.
+        TGraphicsWireItem* between = board.Wire({-100, 0}, {100, 0});
+        part.package->Connect({});
+        const QString before = board.Dump();
+
+        const Items cut = part.package->Disconnect({});
+        QCOMPARE(other.package->Connect({}).size(), 2);
+        QCOMPARE(part.package->Connect(cut), (Items{between, between}));
+        QCOMPARE(board.Dump(), before);
+        QCOMPARE(other.package->Disconnect({}), Items());
+    }
+
     void eachEndComesBackToItsOwnPadWhereSeveralLie()
     {
         Test::Network board;
