@@ -7,16 +7,13 @@
 #include <objects/TGraphicsNetTiePcbItem.h>
 #include <objects/TGraphicsNetTieSchItem.h>
 
-#include <QGraphicsView>
-
 namespace Test {
 
-/** A project with net ties on its schematic and its board, which a view shows. */
+/** A project with net ties on its schematic and its board. */
 struct TieProject
 {
-    TieProject() : view(board.Scene())
+    TieProject()
     {
-        board.SetView(&view);
         project.SetBoard(&board);
         project.SetSchematic(&schematic);
     }
@@ -51,9 +48,8 @@ struct TieProject
         return lines;
     }
 
-    TestBoard board;
+    ViewedBoard board;
     TSchematic schematic;
-    QGraphicsView view;
     TProject project;
 };
 
