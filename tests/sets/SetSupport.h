@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QGraphicsView>
 
 namespace Test {
 
@@ -31,6 +32,16 @@ Item* Place(Document& document, const QPointF& at = {})
     document.Attach(std::move(owned));
     return item;
 }
+
+/** A board that a view shows, as commands that look their items up need it. */
+class ViewedBoard : public TestBoard
+{
+public:
+    ViewedBoard() : view(Scene()) { SetView(&view); }
+
+private:
+    QGraphicsView view;
+};
 
 /** Finds the editors of the rows that a set has made during this object's life and does not show. */
 class UnshownEditors
