@@ -14,12 +14,12 @@ namespace FontSize {
 constexpr double sceneUnitsPerPoint = 4.166929133858268;
 
 /** Rounded towards zero. */
-int PixelsFromPoints(int points);
+PROPERTIES_EXPORT int PixelsFromPoints(int points);
 /** Rounded to the nearest, halves away from zero. */
-int PointsFromPixels(int pixels);
+PROPERTIES_EXPORT int PointsFromPixels(int pixels);
 
 /** Writes a size that is a pixel or more; a smaller one leaves the font as it is. */
-void Write(QFont& font, int points);
+PROPERTIES_EXPORT void Write(QFont& font, int points);
 
 } // namespace FontSize
 
@@ -86,7 +86,7 @@ struct TextAngle : OfText<int>
 };
 
 /** Whether a text is bold. Undo brings back only the weights of normal and bold. */
-struct TextBold : OfText<bool>
+struct PROPERTIES_EXPORT TextBold : OfText<bool>
 {
     static bool Read(const TGraphicsTextItem& text);
     static void Write(TGraphicsTextItem& text, bool bold)
