@@ -1,5 +1,7 @@
 #pragma once
 
+#include <properties/Export.h>
+
 class QGraphicsView;
 class TBoard;
 class TNetModel;
@@ -15,6 +17,6 @@ TNetModel* NetModel(const TProject* project);
 QGraphicsView* BoardView(const TProject* project);
 
 /** Whether schematic and board are kept in step. */
-bool IsInStep(const TProject* project);
+PROPERTIES_EXPORT bool IsInStep(const TProject* project);
 
 } // namespace ProjectParts

@@ -48,7 +48,7 @@ struct PenStyle : Plain<TGraphicsPenItem, Qt::PenStyle>, WithoutParent<AnyPrimit
 };
 
 /** How a closed shape is filled; polygons keep their brush in another place than the other shapes. */
-struct BrushStyle : Choice<TGraphicsItem, Qt::BrushStyle>, WithoutParent<FilledPrimitive>
+struct PROPERTIES_EXPORT BrushStyle : Choice<TGraphicsItem, Qt::BrushStyle>, WithoutParent<FilledPrimitive>
 {
     PROPERTIES_EXPORT static Qt::BrushStyle Read(const TGraphicsItem& item);
     PROPERTIES_EXPORT static void Write(TGraphicsItem& item, Qt::BrushStyle style);

@@ -86,7 +86,7 @@ struct TextAngle : OfText<int>
 };
 
 /** Whether a text is bold. Undo brings back only the weights of normal and bold. */
-struct TextBold : OfText<bool>
+struct PROPERTIES_EXPORT TextBold : OfText<bool>
 {
     PROPERTIES_EXPORT static bool Read(const TGraphicsTextItem& text);
     static void Write(TGraphicsTextItem& text, bool bold)

@@ -14,7 +14,7 @@
 namespace Attributes {
 
 /** The width of a wire in scene units, with the size of the junctions at its ends. */
-struct WireWidth : Plain<TGraphicsWireItem, double>
+struct PROPERTIES_EXPORT WireWidth : Plain<TGraphicsWireItem, double>
 {
     static bool Accepts(const TGraphicsWireItem&) { return true; }
     static double Read(const TGraphicsWireItem& wire) { return static_cast<double>(wire.PenWidth()); }

@@ -50,7 +50,7 @@ const QStringList& CommandsWithTestsOfTheirOwn()
         "TCmdOutlineAddNode", "TCmdOutlineDelNode",                                           // commands.quirks
         "TCmdPackageRefDes",  "TCmdPackageValue",   "TCmdPkgConnect",                         // commands.packages
         "TCmdPkgDisconnect",  "TCmdPkgSide",        "TCmdWireAddNode",     "TCmdWireDelNode", // commands.nodes
-        "TCmdWireLayer",                                                                      // commands.wirelayer
+        "TCmdWireLayer", // commands.wirelayer, commands.wirelayer_vias
     };
     return names;
 }
