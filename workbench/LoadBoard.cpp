@@ -38,3 +38,13 @@ QString DescribeNotShown(const TImportResult& result)
     }
     return parts.join(QStringLiteral(", "));
 }
+
+QStringList Notices(const TImportResult& result)
+{
+    QStringList notices = result.warnings;
+    const QString missing = DescribeNotShown(result);
+    if (!missing.isEmpty()) {
+        notices.append(QCoreApplication::translate("LoadBoard", "not shown: %1").arg(missing));
+    }
+    return notices;
+}

@@ -12,3 +12,6 @@ TImportResult LoadBoardWithDialog(const QString& file, QWidget* parent);
 
 /** Such as "17921 track segments, 3 zones"; empty if the board holds all that is in the file. */
 QString DescribeNotShown(const TImportResult& result);
+
+/** What a person should know of a file that was read: what is not shown, and what else went wrong; a line for each. */
+QStringList Notices(const TImportResult& result);

@@ -77,10 +77,10 @@ int Work(const TCommandLine& line, bool forPerson, const TStreams& streams)
     if (!result.board) {
         return result.cancelled ? 0 : Fail(result.error, streams.messages);
     }
-    if (const QString missing = DescribeNotShown(result); !missing.isEmpty()) {
-        streams.messages << name << ": not shown: " << missing << '\n';
-        streams.messages.flush();
+    for (const QString& notice : Notices(result)) {
+        streams.messages << name << ": " << notice << '\n';
     }
+    streams.messages.flush();
 
     TMainWindow window;
     window.resize(1400, 900);

@@ -175,7 +175,7 @@ void TMainWindow::MakeStatusBar()
         return label;
     };
     content = add(false);
-    notShown = add(false);
+    notice = add(false);
     selected = add(true);
     position = add(true);
     position->setMinimumWidth(position->fontMetrics().horizontalAdvance(QStringLiteral("-0000.000, -0000.000 mm"))
@@ -208,7 +208,7 @@ void TMainWindow::DropBoard()
 void TMainWindow::ShowBoard(TImportResult result, const QString& name)
 {
     DropBoard();
-    const QString missing = DescribeNotShown(result);
+    const QStringList notices = Notices(result);
     design = std::make_unique<TDesign>(std::move(result));
     TBoard& board = design->Board();
     board.SetView(canvas);
@@ -222,10 +222,10 @@ void TMainWindow::ShowBoard(TImportResult result, const QString& name)
     values->setChecked(board.ValuesVisible());
     setWindowTitle(tr("%1 – Workbench").arg(name));
     content->setText(Kinds::Summary(board.Items()));
-    const QString notice = missing.isEmpty() ? QString() : tr("Not shown: %1").arg(missing);
     constexpr int widestNotice = 420;
-    notShown->setText(notShown->fontMetrics().elidedText(notice, Qt::ElideRight, widestNotice));
-    notShown->setToolTip(notice);
+    const QString firstNotice = notices.join(QStringLiteral("; "));
+    notice->setText(notice->fontMetrics().elidedText(firstNotice, Qt::ElideRight, widestNotice));
+    notice->setToolTip(notices.join(QLatin1Char('\n')));
 }
 
 TBoard* TMainWindow::Board() const

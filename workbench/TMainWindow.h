@@ -92,7 +92,7 @@ private:
     QAction* designators = nullptr;
     QAction* values = nullptr;
     QLabel* content = nullptr;
-    QLabel* notShown = nullptr;
+    QLabel* notice = nullptr;
     QLabel* selected = nullptr;
     QLabel* position = nullptr;
 

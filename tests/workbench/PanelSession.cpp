@@ -11,18 +11,21 @@ namespace Test {
 
 namespace {
 
-QList<TGraphicsItem*> EditedItems(const TBoard& board)
+/** The items without those that say something of others: the rat lines, and what is linked to pads and vias. */
+QList<TGraphicsItem*> ModelledItems(const TBoard& board)
 {
     QList<TGraphicsItem*> items = board.Items();
-    const auto isDerived = [](const TGraphicsItem* item) { return item->IsDerived(); };
-    items.erase(std::remove_if(items.begin(), items.end(), isDerived), items.end());
+    const auto saysMore = [](const TGraphicsItem* item) {
+        return item->IsDerived() || item->type() == ItemType::Wire || item->type() == ItemType::NetTiePcb;
+    };
+    items.erase(std::remove_if(items.begin(), items.end(), saysMore), items.end());
     return items;
 }
 
 } // namespace
 
 PanelSession::PanelSession(std::unique_ptr<TDesign> edited, PanelWindow& shownIn)
-    : design(std::move(edited)), items(EditedItems(design->Board())), model(design->Board(), items), window(shownIn)
+    : design(std::move(edited)), items(ModelledItems(design->Board())), model(design->Board(), items), window(shownIn)
 {}
 
 PanelSession::~PanelSession()
@@ -110,7 +113,7 @@ QString PanelSession::Disagreement() const
             return differ(QStringLiteral("item %1").arg(item), line, model.Line(item));
         }
     }
-    if (EditedItems(design->Board()) != items) {
+    if (ModelledItems(design->Board()) != items) {
         return QStringLiteral("the board has other items");
     }
     if (stack.count() != model.StackCount() || stack.index() != model.StackIndex()) {

@@ -49,7 +49,7 @@ private:
     std::vector<PanelCell> Cells() const;
 
     std::unique_ptr<TDesign> design;
-    const QList<TGraphicsItem*> items; ///< Without the rat lines, which come and go with what they follow from.
+    const QList<TGraphicsItem*> items; ///< Without the rat lines and what is linked to pads and vias.
     EditingModel model;
     QUndoStack stack;
     PanelWindow& window;
