@@ -20,6 +20,9 @@ void ReadNetClass(const TSexpression& netClass, TBoardDraft& draft);
 
 // The items of the board.
 void ReadFootprint(const TSexpression& footprint, TBoardDraft& draft);
+/** Whether a footprint is no more than two surface pads that are joined on purpose; and the item for one that is. */
+bool IsNetTie(const TSexpression& footprint, const TBoardDraft& draft);
+void ReadNetTie(const TSexpression& footprint, TBoardDraft& draft);
 void ReadPad(const TSexpression& pad, const TFootprintFrame& footprint, TBoardDraft& draft);
 /** What a footprint or a pad says of the properties that pads inherit, and the inherited ones where it is silent. */
 TPadDefaults ReadPadDefaults(const TSexpression& element, TPadDefaults defaults);

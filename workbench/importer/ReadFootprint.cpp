@@ -59,6 +59,10 @@ constexpr struct
 
 void ElementReaders::ReadFootprint(const TSexpression& footprint, TBoardDraft& draft)
 {
+    if (IsNetTie(footprint, draft)) {
+        ReadNetTie(footprint, draft);
+        return;
+    }
     const TSexpression at = footprint.Get("at");
     const bool isOnBottom = draft.layers.Find(footprint.Get("layer").Value(0).Text()) == Osmirel::CopperBottom;
 
