@@ -40,8 +40,22 @@ enum Layer : int {
 
     BoardOutline = 95,
     Milling = 96,
-    DrawingsTop = 57,
+
+    DrawingsTop = 57, ///< Drawings of the assembled board.
     DrawingsBottom = 86,
+    CourtyardTop = 58, ///< The room that packages take up.
+    CourtyardBottom = 85,
+    AdhesiveTop = 63,
+    AdhesiveBottom = 80,
+
+    // Of the user's own, and of no side.
+    UserDrawings = 100,
+    UserComments = 101,
+    UserEco1 = 102,
+    UserEco2 = 103,
+    Margin = 104,
+    User1 = 111, ///< The first of nine.
+    User9 = 119,
 };
 
 /** The most copper layers that a board can have: CopperTop to CopperBottom. */

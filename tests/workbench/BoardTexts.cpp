@@ -278,8 +278,7 @@ QByteArray BoardTexts::Board(const QByteArray& elements)
 
 QByteArray BoardTexts::Footprint(const QByteArray& elements)
 {
-    return "  (footprint \"Lib:Part\" (layer \"F.Cu\") (at 0 0) (fp_text reference \"U1\" (at 0 0))\n" + elements
-           + "\n  )";
+    return "  (footprint \"Lib:Part\" (layer \"F.Cu\") (at 0 0) (property \"Reference\" \"U1\")\n" + elements + "\n  )";
 }
 
 QByteArray BoardTexts::InDialect(int version)

@@ -132,8 +132,6 @@ private slots:
         QFETCH(QString, file);
         const TImportResult imported = ImportBoard(file);
         const TBoardText text(file);
-        QCOMPARE(ImportedItems::NotShown(imported, "zones") + ImportedItems::NotShown(imported, "keepouts"),
-                 text.Count("zone"));
         QCOMPARE(ImportedItems::NotShown(imported, "dimensions"), text.Count("dimension"));
         QCOMPARE(ImportedItems::NotShown(imported, "3D models"), text.Count("model"));
         QCOMPARE(ImportedItems::NotShown(imported, "other elements"), 0);

@@ -78,9 +78,7 @@ private slots:
         QVERIFY(!vias[0]->MaskEnabled());
         QCOMPARE(vias[1]->ViaGroup(), QString("F.Cu - In1.Cu"));
         QCOMPARE(imported.board->ViaGroups(), QStringList({"F.Cu - B.Cu", "F.Cu - In1.Cu"}));
-        QCOMPARE(NotShown(imported, "texts"), 2);
-        QCOMPARE(NotShown(imported, "graphic shapes"), 1);
-        QCOMPARE(imported.notShown.size(), 2);
+        QVERIFY(imported.notShown.isEmpty());
 
         QCOMPARE(imported.board->Dump(), Import(BoardTexts::InDialect(7)).board->Dump());
     }

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 
 namespace {
 
@@ -14,17 +13,9 @@ QRectF SquareAround(const QPointF& centre, double radius)
     return {centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius};
 }
 
-/** A part of a circle; angles in degrees, counterclockwise as seen. */
-struct TArc
-{
-    QPointF centre;
-    double radius;
-    double startAngle;
-    double sweep;
-};
+} // namespace
 
-/** The arc through three points; none if they lie in one line. */
-std::optional<TArc> Through(const QPointF& start, const QPointF& middle, const QPointF& end)
+std::optional<ArcPath::TArc> ArcPath::Through(const QPointF& start, const QPointF& middle, const QPointF& end)
 {
     // The centre, seen from the start, is as far from the start as from the two other points.
     const QPointF toMiddle = middle - start;
@@ -46,8 +37,6 @@ std::optional<TArc> Through(const QPointF& start, const QPointF& middle, const Q
     const double sweep = middleOnTheWay <= counterclockwise ? counterclockwise : counterclockwise - 360;
     return TArc{centre, toStart.length(), toStart.angle(), sweep};
 }
-
-} // namespace
 
 void ArcPath::AddThrough(QPainterPath& path, const QPointF& start, const QPointF& middle, const QPointF& end)
 {
@@ -86,10 +75,11 @@ std::vector<TGridPoint> ArcPath::CornersThrough(const TGridPoint& start, const T
     return corners;
 }
 
-QPainterPath ArcPath::Around(const QPointF& centre, const QPointF& start, double clockwiseDegrees)
+QPainterPath ArcPath::Path(const TArc& arc)
 {
-    const QLineF radius(centre, start);
-    QPainterPath path(start);
-    path.arcTo(SquareAround(centre, radius.length()), radius.angle(), -clockwiseDegrees);
+    const QRectF square = SquareAround(arc.centre, arc.radius);
+    QPainterPath path;
+    path.arcMoveTo(square, arc.startAngle);
+    path.arcTo(square, arc.startAngle, arc.sweep);
     return path;
 }

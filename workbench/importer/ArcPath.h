@@ -4,16 +4,28 @@
 
 #include <QPainterPath>
 
+#include <optional>
 #include <vector>
 
 /** Arcs of circles as files describe them. */
 namespace ArcPath {
 
+/** A part of a circle; angles in degrees, counterclockwise as seen. */
+struct TArc
+{
+    QPointF centre;
+    double radius;
+    double startAngle;
+    double sweep;
+};
+
+/** The arc through three points; none if they lie in one line. */
+std::optional<TArc> Through(const QPointF& start, const QPointF& middle, const QPointF& end);
+
 /** Goes on from the path's end along the circle through all three points; straight if they lie in one line. */
 void AddThrough(QPainterPath& path, const QPointF& start, const QPointF& middle, const QPointF& end);
 
-/** An arc around a centre that begins at a point and sweeps over an angle in degrees, clockwise if positive. */
-QPainterPath Around(const QPointF& centre, const QPointF& start, double clockwiseDegrees);
+QPainterPath Path(const TArc& arc);
 
 /**
  * The corners of a chain of straight lines that follows the arc through all three points, without its two ends. The

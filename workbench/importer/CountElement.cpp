@@ -8,29 +8,8 @@ namespace {
 
 /** The elements of boards and footprints that are not read yet, in the words of the user. */
 constexpr std::pair<std::string_view, const char*> kinds[] = {
-    {"zone", "zones"},
-    {"gr_line", "graphic shapes"},
-    {"gr_arc", "graphic shapes"},
-    {"gr_circle", "graphic shapes"},
-    {"gr_rect", "graphic shapes"},
-    {"gr_poly", "graphic shapes"},
-    {"gr_curve", "graphic shapes"},
-    {"fp_line", "graphic shapes"},
-    {"fp_arc", "graphic shapes"},
-    {"fp_circle", "graphic shapes"},
-    {"fp_rect", "graphic shapes"},
-    {"fp_poly", "graphic shapes"},
-    {"fp_curve", "graphic shapes"},
-    {"gr_text", "texts"},
-    {"fp_text", "texts"},
-    {"gr_text_box", "texts"},
-    {"fp_text_box", "texts"},
-    {"dimension", "dimensions"},
-    {"group", "groups"},
-    {"generated", "length-tuning patterns"},
-    {"image", "images"},
-    {"table", "tables"},
-    {"target", "alignment targets"},
+    {"dimension", "dimensions"}, {"group", "groups"}, {"generated", "length-tuning patterns"},
+    {"image", "images"},         {"table", "tables"}, {"target", "alignment targets"},
     {"model", "3D models"},
 };
 
@@ -85,11 +64,7 @@ void ElementReaders::CountElement(const TSexpression& element, TBoardDraft& draf
     const std::string_view token = element.Name();
     const auto known =
         std::find_if(std::begin(kinds), std::end(kinds), [token](const auto& entry) { return entry.first == token; });
-    if (token == "zone" && element.Find("keepout")) {
-        draft.notShown.Count("keepouts");
-    } else if (token == "property" && element.Find("at")) {
-        draft.notShown.Count("texts"); // a property that has a place is written on the board
-    } else if (known != std::end(kinds)) {
+    if (known != std::end(kinds)) {
         draft.notShown.Count(known->second);
     } else if (element.IsList() && std::count(std::begin(properties), std::end(properties), token) == 0) {
         draft.notShown.Count("other elements");

@@ -71,6 +71,14 @@ QString ElementParts::NetName(const TSexpression& element, const TBoardDraft& dr
     return *named;
 }
 
+Osmirel::Layer ElementParts::Layer(const TSexpression& element, const TBoardDraft& draft)
+{
+    if (const std::optional<TSexpression> several = element.Find("layers")) {
+        return draft.layers.Resolve(*several).value(0, Osmirel::NoLayer);
+    }
+    return draft.layers.Find(element.Get("layer").Value(0).Text());
+}
+
 bool ElementParts::CoversBothSides(const TSexpression& tenting)
 {
     return tenting.HasFlag("front") && tenting.HasFlag("back");

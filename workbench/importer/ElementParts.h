@@ -1,5 +1,7 @@
 #pragma once
 
+#include <workspace/Osmirel.h>
+
 #include <QPointF>
 #include <QString>
 
@@ -23,6 +25,9 @@ QString WithoutWrittenOutCharacters(QString name);
 
 /** The name of the net that an element is on, by its `(net number ...)`; empty if it is on none. */
 QString NetName(const TSexpression& element, const TBoardDraft& draft);
+
+/** The layer that an element lies on, the first of several; `Osmirel::NoLayer` for one that is not known. */
+Osmirel::Layer Layer(const TSexpression& element, const TBoardDraft& draft);
 
 /** Whether a list such as `(tenting front back)` or `(tenting (front yes) (back no))` names both sides. */
 bool CoversBothSides(const TSexpression& tenting);

@@ -1,5 +1,6 @@
 #include "workbench/importer/ReadBoard.h"
 
+#include "workbench/importer/BuildOutline.h"
 #include "workbench/importer/ElementReaders.h"
 #include "workbench/importer/LinkTracks.h"
 #include "workbench/importer/TBoardDraft.h"
@@ -21,6 +22,7 @@ constexpr TElementReader definitionReaders[] = {
     {"setup", ElementReaders::ReadSetup},
     {"net", ElementReaders::ReadNet},
     {"net_class", ElementReaders::ReadNetClass},
+    {"title_block", ElementReaders::ReadTitleBlock},
 };
 
 constexpr TElementReader itemReaders[] = {
@@ -29,6 +31,15 @@ constexpr TElementReader itemReaders[] = {
     {"via", ElementReaders::ReadVia},
     {"segment", ElementReaders::ReadSegment},
     {"arc", ElementReaders::ReadTrackArc},
+    {"gr_text", ElementReaders::ReadText},
+    {"gr_text_box", ElementReaders::ReadTextBox},
+    {"zone", ElementReaders::ReadZone},
+    {"gr_line", ElementReaders::ReadGraphic},
+    {"gr_arc", ElementReaders::ReadGraphic},
+    {"gr_circle", ElementReaders::ReadGraphic},
+    {"gr_rect", ElementReaders::ReadGraphic},
+    {"gr_poly", ElementReaders::ReadGraphic},
+    {"gr_curve", ElementReaders::ReadGraphic},
 };
 
 template <std::size_t size>
@@ -83,5 +94,6 @@ void ReadBoard(const TSexpression& root, TBoardDraft& draft, const std::function
             progress(percent);
         }
     }
+    BuildOutline(draft);
     LinkTracks(draft);
 }

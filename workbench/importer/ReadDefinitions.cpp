@@ -50,6 +50,11 @@ void ElementReaders::ReadSetup(const TSexpression& setup, TBoardDraft& draft)
     draft.viasTented = AreViasTented(setup);
 }
 
+void ElementReaders::ReadTitleBlock(const TSexpression& titleBlock, TBoardDraft& draft)
+{
+    draft.textVariables = TextVariables::OfTitleBlock(titleBlock);
+}
+
 void ElementReaders::ReadNet(const TSexpression& net, TBoardDraft& draft)
 {
     const int number = net.Value(0).Integer();

@@ -5,6 +5,9 @@
 
 #include <objects/TGraphicsPackageItem.h>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 /** The footprint's name with its library behind an at sign, where the file has it in front of a colon. */
@@ -26,15 +29,46 @@ void ReadField(const TSexpression& field, TGraphicsPackageItem& package)
     }
 }
 
+TextVariables::TValues WithBoard(TextVariables::TValues values, const TBoardDraft& draft)
+{
+    for (auto each = draft.textVariables.begin(); each != draft.textVariables.end(); ++each) {
+        values.insert(each.key(), each.value());
+    }
+    return values;
+}
+
+constexpr struct
+{
+    std::string_view token;
+    void (*read)(const TSexpression& element, const TFootprintFrame& footprint, TBoardDraft& draft);
+} partReaders[] = {
+    {"pad", ElementReaders::ReadPad},
+    {"fp_line", ElementReaders::ReadFootprintGraphic},
+    {"fp_arc", ElementReaders::ReadFootprintGraphic},
+    {"fp_circle", ElementReaders::ReadFootprintGraphic},
+    {"fp_rect", ElementReaders::ReadFootprintGraphic},
+    {"fp_poly", ElementReaders::ReadFootprintGraphic},
+    {"fp_curve", ElementReaders::ReadFootprintGraphic},
+    {"fp_text", ElementReaders::ReadFootprintText},
+    {"property", ElementReaders::ReadFootprintText},
+    {"fp_text_box", ElementReaders::ReadFootprintTextBox},
+    {"zone", ElementReaders::ReadFootprintZone},
+};
+
 } // namespace
 
 void ElementReaders::ReadFootprint(const TSexpression& footprint, TBoardDraft& draft)
 {
+    if (IsNetTie(footprint, draft)) {
+        ReadNetTie(footprint, draft);
+        return;
+    }
     const TSexpression at = footprint.Get("at");
     const bool isOnBottom = draft.layers.Find(footprint.Get("layer").Value(0).Text()) == Osmirel::CopperBottom;
 
     auto package = std::make_unique<TGraphicsPackageItem>();
-    const TFootprintFrame frame{*package, ElementParts::Angle(at), ReadPadDefaults(footprint, draft.padDefaults)};
+    const TFootprintFrame frame{*package, ElementParts::Angle(at), ReadPadDefaults(footprint, draft.padDefaults),
+                                WithBoard(TextVariables::OfFootprint(footprint), draft)};
     package->SetWorkspace(draft.board->Workspace());
     package->SetLayer(isOnBottom ? Osmirel::PackagesBottom : Osmirel::PackagesTop);
     package->SetPackageName(PackageName(footprint.Value(0).Text()));
@@ -42,14 +76,18 @@ void ElementReaders::ReadFootprint(const TSexpression& footprint, TBoardDraft& d
     package->setRotation(Measures::SceneRotation(frame.angle));
     package->SetTFlag(TGraphicsItem::Lock, footprint.HasFlag("locked", 1));
     for (const TSexpression element : footprint) {
-        if (element.Name() == "pad") {
-            ReadPad(element, frame, draft);
-            continue;
-        }
         if (element.Name() == "fp_text" || element.Name() == "property") {
             ReadField(element, *package);
         }
-        CountElement(element, draft);
+    }
+    for (const TSexpression element : footprint) {
+        const auto reader = std::find_if(std::begin(partReaders), std::end(partReaders),
+                                         [&element](const auto& each) { return each.token == element.Name(); });
+        if (reader == std::end(partReaders)) {
+            CountElement(element, draft);
+        } else {
+            reader->read(element, frame, draft);
+        }
     }
     draft.board->Attach(std::move(package));
 }

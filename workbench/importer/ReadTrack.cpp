@@ -13,6 +13,14 @@ TGridPoint GridPoint(const TSexpression& list)
     return {list.Value(0).Millionths(), list.Value(1).Millionths()};
 }
 
+/** The oldest files have a word of bits, one of which locks the track. */
+bool IsLockedByStatus(const TSexpression& element)
+{
+    constexpr uint lockBit = 0x40000;
+    const std::optional<TSexpression> status = element.Find("status");
+    return status && (status->Value(0).Text().toUInt(nullptr, 16) & lockBit) != 0;
+}
+
 /** What a track says besides its place. */
 TTrack Track(const TSexpression& element, const TBoardDraft& draft)
 {
@@ -23,7 +31,7 @@ TTrack Track(const TSexpression& element, const TBoardDraft& draft)
     track.width = element.Get("width").Value(0).Extent();
     track.layer = draft.layers.Find(layer.Text());
     track.net = ElementParts::NetName(element, draft);
-    track.isLocked = element.HasFlag("locked");
+    track.isLocked = element.HasFlag("locked") || IsLockedByStatus(element);
     if (!Osmirel::IsCopper(track.layer)) {
         layer.Fail(QStringLiteral("a track on layer '%1', which is no copper layer of the board").arg(layer.Text()));
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "workbench/importer/TEdgeShape.h"
+#include "workbench/importer/TextVariables.h"
 #include "workbench/importer/TFileLayers.h"
 #include "workbench/importer/TNetSettings.h"
 #include "workbench/importer/TNotShown.h"
@@ -41,7 +43,9 @@ struct TBoardDraft
     TViaDrills viaDrills;                    ///< Of the whole board,
     QHash<QString, TViaDrills> netViaDrills; ///< and of the nets whose class has its own.
     bool viasTented = true;                  ///< The solder mask covers vias that do not say otherwise.
-    std::vector<TTrack> tracks;              ///< To become wires when all that they can be linked to has been read.
+    TextVariables::TValues textVariables;
+    std::vector<TTrack> tracks;    ///< To become wires when all that they can be linked to has been read.
+    std::vector<TEdgeShape> edges; ///< What the outline is made of, in the order of the file.
     QHash<const TGraphicsItem*, QStringList> netsOfTies; ///< Which nets each net tie joins.
     TNotShown notShown;
 

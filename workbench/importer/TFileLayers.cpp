@@ -10,12 +10,12 @@ namespace {
 
 /** The fixed names of layers that are not copper. A wildcard stands for the layers of both sides. */
 constexpr std::pair<const char*, Osmirel::Layer> fixedNames[] = {
-    {"F.Mask", Osmirel::MaskTop},         {"B.Mask", Osmirel::MaskBottom},     {"F.Paste", Osmirel::PasteTop},
-    {"B.Paste", Osmirel::PasteBottom},    {"F.SilkS", Osmirel::SilkTop},       {"B.SilkS", Osmirel::SilkBottom},
-    {"F.Fab", Osmirel::DrawingsTop},      {"B.Fab", Osmirel::DrawingsBottom},  {"F.CrtYd", Osmirel::DrawingsTop},
-    {"B.CrtYd", Osmirel::DrawingsBottom}, {"F.Adhes", Osmirel::DrawingsTop},   {"B.Adhes", Osmirel::DrawingsBottom},
-    {"Dwgs.User", Osmirel::DrawingsTop},  {"Cmts.User", Osmirel::DrawingsTop}, {"Eco1.User", Osmirel::DrawingsTop},
-    {"Eco2.User", Osmirel::DrawingsTop},  {"Margin", Osmirel::DrawingsTop},    {"Edge.Cuts", Osmirel::BoardOutline},
+    {"F.Mask", Osmirel::MaskTop},          {"B.Mask", Osmirel::MaskBottom},      {"F.Paste", Osmirel::PasteTop},
+    {"B.Paste", Osmirel::PasteBottom},     {"F.SilkS", Osmirel::SilkTop},        {"B.SilkS", Osmirel::SilkBottom},
+    {"F.Fab", Osmirel::DrawingsTop},       {"B.Fab", Osmirel::DrawingsBottom},   {"F.CrtYd", Osmirel::CourtyardTop},
+    {"B.CrtYd", Osmirel::CourtyardBottom}, {"F.Adhes", Osmirel::AdhesiveTop},    {"B.Adhes", Osmirel::AdhesiveBottom},
+    {"Dwgs.User", Osmirel::UserDrawings},  {"Cmts.User", Osmirel::UserComments}, {"Eco1.User", Osmirel::UserEco1},
+    {"Eco2.User", Osmirel::UserEco2},      {"Margin", Osmirel::Margin},          {"Edge.Cuts", Osmirel::BoardOutline},
 };
 
 struct TLayerStyle
@@ -28,7 +28,7 @@ struct TLayerStyle
 
 /** The layers that every board has besides its copper, for a dark canvas. */
 constexpr TLayerStyle plainLayers[] = {
-    {Osmirel::DrawingsTop, "Drawings top", 0x9aa5b8},
+    {Osmirel::DrawingsTop, "F.Fab", 0x9aa5b8},
     {Osmirel::PackagesTop, "Packages top", 0xe0a080},
     {Osmirel::SilkTop, "F.SilkS", 0xf0ead2},
     {Osmirel::PasteTop, "F.Paste", 0xb8bcc8, false},
@@ -37,10 +37,21 @@ constexpr TLayerStyle plainLayers[] = {
     {Osmirel::PasteBottom, "B.Paste", 0x7f92a8, false},
     {Osmirel::SilkBottom, "B.SilkS", 0xa8b4e6},
     {Osmirel::PackagesBottom, "Packages bottom", 0x80b0e0},
-    {Osmirel::DrawingsBottom, "Drawings bottom", 0x6f7a8e},
+    {Osmirel::DrawingsBottom, "B.Fab", 0x6f7a8e},
     {Osmirel::BoardOutline, "Edge.Cuts", 0xe6d35a},
     {Osmirel::Milling, "Milling", 0xb08a5a},
 };
+
+/** Those that only boards have whose file lists them. */
+constexpr TLayerStyle optionalLayers[] = {
+    {Osmirel::CourtyardTop, "F.CrtYd", 0xc86ec8},   {Osmirel::CourtyardBottom, "B.CrtYd", 0x6ec8c8},
+    {Osmirel::AdhesiveTop, "F.Adhes", 0xa06e8c},    {Osmirel::AdhesiveBottom, "B.Adhes", 0x6e6ea0},
+    {Osmirel::UserDrawings, "Dwgs.User", 0xd2d2d2}, {Osmirel::UserComments, "Cmts.User", 0x7896dc},
+    {Osmirel::UserEco1, "Eco1.User", 0x78b478},     {Osmirel::UserEco2, "Eco2.User", 0xc8c85a},
+    {Osmirel::Margin, "Margin", 0xdc64dc},
+};
+constexpr QRgb userColor = 0xaab4be;
+constexpr int userLayers = Osmirel::User9 - Osmirel::User1 + 1;
 
 /** Colours of the copper layers from CopperTop to CopperBottom. */
 constexpr QRgb copperColors[Osmirel::maxCopperLayers] = {0xd9504c, 0x7cb855, 0xe39a3f, 0x45b9b4,
@@ -82,6 +93,13 @@ int CopperPosition(const QString& name, const TSexpression& row)
     return ordinal;
 }
 
+/** The user's name for a layer, which stands in its row besides the fixed one; empty for none. */
+QString UserName(const TSexpression& row)
+{
+    const std::optional<TSexpression> last = row.FindValue(2);
+    return last && !last->IsWord("hide") ? last->Text() : QString();
+}
+
 /** Tells each layer of its counterpart on the other side. */
 void PairSides(TLayerManager& board)
 {
@@ -101,6 +119,9 @@ TFileLayers::TFileLayers()
 {
     for (const auto& [name, layer] : fixedNames) {
         layers.insert(QString::fromLatin1(name), layer);
+    }
+    for (int i = 0; i < userLayers; ++i) {
+        layers.insert(QStringLiteral("User.%1").arg(i + 1), static_cast<Osmirel::Layer>(Osmirel::User1 + i));
     }
 }
 
@@ -132,7 +153,29 @@ void TFileLayers::Read(const TSexpression& table, TLayerManager& board)
     for (const TLayerStyle& style : plainLayers) {
         board.AddLayer({style.layer, QString::fromLatin1(style.name), QColor(style.color), {}, style.visible});
     }
+    for (const TSexpression row : table) {
+        AddOptional(row, board);
+    }
     PairSides(board);
+}
+
+void TFileLayers::AddOptional(const TSexpression& row, TLayerManager& board)
+{
+    const QString name = row.Value(0).Text();
+    const Osmirel::Layer layer = Find(name);
+    if (UserName(row) == QLatin1String("Milling") && !Osmirel::IsCopper(layer)) {
+        layers.insert(name, Osmirel::Milling);
+        return;
+    }
+    if (layer >= Osmirel::User1 && layer <= Osmirel::User9) {
+        board.AddLayer({layer, name, QColor(userColor), {}});
+        return;
+    }
+    const auto style = std::find_if(std::begin(optionalLayers), std::end(optionalLayers),
+                                    [layer](const TLayerStyle& each) { return each.layer == layer; });
+    if (style != std::end(optionalLayers)) {
+        board.AddLayer({layer, name, QColor(style->color), {}});
+    }
 }
 
 void TFileLayers::AddCopper(const QStringList& names, TLayerManager& board)

@@ -12,7 +12,8 @@ class TFileLayers
 public:
     TFileLayers();
 
-    /** Reads the file's layer table and fills that of the board. Copper layers keep the names that the file uses. */
+    /** Reads the file's layer table and fills that of the board. Copper layers keep the names that the file uses; a
+     * layer that the user calls "Milling" is the milling layer. */
     void Read(const TSexpression& table, TLayerManager& board);
 
     /** The layer of that name; `Osmirel::NoLayer` for one that a board has no place for. */
@@ -22,6 +23,7 @@ public:
     QList<Osmirel::Layer> Resolve(const TSexpression& list) const;
 
 private:
+    void AddOptional(const TSexpression& row, TLayerManager& board);
     void AddCopper(const QStringList& names, TLayerManager& board);
 
     QHash<QString, Osmirel::Layer> layers;

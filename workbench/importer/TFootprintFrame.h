@@ -11,4 +11,5 @@ struct TFootprintFrame
     TGraphicsPackageItem& package;
     qint64 angle = 0; ///< Counterclockwise, in millionths of a degree.
     TPadDefaults padDefaults;
+    TextVariables::TValues textVariables;
 };
