@@ -47,7 +47,7 @@ const QStringList& CommandsWithTestsOfTheirOwn()
         "TCmdNetClass",       "TCmdNetColorPcb",    "TCmdNetPrio",       // commands.netattributes
         "TCmdNetTieBase",     "TCmdNetTieName",     "TCmdNetTieNameVis", // commands.netties
         "TCmdNetTiePcbLayer", "TCmdNetTiePadSz",    "TCmdNetTieWireWidth", "TCmdNetTieSchSymbol",
-        "TCmdOutlineAddNode", "TCmdOutlineDelNode",                                           // commands.quirks
+        "TCmdOutlineAddNode", "TCmdOutlineDelNode",                                           // commands.drawings
         "TCmdPackageRefDes",  "TCmdPackageValue",   "TCmdPkgConnect",                         // commands.packages
         "TCmdPkgDisconnect",  "TCmdPkgSide",        "TCmdWireAddNode",     "TCmdWireDelNode", // commands.nodes
         "TCmdWireLayer", // commands.wirelayer, commands.wirelayer_vias

@@ -1,0 +1,271 @@
+#include "properties/commands/TCmdNet.h"
+#include "tests/host/Network.h"
+#include "tests/support/TestMain.h"
+
+#include <application/TProject.h>
+#include <application/TSchematic.h>
+#include <objects/TGraphicsRatLineItem.h>
+
+#include <QGraphicsView>
+#include <QtTest>
+
+namespace {
+
+/** A project with the nets "A" (priority 1), "B" (2) and "C" (3), each with two pads and a rat line. */
+struct Design
+{
+    Design()
+    {
+        schematic.AddNetClass("Power");
+        schematic.AddNetClass("Signal");
+        Model().AddNet("A", "Power", Qt::red, Qt::green, 1);
+        Model().AddNet("B", "", QColor(), QColor(), 2);
+        Model().AddNet("C", "Default", Qt::blue, Qt::yellow, 3);
+        view.setScene(board.Scene());
+        board.SetView(&view);
+        project.SetBoard(&board);
+        project.SetSchematic(&schematic);
+        double y = 0;
+        for (const char* net : {"A", "B", "C"}) {
+            board.Pad({0, y}, net);
+            board.Pad({100, y}, net);
+            y += 50;
+        }
+    }
+
+    TNetModel& Model() { return *schematic.NetModel(); }
+
+    /** The level of each net, in the model and on its rat line. */
+    QStringList Levels()
+    {
+        QStringList levels;
+        for (TGraphicsItem* item : board.Items()) {
+            if (const auto* rat = dynamic_cast<TGraphicsRatLineItem*>(item)) {
+                levels.append(rat->Net() + ' ' + Model().Priority(rat->Net()) + ' ' + rat->Priority());
+            }
+        }
+        return levels;
+    }
+
+    QGraphicsView view;
+    Test::Network board;
+    TSchematic schematic;
+    TProject project;
+};
+
+} // namespace
+
+class TestNetAttributes : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    // Class.
+
+    void classIsWrittenAndBroughtBack()
+    {
+        Design design;
+        TCmdNetClass command("A", "Signal", &design.project);
+        for (int i = 0; i < 2; ++i) {
+            command.redo();
+            QCOMPARE(design.Model().NetClass("A"), QString("Signal"));
+            QCOMPARE(design.Model().NetClass("C"), QString("Default"));
+            command.undo();
+            QCOMPARE(design.Model().NetClass("A"), QString("Power"));
+        }
+        QCOMPARE(command.id(), -1);
+    }
+
+    void unknownClassChangesNothing()
+    {
+        Design design;
+        TCmdNetClass command("A", "of no schematic", &design.project);
+        command.redo();
+        QCOMPARE(design.Model().NetClass("A"), QString("Power"));
+        command.undo();
+        QCOMPARE(design.Model().NetClass("A"), QString("Power"));
+    }
+
+    // The empty name, which stands for the default class, is none that the schematic knows.
+    void undoCannotTakeAClassAway()
+    {
+        Design design;
+        TCmdNetClass command("B", "Signal", &design.project);
+        command.redo();
+        command.undo();
+        QCOMPARE(design.Model().NetClass("B"), QString("Signal"));
+    }
+
+    void oldClassIsThatOfTheMomentItWasMade()
+    {
+        Design design;
+        TCmdNetClass command("A", "Signal", &design.project);
+        design.Model().SetNetClass("A", "Default");
+        command.redo();
+        command.undo();
+        QCOMPARE(design.Model().NetClass("A"), QString("Power"));
+    }
+
+    void classIsSetDirectly()
+    {
+        Design design;
+        TCmdNetClass command("A", "Signal", &design.project);
+        command.SetClass("C", "Power");
+        QCOMPARE(design.Model().NetClass("C"), QString("Power"));
+        command.SetClass("C", "?");
+        QCOMPARE(design.Model().NetClass("C"), QString("Power"));
+        QCOMPARE(design.Model().NetClass("A"), QString("Power"));
+    }
+
+    // Colour.
+
+    void colorIsWrittenToTheModelAndTheItemsOfTheNet()
+    {
+        Design design;
+        auto* wire = design.board.Wire({0, 0}, {20, 0}, "A");
+        auto* pour = design.board.Pour({0, 0, 9, 9}, "A");
+        auto* other = design.board.Wire({0, 200}, {20, 200}, "B");
+        other->SetAltColor(Qt::cyan);
+        TCmdNetColorPcb command("A", Qt::magenta, &design.project);
+        for (int i = 0; i < 2; ++i) {
+            command.redo();
+            QCOMPARE(design.Model().ColorPcb(0), QColor(Qt::magenta));
+            command.undo();
+            QCOMPARE(design.Model().ColorPcb(0), QColor(Qt::green));
+        }
+        command.redo();
+        int colored = 0;
+        for (const TGraphicsItem* item : design.board.Items()) {
+            QCOMPARE(item->AltColor() == QColor(Qt::magenta), item->Net() == "A");
+            colored += item->Net() == "A" ? 1 : 0;
+        }
+        QVERIFY(colored >= 5); // pads, wire, pour, rat line
+        QCOMPARE(other->AltColor(), QColor(Qt::cyan));
+        QCOMPARE(design.Model().ColorSch(0), QColor(Qt::red));
+        command.undo();
+        QCOMPARE(wire->AltColor(), QColor(Qt::green));
+        QCOMPARE(pour->AltColor(), QColor(Qt::green));
+        QCOMPARE(command.id(), -1);
+    }
+
+    // A net has one colour: undo gives it to every item of the net, whatever each had.
+    void undoGivesAllItemsTheColorOfTheNet()
+    {
+        Design design;
+        auto* wire = design.board.Wire({0, 0}, {20, 0}, "B");
+        wire->SetAltColor(Qt::cyan);
+        TCmdNetColorPcb command("B", Qt::magenta, &design.project);
+        command.redo();
+        command.undo();
+        QVERIFY(!wire->AltColor().isValid());
+    }
+
+    void colorIsTakenAway()
+    {
+        Design design;
+        auto* wire = design.board.Wire({0, 0}, {20, 0}, "A");
+        TCmdNetColorPcb command("A", QColor(), &design.project);
+        command.redo();
+        QVERIFY(!design.Model().ColorPcb(0).isValid());
+        QVERIFY(!wire->AltColor().isValid());
+        command.undo();
+        QCOMPARE(wire->AltColor(), QColor(Qt::green));
+    }
+
+    void colorWithoutASchematicOrAView()
+    {
+        Design design;
+        auto* wire = design.board.Wire({0, 0}, {20, 0}, "A");
+        TCmdNetColorPcb withoutView("A", Qt::magenta, &design.project);
+        design.board.SetView(nullptr);
+        withoutView.redo();
+        QCOMPARE(design.Model().ColorPcb(0), QColor(Qt::magenta));
+        QVERIFY(!wire->AltColor().isValid());
+
+        design.board.SetView(&design.view);
+        design.project.SetSchematic(nullptr);
+        TCmdNetColorPcb withoutSchematic("A", Qt::cyan, &design.project);
+        withoutSchematic.redo();
+        withoutSchematic.undo();
+        QVERIFY(!wire->AltColor().isValid());
+        QCOMPARE(design.Model().ColorPcb(0), QColor(Qt::magenta));
+    }
+
+    // Priority.
+
+    void levelIsWrittenToTheModelAndTheRatLines_data()
+    {
+        QTest::addColumn<QString>("level");
+        QTest::newRow("a digit") << QString("7");
+        QTest::newRow("the word for none") << QString("Default");
+    }
+    void levelIsWrittenToTheModelAndTheRatLines()
+    {
+        QFETCH(QString, level);
+        Design design;
+        const QStringList before = design.Levels();
+        QCOMPARE(before, QStringList({"A 1 1", "B 2 2", "C 3 3"}));
+        TCmdNetPrio command({"C", "A"}, level, &design.project);
+        for (int i = 0; i < 2; ++i) {
+            command.redo();
+            QCOMPARE(design.Levels(), QStringList({"A " + level + ' ' + level, "B 2 2", "C " + level + ' ' + level}));
+            command.undo();
+            QCOMPARE(design.Levels(), before); // each net its own
+        }
+        QCOMPARE(command.id(), -1);
+    }
+
+    void ratLinesOfAllNetsAreBroughtUpToDate()
+    {
+        Design design;
+        design.Levels(); // works out the lines
+        design.Model().SetPriority("B", "9");
+        TCmdNetPrio command({"A"}, "4", &design.project);
+        command.redo();
+        QCOMPARE(design.Levels(), QStringList({"A 4 4", "B 9 9", "C 3 3"}));
+        design.Model().SetPriority("B", "8");
+        command.undo();
+        QCOMPARE(design.Levels(), QStringList({"A 1 1", "B 8 8", "C 3 3"}));
+    }
+
+    void netsThatAreUnknownOrListedTwice()
+    {
+        Design design;
+        TCmdNetPrio command({"A", "?", "A", ""}, "5", &design.project);
+        command.redo();
+        QCOMPARE(design.Levels(), QStringList({"A 5 5", "B 2 2", "C 3 3"}));
+        command.undo();
+        QCOMPARE(design.Levels(), QStringList({"A 1 1", "B 2 2", "C 3 3"}));
+    }
+
+    void levelsWithoutABoard()
+    {
+        Design design;
+        design.project.SetBoard(nullptr);
+        TCmdNetPrio command({"A"}, "5", &design.project);
+        command.redo();
+        QCOMPARE(design.Model().Priority("A"), QString("5"));
+        command.undo();
+        QCOMPARE(design.Model().Priority("A"), QString("1"));
+    }
+
+    void withoutAProjectNothingHappens()
+    {
+        Design design;
+        design.project.SetSchematic(nullptr);
+        for (TProject* project : {static_cast<TProject*>(nullptr), &design.project}) {
+            TCmdNetClass ofClass("A", "Signal", project);
+            TCmdNetColorPcb ofColor("A", Qt::magenta, project);
+            TCmdNetPrio ofLevel({"A"}, "5", project);
+            for (TUndoCommand* command : std::initializer_list<TUndoCommand*>{&ofClass, &ofColor, &ofLevel}) {
+                command->redo();
+                command->undo();
+            }
+        }
+        QCOMPARE(design.Model().NetClass("A"), QString("Power"));
+        QCOMPARE(design.Model().Priority("A"), QString("1"));
+    }
+};
+
+PROPERTIES_TEST_MAIN(TestNetAttributes)
+#include "tst_netattributes.moc"
