@@ -240,6 +240,7 @@ private slots:
         QTest::newRow("from the bottom") << 75 << 68;
         QTest::newRow("from a layer without a pair") << 69 << 0;
         QTest::newRow("from a layer that the board lacks") << 72 << 0;
+        QTest::newRow("from a layer whose pair the board lacks") << 70 << 0;
     }
 
     void keyChangesTheSide()
@@ -248,6 +249,7 @@ private slots:
         QFETCH(int, to);
         for (const bool bypass : {false, true}) {
             WireProject design;
+            design.board.LayerManager()->AddLayer({Osmirel::Copper3, "Inner 2", Qt::red, "of no board"});
             Item* wire = design.AddWire("GND", static_cast<Osmirel::Layer>(from));
             wire->SetTFlag(TGraphicsItem::UndoBypass, bypass);
             Set set({wire}, &design.project);
