@@ -34,6 +34,8 @@
 #include <objects/TGraphicsPourItem.h>
 #include <objects/TGraphicsWireItem.h>
 
+#include <QApplication>
+
 #include <numeric>
 
 namespace {
@@ -285,6 +287,29 @@ private slots:
         QVERIFY(sets > 1);
         QCOMPARE(board.Refreshes(), refreshes);
         QCOMPARE(repaints.Take(), QRectF());
+    }
+
+    void takesAllItsWidgetsAlong_data() { leavesTheItemsAlone_data(); }
+
+    /** Rows that are made and not shown, too. */
+    void takesAllItsWidgetsAlong()
+    {
+        QFETCH(MakeSet, makeSet);
+        QFETCH(bool, bypass);
+        WatchfulBoard board;
+        Test::PanelWindow place;
+        place.Show(nullptr);
+        board.SetBypass(bypass);
+        const int before = QApplication::allWidgets().size();
+        delete makeSet(board.Items(), board);
+        Test::Settle();
+        QCOMPARE(QApplication::allWidgets().size(), before);
+
+        place.Show(makeSet(board.Items(), board));
+        QVERIFY(QApplication::allWidgets().size() > before);
+        place.Show(nullptr);
+        Test::Settle();
+        QCOMPARE(QApplication::allWidgets().size(), before);
     }
 
     void readsTheItemsOnce_data() { leavesTheItemsAlone_data(); }
