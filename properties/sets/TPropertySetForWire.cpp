@@ -187,8 +187,10 @@ void TPropertySetForWire::KeyPressEvent(QKeyEvent* event)
     } else if (key == Qt::Key_O && layer && wires.first()->Workspace()) {
         const TLayerManager& layers = wires.first()->Workspace()->Layers();
         const TLayer* record = layers.Layer(layer->CurrentLayer());
-        if (record && !record->pairedLayer.isEmpty()) {
-            SetLayer(layers.LayerId(record->pairedLayer));
+        const bool hasPair = record && !record->pairedLayer.isEmpty();
+        const Osmirel::Layer paired = hasPair ? layers.LayerId(record->pairedLayer) : Osmirel::NoLayer;
+        if (paired != Osmirel::NoLayer) {
+            SetLayer(paired);
         }
     }
 }

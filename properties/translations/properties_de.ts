@@ -99,6 +99,148 @@
     </message>
 </context>
 <context>
+    <name>TPropertySetForKeepout</name>
+    <message>
+        <source>Keepout polygons</source>
+        <translation>Sperrflächen</translation>
+    </message>
+</context>
+<context>
+    <name>TPropertySetForMilling</name>
+    <message>
+        <source>Milling</source>
+        <translation>Fräsung</translation>
+    </message>
+    <message>
+        <source>Line width:</source>
+        <translation>Linienbreite:</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+</context>
+<context>
+    <name>TPropertySetForNetTiePcb</name>
+    <message>
+        <source>Net Tie</source>
+        <translation>Netzbrücke</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Pad size:</source>
+        <translation>Padgröße:</translation>
+    </message>
+    <message>
+        <source>Wire width:</source>
+        <translation>Leiterbreite:</translation>
+    </message>
+    <message>
+        <source>Layer:</source>
+        <translation>Lage:</translation>
+    </message>
+    <message>
+        <source>Id:</source>
+        <translation>Id:</translation>
+    </message>
+</context>
+<context>
+    <name>TPropertySetForNetTieSch</name>
+    <message>
+        <source>Net Tie</source>
+        <translation>Netzbrücke</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Symbol:</source>
+        <translation>Symbol:</translation>
+    </message>
+    <message>
+        <source>Symbol 1</source>
+        <translation>Symbol 1</translation>
+    </message>
+    <message>
+        <source>Symbol 2</source>
+        <translation>Symbol 2</translation>
+    </message>
+    <message>
+        <source>Symbol 3</source>
+        <translation>Symbol 3</translation>
+    </message>
+    <message>
+        <source>Id:</source>
+        <translation>Id:</translation>
+    </message>
+</context>
+<context>
+    <name>TPropertySetForOutline</name>
+    <message>
+        <source>Outline</source>
+        <translation>Umriss</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Größe:</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>Line length:</source>
+        <translation>Linienlänge:</translation>
+    </message>
+</context>
+<context>
+    <name>TPropertySetForPackage</name>
+    <message>
+        <source>Package</source>
+        <translation>Gehäuse</translation>
+    </message>
+    <message>
+        <source>Packages</source>
+        <translation>Gehäuse</translation>
+    </message>
+    <message>
+        <source>RefDes:</source>
+        <translation>Bezeichner:</translation>
+    </message>
+    <message>
+        <source>Value:</source>
+        <translation>Wert:</translation>
+    </message>
+    <message>
+        <source>Package:</source>
+        <translation>Gehäuse:</translation>
+    </message>
+    <message>
+        <source>Id:</source>
+        <translation>Id:</translation>
+    </message>
+    <message>
+        <source>Lock:</source>
+        <translation>Sperren:</translation>
+    </message>
+    <message>
+        <source>RefDes</source>
+        <translation>Bezeichner</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Side:</source>
+        <translation>Seite:</translation>
+    </message>
+</context>
+<context>
     <name>TPropertySetForPad</name>
     <message>
         <source>Pad</source>
@@ -186,6 +328,255 @@
     </message>
 </context>
 <context>
+    <name>TPropertySetForPour</name>
+    <message>
+        <source>Pour</source>
+        <translation>Fläche</translation>
+    </message>
+    <message>
+        <source>Pours</source>
+        <translation>Flächen</translation>
+    </message>
+    <message>
+        <source>Fill type:</source>
+        <translation>Füllung:</translation>
+    </message>
+    <message>
+        <source>No fill</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>Voll</translation>
+    </message>
+    <message>
+        <source>H-Lines</source>
+        <translation>Waagerechte Linien</translation>
+    </message>
+    <message>
+        <source>V-Lines</source>
+        <translation>Senkrechte Linien</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>Gitter</translation>
+    </message>
+    <message>
+        <source>Line width:</source>
+        <translation>Linienbreite:</translation>
+    </message>
+    <message>
+        <source>Minimum area:</source>
+        <translation>Mindestfläche:</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>Only connected:</source>
+        <translation>Nur verbundene:</translation>
+    </message>
+    <message>
+        <source>Priority:</source>
+        <translation>Vorrang:</translation>
+    </message>
+    <message>
+        <source>Clearance to etch:</source>
+        <translation>Abstand zu Kupfer:</translation>
+    </message>
+    <message>
+        <source>Clearance to border:</source>
+        <translation>Abstand zum Rand:</translation>
+    </message>
+    <message>
+        <source>Clearance to pour:</source>
+        <translation>Abstand zu Flächen:</translation>
+    </message>
+    <message>
+        <source>Thermal enable:</source>
+        <translation>Wärmefallen:</translation>
+    </message>
+    <message>
+        <source>Thermal line:</source>
+        <translation>Stegbreite:</translation>
+    </message>
+    <message>
+        <source>Thermal isolation:</source>
+        <translation>Wärmefallenabstand:</translation>
+    </message>
+    <message>
+        <source>Layer:</source>
+        <translation>Lage:</translation>
+    </message>
+    <message>
+        <source>Net:</source>
+        <translation>Netz:</translation>
+    </message>
+    <message>
+        <source>Alpha</source>
+        <translation>Deckkraft</translation>
+    </message>
+</context>
+<context>
+    <name>TPropertySetForPrimitives</name>
+    <message>
+        <source>Primitive</source>
+        <translation>Zeichnung</translation>
+    </message>
+    <message>
+        <source>Primitives</source>
+        <translation>Zeichnungen</translation>
+    </message>
+    <message>
+        <source>Line width:</source>
+        <translation>Linienbreite:</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>Line style:</source>
+        <translation>Linienart:</translation>
+    </message>
+    <message>
+        <source>Fill style:</source>
+        <translation>Füllung:</translation>
+    </message>
+    <message>
+        <source>No fill</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>Voll</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>Horiz.</source>
+        <translation>Waagerecht</translation>
+    </message>
+    <message>
+        <source>Vert.</source>
+        <translation>Senkrecht</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>Gitter</translation>
+    </message>
+    <message>
+        <source>Diag. Fwd</source>
+        <translation>Schräg fallend</translation>
+    </message>
+    <message>
+        <source>Diag. Bck</source>
+        <translation>Schräg steigend</translation>
+    </message>
+    <message>
+        <source>Diag. Cross</source>
+        <translation>Schräges Gitter</translation>
+    </message>
+    <message>
+        <source>Layer:</source>
+        <translation>Lage:</translation>
+    </message>
+    <message>
+        <source>Color:</source>
+        <translation>Farbe:</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Größe:</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>Länge:</translation>
+    </message>
+</context>
+<context>
+    <name>TPropertySetForText</name>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Type:</source>
+        <translation>Typ:</translation>
+    </message>
+    <message>
+        <source>Vector</source>
+        <translation>Vektor</translation>
+    </message>
+    <message>
+        <source>True Type</source>
+        <translation>True Type</translation>
+    </message>
+    <message>
+        <source>Font name:</source>
+        <translation>Schriftart:</translation>
+    </message>
+    <message>
+        <source>Font size:</source>
+        <translation>Schriftgröße:</translation>
+    </message>
+    <message>
+        <source>Bold:</source>
+        <translation>Fett:</translation>
+    </message>
+    <message>
+        <source>Italic:</source>
+        <translation>Kursiv:</translation>
+    </message>
+    <message>
+        <source>Color:</source>
+        <translation>Farbe:</translation>
+    </message>
+    <message>
+        <source>Line width:</source>
+        <translation>Linienbreite:</translation>
+    </message>
+    <message>
+        <source>Alignment:</source>
+        <translation>Ausrichtung:</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Angle:</source>
+        <translation>Winkel:</translation>
+    </message>
+    <message>
+        <source>Mirror:</source>
+        <translation>Spiegeln:</translation>
+    </message>
+    <message>
+        <source>Hor.</source>
+        <translation>Hor.</translation>
+    </message>
+    <message>
+        <source>Ver.</source>
+        <translation>Ver.</translation>
+    </message>
+    <message>
+        <source>Layer:</source>
+        <translation>Lage:</translation>
+    </message>
+</context>
+<context>
     <name>TPropertySetForVia</name>
     <message>
         <source>Vias</source>
@@ -222,6 +613,37 @@
     <message>
         <source>Mask:</source>
         <translation>Lötstopp:</translation>
+    </message>
+</context>
+<context>
+    <name>TPropertySetForWire</name>
+    <message>
+        <source>Wire</source>
+        <translation>Leiterbahn</translation>
+    </message>
+    <message>
+        <source>Width:</source>
+        <translation>Breite:</translation>
+    </message>
+    <message>
+        <source>Layer:</source>
+        <translation>Lage:</translation>
+    </message>
+    <message>
+        <source>Comp mode:</source>
+        <translation>Mischmodus:</translation>
+    </message>
+    <message>
+        <source>Net:</source>
+        <translation>Netz:</translation>
+    </message>
+    <message>
+        <source>Color:</source>
+        <translation>Farbe:</translation>
+    </message>
+    <message>
+        <source>Net class:</source>
+        <translation>Netzklasse:</translation>
     </message>
 </context>
 <context>

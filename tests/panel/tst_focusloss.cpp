@@ -1,3 +1,4 @@
+#include "tests/panel/KindsBoard.h"
 #include "tests/support/Observers.h"
 #include "tests/support/PanelFixture.h"
 #include "tests/support/TestBoard.h"
@@ -8,20 +9,19 @@
 #include "properties/rows/TPropertyFloatSpin.h"
 #include "properties/rows/TPropertySize.h"
 #include "properties/rows/TPropertyText.h"
-#include "properties/sets/TPropertySetForHole.h"
-#include "properties/sets/TPropertySetForPad.h"
-#include "properties/sets/TPropertySetForVia.h"
 
 #include <workspace/TDoubleSpinBox.h>
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QSpinBox>
 
 #include <memory>
 
 namespace {
 
-void TypeNumber(QDoubleSpinBox* box, bool tracked)
+template <class SpinBox>
+void TypeNumber(SpinBox* box, bool tracked)
 {
     box->setKeyboardTracking(tracked);
     box->setFocus();
@@ -40,50 +40,56 @@ void OpenPopup(QComboBox* box)
 struct HalfEdit
 {
     const char* name;
-    TPropertySet* (*makeSet)(Test::TestBoard& board);
+    TPropertySet* (*makeSet)(Test::KindsBoard& board);
     void (*edit)(TPropertySet* set);
 };
 
-TPropertySet* MakeViaSet(Test::TestBoard& board)
-{
-    return new TPropertySetForVia(board.Items(), board.ViaGroups());
-}
-
-TPropertySet* MakePadSet(Test::TestBoard& board)
-{
-    return new TPropertySetForPad(board.Items(), board.Sides());
-}
-
-TPropertySet* MakeHoleSet(Test::TestBoard& board)
-{
-    return new TPropertySetForHole(board.Items());
-}
-
 const HalfEdit halfEdits[] = {
-    {"half-typed text", MakePadSet, [](TPropertySet* set) { Test::TypeHalfText(Test::FindRow(set, "Number:"), "X"); }},
-    {"emptied text", MakePadSet,
+    {"half-typed text", Test::MakePadSet,
+     [](TPropertySet* set) { Test::TypeHalfText(Test::FindRow(set, "Number:"), "X"); }},
+    {"emptied text", Test::MakePadSet,
      [](TPropertySet* set) {
          auto* row = Test::RowOf<TPropertyText>(set, "Number:");
          Test::TypeHalfText(row, "X");
          QTest::keyClick(row->line->edit, Qt::Key_Backspace);
      }},
-    {"number that is reported when finished", MakeViaSet,
+    {"number that is reported when finished", Test::MakeViaSet,
      [](TPropertySet* set) { TypeNumber(Test::RowOf<TPropertyFloatSpin>(set, "Diameter:")->spin, false); }},
-    {"number that is reported as it is typed", MakeViaSet,
+    {"number that is reported as it is typed", Test::MakeViaSet,
      [](TPropertySet* set) { TypeNumber(Test::RowOf<TPropertyFloatSpin>(set, "Drill:")->spin, true); }},
-    {"number that was deleted", MakeHoleSet,
+    {"number that was deleted", Test::MakeHoleSet,
      [](TPropertySet* set) {
          auto* box = Test::RowOf<TPropertyFloatSpin>(set, "Diameter:")->spin;
          TypeNumber(box, false);
          QTest::keyClick(box, Qt::Key_Backspace);
          QTest::keyClick(box, Qt::Key_Backspace);
      }},
-    {"width that a height follows", MakePadSet,
+    {"width that a height follows", Test::MakePadSet,
      [](TPropertySet* set) { TypeNumber(Test::RowOf<TPropertySize>(set, "Size (W x H):")->width, false); }},
-    {"list that is open", MakeViaSet,
+    {"list that is open", Test::MakeViaSet,
      [](TPropertySet* set) { OpenPopup(Test::RowOf<TPropertyEnum>(set, "Thermal:")->Box()); }},
-    {"list that is open and shows a row's siblings", MakePadSet,
+    {"list that is open and shows a row's siblings", Test::MakePadSet,
      [](TPropertySet* set) { OpenPopup(Test::RowOf<TPropertyEnum>(set, "Type:")->Box()); }},
+    {"net of a pour", Test::MakePourSet,
+     [](TPropertySet* set) { Test::TypeHalfText(Test::FindRow(set, "Net:"), "X"); }},
+    {"priority of a pour", Test::MakePourSet,
+     [](TPropertySet* set) { TypeNumber(qobject_cast<QSpinBox*>(Test::FindRow(set, "Priority:")->Editor()), false); }},
+    {"filling of a pour", Test::MakePourSet,
+     [](TPropertySet* set) { OpenPopup(Test::RowOf<TPropertyEnum>(set, "Fill type:")->Box()); }},
+    {"width of a wire", Test::MakeWireSet,
+     [](TPropertySet* set) { TypeNumber(Test::RowOf<TPropertyFloatSpin>(set, "Width:")->spin, false); }},
+    {"name of a net tie", Test::MakeNetTieSet,
+     [](TPropertySet* set) { Test::TypeHalfText(Test::FindRow(set, "Name:"), "X"); }},
+    {"font of a text", Test::MakeTextSet,
+     [](TPropertySet* set) { OpenPopup(Test::RowOf<TPropertyEnum>(set, "Font name:")->Box()); }},
+    {"line width of a text, written at once", Test::MakeTextSet,
+     [](TPropertySet* set) { TypeNumber(Test::RowOf<TPropertyFloatSpin>(set, "Line width:")->spin, false); }},
+    {"line width of a drawing", Test::MakeDrawingSet,
+     [](TPropertySet* set) { TypeNumber(Test::RowOf<TPropertyFloatSpin>(set, "Line width:")->spin, false); }},
+    {"width of a milling path", Test::MakeMillingSet,
+     [](TPropertySet* set) { TypeNumber(Test::RowOf<TPropertyFloatSpin>(set, "Line width:")->spin, false); }},
+    {"side of a package", Test::MakePackageSet,
+     [](TPropertySet* set) { OpenPopup(qobject_cast<QComboBox*>(Test::FindRow(set, "Side:")->Editor())); }},
 };
 
 /** What takes the editor away. */
@@ -91,23 +97,23 @@ struct Removal
 {
     const char* name;
     bool keepsItems;
-    void (*remove)(Test::PanelWindow& place, Test::TestBoard& board);
+    void (*remove)(Test::PanelWindow& place, Test::KindsBoard& board);
 };
 
 const Removal removals[] = {
     {"another set", true,
-     [](Test::PanelWindow& place, Test::TestBoard& board) { place.panel->SetPropertySet(MakeHoleSet(board)); }},
-    {"no set", true, [](Test::PanelWindow& place, Test::TestBoard&) { place.panel->SetPropertySet(nullptr); }},
-    {"set deleted", true, [](Test::PanelWindow& place, Test::TestBoard&) { delete place.panel->PropertySet(); }},
-    {"panel deleted", true, [](Test::PanelWindow& place, Test::TestBoard&) { delete place.panel; }},
-    {"tree deleted", true, [](Test::PanelWindow& place, Test::TestBoard&) { delete place.Tree(); }},
+     [](Test::PanelWindow& place, Test::KindsBoard& board) { place.panel->SetPropertySet(Test::MakeHoleSet(board)); }},
+    {"no set", true, [](Test::PanelWindow& place, Test::KindsBoard&) { place.panel->SetPropertySet(nullptr); }},
+    {"set deleted", true, [](Test::PanelWindow& place, Test::KindsBoard&) { delete place.panel->PropertySet(); }},
+    {"panel deleted", true, [](Test::PanelWindow& place, Test::KindsBoard&) { delete place.panel; }},
+    {"tree deleted", true, [](Test::PanelWindow& place, Test::KindsBoard&) { delete place.Tree(); }},
     {"items gone, then no set", false,
-     [](Test::PanelWindow& place, Test::TestBoard& board) {
+     [](Test::PanelWindow& place, Test::KindsBoard& board) {
          board.Scene()->clear();
          place.panel->SetPropertySet(nullptr);
      }},
     {"items gone, then panel deleted", false,
-     [](Test::PanelWindow& place, Test::TestBoard& board) {
+     [](Test::PanelWindow& place, Test::KindsBoard& board) {
          board.Scene()->clear();
          delete place.panel;
      }},
@@ -144,11 +150,7 @@ private slots:
         QFETCH(const HalfEdit*, halfEdit);
         QFETCH(const Removal*, removal);
         QFETCH(bool, bypass);
-        Test::TestBoard board;
-        board.AddVia();
-        board.AddVia(1.2);
-        board.AddSurfacePad()->SetPadShape(TGraphicsPadItem::ShapeObround);
-        board.AddHole();
+        Test::KindsBoard board;
         for (TGraphicsItem* item : board.Items()) {
             item->SetTFlag(TGraphicsItem::UndoBypass, bypass);
         }
@@ -175,10 +177,9 @@ private slots:
 
     void anUnfinishedEditIsReallyPending()
     {
-        Test::TestBoard board;
-        board.AddVia();
+        Test::KindsBoard board;
         Test::PanelWindow place;
-        TPropertySet* set = MakeViaSet(board);
+        TPropertySet* set = Test::MakeViaSet(board);
         place.Show(set);
         const Test::CommandLog log(*set);
         TypeNumber(Test::RowOf<TPropertyFloatSpin>(set, "Diameter:")->spin, false);

@@ -1,3 +1,4 @@
+#include "tests/panel/KindsBoard.h"
 #include "tests/support/Observers.h"
 #include "tests/support/PanelFixture.h"
 #include "tests/support/PlainSet.h"
@@ -18,9 +19,6 @@
 #include "properties/rows/TPropertyPenStyle.h"
 #include "properties/rows/TPropertySize.h"
 #include "properties/rows/TPropertyText.h"
-#include "properties/sets/TPropertySetForHole.h"
-#include "properties/sets/TPropertySetForPad.h"
-#include "properties/sets/TPropertySetForVia.h"
 
 #include <workspace/TDoubleSpinBox.h>
 
@@ -31,26 +29,11 @@
 
 namespace {
 
-TPropertySet* MakeViaSet(Test::TestBoard& board)
-{
-    return new TPropertySetForVia(board.Items(), board.ViaGroups());
-}
-
-TPropertySet* MakePadSet(Test::TestBoard& board)
-{
-    return new TPropertySetForPad(board.Items(), board.Sides());
-}
-
-TPropertySet* MakeHoleSet(Test::TestBoard& board)
-{
-    return new TPropertySetForHole(board.Items());
-}
-
 /** A user's edit of one row of one set, which makes at least one command. */
 struct UserEdit
 {
     const char* name;
-    TPropertySet* (*makeSet)(Test::TestBoard& board);
+    Test::MakeKindsSet makeSet;
     const char* label;
     const char* signature; ///< of the row's signal that reports the edit first
     void (*edit)(Test::PanelWindow& place, TAbstractProperty* row);
@@ -151,27 +134,63 @@ void StepDoubledWidth(Test::PanelWindow& place, TAbstractProperty* row)
     StepWidth(place, row);
 }
 
+void StepWholeNumber(Test::PanelWindow&, TAbstractProperty* row)
+{
+    QTest::keyClick(row->Editor(), Qt::Key_Up);
+}
+
+void ClickBox(Test::PanelWindow&, TAbstractProperty* row)
+{
+    QCheckBox* box = row->Editor()->findChildren<QCheckBox*>().value(0);
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+}
+
+void ClickShowBox(Test::PanelWindow&, TAbstractProperty* row)
+{
+    QCheckBox* box = As<TPropertyText>(row)->visible;
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+}
+
 const UserEdit userEdits[] = {
-    {"number, key", MakeViaSet, "Diameter:", "sigValueChanged(double)", StepSpin},
-    {"number, arrow", MakeViaSet, "Drill:", "sigValueChanged(double)", ClickSpinArrow},
-    {"number, typed", MakeViaSet, "Mask:", "sigValueChanged(double)", TypeIntoSpin},
-    {"enable box, mouse", MakeViaSet, "Mask:", "sigCheckChanged(bool)", ClickCheck},
-    {"choice by value", MakeViaSet, "Thermal:", "sigEnumChanged(int)", NextItem},
-    {"choice by text", MakeViaSet, "Drill pair:", "sigTextChanged(QString)", NextItem},
-    {"choice from the open list", MakeViaSet, "Thermal:", "sigEnumChanged(int)", ChooseFromOpenList},
-    {"text, Return", MakePadSet, "Number:", "sigTextChanged(QString)", TypeAndReturn},
-    {"text, Return given to the line", MakePadSet, "Number:", "sigTextChanged(QString)", TypeAndReturnToTheLine},
-    {"text, focus lost", MakePadSet, "Number:", "sigTextChanged(QString)", TypeAndLeave},
-    {"text, mouse press", MakePadSet, "Number:", "sigTextChanged(QString)", TypeAndPress},
-    {"width with a doubled, locked height", MakePadSet, "Size (W x H):", "sigWidthChanged(double)", StepDoubledWidth},
-    {"following height", MakePadSet, "Size (W x H):", "sigHeightChanged(double)", StepDoubledWidth, 2},
-    {"type, which shows and hides rows", MakePadSet, "Type:", "sigEnumChanged(int)", NextItem},
-    {"type from the open list", MakePadSet, "Type:", "sigEnumChanged(int)", ChooseFromOpenList},
-    {"shape, which makes the height follow", MakePadSet, "Shape:", "sigEnumChanged(int)", ChooseFromOpenList, 3},
-    {"layer", MakePadSet, "Side:", "sigLayerChanged(Osmirel::Layer)", NextItem},
-    {"mask of a pad, key", MakePadSet, "Mask:", "sigCheckChanged(bool)", ToggleCheckByKey},
-    {"paste of a pad, mouse", MakePadSet, "Paste:", "sigCheckChanged(bool)", ClickCheck},
-    {"hole", MakeHoleSet, "Diameter:", "sigValueChanged(double)", StepSpin},
+    {"number, key", Test::MakeViaSet, "Diameter:", "sigValueChanged(double)", StepSpin},
+    {"number, arrow", Test::MakeViaSet, "Drill:", "sigValueChanged(double)", ClickSpinArrow},
+    {"number, typed", Test::MakeViaSet, "Mask:", "sigValueChanged(double)", TypeIntoSpin},
+    {"enable box, mouse", Test::MakeViaSet, "Mask:", "sigCheckChanged(bool)", ClickCheck},
+    {"choice by value", Test::MakeViaSet, "Thermal:", "sigEnumChanged(int)", NextItem},
+    {"choice by text", Test::MakeViaSet, "Drill pair:", "sigTextChanged(QString)", NextItem},
+    {"choice from the open list", Test::MakeViaSet, "Thermal:", "sigEnumChanged(int)", ChooseFromOpenList},
+    {"text, Return", Test::MakePadSet, "Number:", "sigTextChanged(QString)", TypeAndReturn},
+    {"text, Return given to the line", Test::MakePadSet, "Number:", "sigTextChanged(QString)", TypeAndReturnToTheLine},
+    {"text, focus lost", Test::MakePadSet, "Number:", "sigTextChanged(QString)", TypeAndLeave},
+    {"text, mouse press", Test::MakePadSet, "Number:", "sigTextChanged(QString)", TypeAndPress},
+    {"width with a doubled, locked height", Test::MakePadSet, "Size (W x H):", "sigWidthChanged(double)",
+     StepDoubledWidth},
+    {"following height", Test::MakePadSet, "Size (W x H):", "sigHeightChanged(double)", StepDoubledWidth, 2},
+    {"type, which shows and hides rows", Test::MakePadSet, "Type:", "sigEnumChanged(int)", NextItem},
+    {"type from the open list", Test::MakePadSet, "Type:", "sigEnumChanged(int)", ChooseFromOpenList},
+    {"shape, which makes the height follow", Test::MakePadSet, "Shape:", "sigEnumChanged(int)", ChooseFromOpenList, 3},
+    {"layer", Test::MakePadSet, "Side:", "sigLayerChanged(Osmirel::Layer)", NextItem},
+    {"mask of a pad, key", Test::MakePadSet, "Mask:", "sigCheckChanged(bool)", ToggleCheckByKey},
+    {"paste of a pad, mouse", Test::MakePadSet, "Paste:", "sigCheckChanged(bool)", ClickCheck},
+    {"hole", Test::MakeHoleSet, "Diameter:", "sigValueChanged(double)", StepSpin},
+    {"net of a pour", Test::MakePourSet, "Net:", "sigTextChanged(QString)", TypeAndReturn},
+    {"priority of a pour", Test::MakePourSet, "Priority:", "sigValueChanged(int)", StepWholeNumber},
+    {"filling of a pour, with two slots", Test::MakePourSet, "Fill type:", "sigEnumChanged(int)", ChooseFromOpenList},
+    {"thermal of a pour", Test::MakePourSet, "Thermal enable:", "sigStateChanged(bool)", ClickBox},
+    {"width of a wire", Test::MakeWireSet, "Width:", "sigValueChanged(double)", StepSpin},
+    {"layer of a wire", Test::MakeWireSet, "Layer:", "sigLayerChanged(Osmirel::Layer)", NextItem},
+    {"side of a package", Test::MakePackageSet, "Side:", "sigLayerChanged(Osmirel::Layer)", NextItem},
+    {"name of a net tie", Test::MakeNetTieSet, "Name:", "sigTextChanged(QString)", TypeAndReturn},
+    {"show box of a net tie", Test::MakeNetTieSet, "Name:", "sigVisibleChanged(bool)", ClickShowBox},
+    {"pad size of a net tie", Test::MakeNetTieSet, "Pad size:", "sigValueChanged(double)", StepSpin},
+    {"font of a text", Test::MakeTextSet, "Font name:", "sigTextChanged(QString)", ChooseFromOpenList},
+    {"bold of a text", Test::MakeTextSet, "Bold:", "sigStateChanged(bool)", ClickBox},
+    {"mirror of a text", Test::MakeTextSet, "Mirror:", "sigChecked1(bool)", ClickBox},
+    {"colour of a text", Test::MakeTextSet, "Color:", "sigColorChanged(QColor)", NextItem},
+    {"line style of a drawing", Test::MakeDrawingSet, "Line style:", "sigPenStyleChanged(Qt::PenStyle)", NextItem},
+    {"filling of a drawing", Test::MakeDrawingSet, "Fill style:", "sigEnumChanged(int)", ChooseFromOpenList},
+    {"width of a milling path", Test::MakeMillingSet, "Line width:", "sigValueChanged(double)", StepSpin},
+    {"layer of a keepout", Test::MakeKeepoutSet, "Inner 2", "sigStateChanged(bool)", ClickBox},
 };
 
 enum class Moment { InCommand, InRowSignal };
@@ -183,18 +202,7 @@ class HastyApplication : public QObject
     Q_OBJECT
 
 public:
-    HastyApplication(const UserEdit& edit, Next nextShown) : userEdit(edit), next(nextShown)
-    {
-        board.AddVia();
-        board.AddVia(1.2);
-        board.AddSurfacePad()->SetPadShape(TGraphicsPadItem::ShapeObround);
-        board.AddHole();
-        for (TGraphicsItem* item : board.Items()) {
-            if (auto* pad = dynamic_cast<TGraphicsPadItem*>(item)) {
-                pad->SetNumber("1");
-            }
-        }
-    }
+    HastyApplication(const UserEdit& edit, Next nextShown) : userEdit(edit), next(nextShown) {}
 
     void Run(Moment moment)
     {
@@ -210,7 +218,7 @@ public:
         Test::Settle();
     }
 
-    Test::TestBoard board;
+    Test::KindsBoard board;
     QUndoStack stack;
     Test::PanelWindow place;
     QPointer<TPropertySet> set;
@@ -228,7 +236,7 @@ private slots:
     {
         switch (next) {
         case Next::NoSet: place.panel->SetPropertySet(nullptr); break;
-        case Next::AnotherSet: place.panel->SetPropertySet(MakeHoleSet(board)); break;
+        case Next::AnotherSet: place.panel->SetPropertySet(Test::MakeHoleSet(board)); break;
         case Next::SameKind: place.panel->SetPropertySet(userEdit.makeSet(board)); break;
         }
     }
