@@ -176,7 +176,7 @@ void TCmdWireLayer::CutFromCopperWithoutLayer(TGraphicsWireItem& wire, bool atFi
         return;
     }
     cutWires.append({&wire, atFirst, &copper});
-    wire.UnlinkFrom(&copper);
+    wire.Unlink(End(atFirst)); // This end and no other: both may be linked here.
     if (!ProjectParts::IsInStep(project)) {
         return;
     }
