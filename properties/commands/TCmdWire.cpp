@@ -60,10 +60,12 @@ void TCmdWireAddNode::Do()
     if (!wire) {
         return;
     }
-    newWire = static_cast<TGraphicsWireItem*>(wire->CreateCopy());
+    std::unique_ptr<TGraphicsWireItem> copy(static_cast<TGraphicsWireItem*>(wire->CreateCopy()));
+    copy->SetPoint1(wire->mapFromScene(node));
+    made.StartOver();
+    newWire = made.Make(std::move(copy));
     newWire->AttachTo(wire->Owner());
     wire->SetPoint2(wire->mapFromScene(node));
-    newWire->SetPoint1(newWire->mapFromScene(node));
     if (TGraphicsItem* last = wire->LastLink()) {
         newWire->SetLastLink(last);
         last->ReplaceLinkedItem(wire, newWire);
@@ -78,14 +80,14 @@ void TCmdWireAddNode::Undo()
         return;
     }
     wire->SetPoint2(wire->mapFromScene(newWire->ScenePoint(TGraphicsItem::LinkEnd::Last)));
-    // Intended: without a last link of the new wire, the wire's own is left as it is until the new wire is gone.
-    if (TGraphicsItem* last = newWire->LastLink()) {
-        wire->SetLastLink(last);
+    TGraphicsItem* last = newWire->LastLink();
+    wire->SetLastLink(last); // Without one, the wire's own link goes with the new wire.
+    if (last) {
         last->ReplaceLinkedItem(newWire, wire);
     }
     newWire->SetFirstLink(nullptr);
     newWire->SetLastLink(nullptr);
-    delete newWire;
+    made.TakeAway(newWire);
     newWire = nullptr;
 }
 

@@ -3,6 +3,7 @@
 #include "properties/commands/Attributes.h"
 #include "properties/commands/TAttributeCommand.h"
 #include "properties/commands/TDetachedItem.h"
+#include "properties/commands/TMadeItems.h"
 #include "properties/commands/TReversibleCommand.h"
 
 #include <properties/Export.h>
@@ -36,7 +37,7 @@ public:
 
 /**
  * Splits a wire at a node: the wire ends there, and a copy of it goes on from there. The board owns the copy while the
- * split is in force.
+ * split is in force, and the command while it is not.
  */
 class PROPERTIES_EXPORT TCmdWireAddNode : public TReversibleCommand
 {
@@ -51,6 +52,7 @@ protected:
 private:
     TGraphicsWireItem* wire;
     TGraphicsWireItem* newWire = nullptr; ///< Null until redo and after undo.
+    TMadeItems<TGraphicsWireItem> made;
     QPointF node;
 };
 

@@ -42,6 +42,7 @@ TCmdWireLayer::~TCmdWireLayer() = default;
 
 void TCmdWireLayer::Do()
 {
+    madeVias.StartOver();
     for (TGraphicsWireItem* wire : qAsConst(wires)) {
         wire->SetLayer(newLayer);
         LinkRedo(wire, true);
@@ -62,7 +63,7 @@ void TCmdWireLayer::Undo()
         UpdateRats();
     }
     while (!replacedJunctions.empty()) {
-        delete replacedJunctions.back().via;
+        madeVias.TakeAway(replacedJunctions.back().via);
         replacedJunctions.pop_back();
     }
 }
@@ -102,16 +103,12 @@ void TCmdWireLayer::RejoinWires()
     while (!insertedVias.isEmpty()) {
         TGraphicsViaItem* via = insertedVias.takeLast();
         const QList<TGraphicsSectionItem*> joined = via->LinkedWires();
-        if (joined.size() == 2) {
-            TGraphicsSectionItem* first = joined.first();
-            TGraphicsSectionItem* second = joined.last();
-            first->ReplaceLinkedItem(via, second);
-            second->ReplaceLinkedItem(via, first);
-            via->RemoveLinkedWire(first);
-            via->RemoveLinkedWire(second);
+        for (int i = 0; i < joined.size(); ++i) {
+            // Not two only if somebody else has changed the links: then nothing can be joined.
+            joined[i]->ReplaceLinkedItem(via, joined.size() == 2 ? joined[1 - i] : nullptr);
+            via->RemoveLinkedWire(joined[i]);
         }
-        via->Detach();
-        delete via;
+        madeVias.TakeAway(via);
     }
 }
 
@@ -179,7 +176,7 @@ void TCmdWireLayer::CutFromCopperWithoutLayer(TGraphicsWireItem& wire, bool atFi
         return;
     }
     cutWires.append({&wire, atFirst, &copper});
-    wire.UnlinkFrom(&copper);
+    wire.Unlink(End(atFirst)); // This end and no other: both may be linked here.
     if (!ProjectParts::IsInStep(project)) {
         return;
     }
@@ -223,19 +220,20 @@ TGraphicsViaItem* TCmdWireLayer::AddVia(const QPointF& scenePoint)
     const TGraphicsViaItem* pattern = !insertedVias.isEmpty()      ? insertedVias.first()
                                       : !replacedJunctions.empty() ? replacedJunctions.front().via
                                                                    : nullptr;
-    TGraphicsViaItem* via = nullptr;
+    std::unique_ptr<TGraphicsViaItem> fresh;
     if (pattern) {
-        via = static_cast<TGraphicsViaItem*>(pattern->CreateCopy());
+        fresh.reset(static_cast<TGraphicsViaItem*>(pattern->CreateCopy()));
     } else {
         QSettings settings;
         const double size = FromRegDouble(&settings, QStringLiteral("ViaDiam"), 0.3, 100.0, 1.0);
         const double drill = FromRegDouble(&settings, QStringLiteral("ViaDrill"), 0.1, 100.0, 0.6);
-        via = new TGraphicsViaItem;
-        via->SetSize(size, size);
-        via->SetDrill(static_cast<float>(drill));
-        via->update();
+        fresh = std::make_unique<TGraphicsViaItem>();
+        fresh->SetSize(size, size);
+        fresh->SetDrill(static_cast<float>(drill));
+        fresh->update();
     }
-    via->setPos(scenePoint);
+    fresh->setPos(scenePoint);
+    TGraphicsViaItem* via = madeVias.Make(std::move(fresh));
     via->AttachTo(owner);
     return via;
 }

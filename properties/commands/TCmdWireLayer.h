@@ -1,11 +1,13 @@
 #pragma once
 
 #include "properties/commands/TDetachedItem.h"
+#include "properties/commands/TMadeItems.h"
 #include "properties/commands/TReversibleCommand.h"
 
 #include <properties/Export.h>
 
 #include <graphics/TGraphicsItem.h>
+#include <objects/TGraphicsViaItem.h>
 
 #include <QList>
 #include <QSet>
@@ -17,7 +19,6 @@
 class QSettings;
 class TGraphicsJunctionItem;
 class TGraphicsSectionItem;
-class TGraphicsViaItem;
 class TGraphicsWireItem;
 class TProject;
 
@@ -89,6 +90,8 @@ private:
     QVector<Osmirel::Layer> oldLayers; ///< Parallel to `wires`.
     QSet<const TGraphicsItem*> moving; ///< The wires, to be found quickly.
     Osmirel::Layer newLayer;
+
+    TMadeItems<TGraphicsViaItem> madeVias;
 
     // What redo did; empty before redo and after undo.
     QList<TGraphicsViaItem*> insertedVias;

@@ -398,6 +398,91 @@ private slots:
         QCOMPARE(board.Dump(), before);
     }
 
+    // Later steps hold the new wire: they find it again when all is undone and redone.
+    void laterStepsFindTheNewWireAgain()
+    {
+        Test::Network board;
+        auto* wire = board.Wire({0, 0}, {100, 0}, "N");
+        LinkLast(board, wire, "junction");
+        QUndoStack stack;
+        QStringList states{board.Dump()};
+        const auto push = [&](TUndoCommand* command) {
+            stack.push(command);
+            states.append(board.Dump());
+        };
+        push(new TCmdWireAddNode(wire, {40, 10}));
+        push(new TCmdWireWidth(QList<TGraphicsWireItem*>{NextOf(wire)}, 7));
+        push(new TCmdWireAddNode(NextOf(wire), {80, 10}));
+        push(new TCmdWireDelNode(wire, NextOf(wire)));
+        push(new TCmdWireDelNode(wire, NextOf(wire)));
+        for (const int index : {0, 5, 3, 4, 1, 5, 0, 2, 5}) {
+            stack.setIndex(index);
+            QCOMPARE(board.Dump(), states[index]);
+            QCOMPARE(Test::LinkFault(board), QString());
+        }
+    }
+
+    // It comes back as a copy of the wire, whatever was done to it without an undo step.
+    void newWireIsMadeAnewAtEveryRedo()
+    {
+        Test::Network board;
+        auto* wire = board.Wire({0, 0}, {100, 0}, "N", Osmirel::Copper2);
+        wire->SetTFlag(TGraphicsItem::Routing, true);
+        TCmdWireAddNode command(wire, {40, 10});
+        command.redo();
+        const QString after = board.Dump();
+        TGraphicsWireItem* added = NextOf(wire);
+        command.undo();
+        command.redo();
+        QCOMPARE(NextOf(wire), added);
+        added->SetLayer(Osmirel::CopperBottom);
+        added->SetPoint2({1, 1});
+        added->SetPenWidth(9);
+        added->Pen().setStyle(Qt::DotLine);
+        added->SetCompositionMode(9);
+        added->SetNet("M");
+        added->SetTFlag(TGraphicsItem::Routing, false);
+        added->SetTFlag(TGraphicsItem::Lock, true);
+        added->SetAltColor(Qt::red);
+        added->setRotation(90);
+        added->setVisible(false);
+        command.undo();
+        wire->SetPoint2({100, 0}); // which undo took from the new wire
+        added->setPos(3, 4);
+        command.redo();
+        QCOMPARE(board.Dump(), after);
+    }
+
+    // What was written to the wire without an undo step shows in the copy that is made of it.
+    void redoCopiesTheWireAsItIsThen()
+    {
+        Test::Network board;
+        auto* wire = board.Wire({0, 0}, {100, 0});
+        TCmdWireAddNode command(wire, {40, 10});
+        command.redo();
+        command.undo();
+        wire->SetCompositionMode(7);
+        command.redo();
+        QCOMPARE(NextOf(wire)->CompositionMode(), 7);
+        Test::CheckBothWays(*std::make_unique<TCmdWireAddNode>(wire, QPointF(20, 0)), board);
+        command.undo();
+        QCOMPARE(board.Items().size(), 1);
+    }
+
+    void newWireIsNotSelectedWhenItComesBack()
+    {
+        Test::Network board;
+        auto* wire = board.Wire({0, 0}, {100, 0});
+        TCmdWireAddNode command(wire, {40, 10});
+        command.redo();
+        NextOf(wire)->setSelected(true);
+        command.undo();
+        QCOMPARE(board.Scene()->selectedItems().size(), 0);
+        command.redo();
+        QCOMPARE(board.Scene()->selectedItems().size(), 0);
+        QVERIFY(!NextOf(wire)->isSelected());
+    }
+
     void nothingToDoWithoutAWire()
     {
         Test::Network board;

@@ -322,6 +322,23 @@ private slots:
         QCOMPARE(design.Vias().first()->LinkedWires(), (Sections{wires[0], wires[2]}));
     }
 
+    // The end is cut that is looked at, though the other one is linked with the same via.
+    void loopOnAJunctionAndALayerThatTheBoardDoesNotHave()
+    {
+        Design design;
+        auto* junction = design.board.Junction({0, 0});
+        auto* loop = design.board.Wire({0, 0}, {0, 0});
+        auto* staying = design.board.Wire({0, 0}, {10, 0});
+        loop->LinkToFirst(junction);
+        loop->LinkToLast(junction);
+        staying->LinkToFirst(junction);
+        auto command = design.Moving({loop}, Osmirel::Copper6);
+        Test::CheckBothWays(command, design.board);
+        command.redo();
+        QCOMPARE(loop->FirstLink(), design.Vias().first());
+        QCOMPARE(loop->LastLink(), nullptr);
+    }
+
     // Vias and pads.
 
     void copperThatReachesTheLayerStaysLinked()

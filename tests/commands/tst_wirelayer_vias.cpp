@@ -1,9 +1,11 @@
+#include "properties/commands/TCmdMask.h"
 #include "tests/commands/WireLayerDesign.h"
 #include "tests/support/TestMain.h"
 
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <QUndoStack>
 
 using Test::bottom;
 using Test::Sections;
@@ -213,6 +215,59 @@ private slots:
         QSettings().setValue("ViaDiam", 3);
         command.redo();
         QCOMPARE(design.Vias().first()->Width(), 3 * Test::sceneUnitsPerMillimetre);
+    }
+
+    // Later steps hold the vias: they find them again when all is undone and redone.
+    void laterStepsFindTheViasAgain()
+    {
+        Design design;
+        const Wires wires = design.Chain(3);
+        auto* junction = design.board.Junction({0, 0});
+        wires[0]->LinkToFirst(junction);
+        design.board.Wire({0, 0}, {0, 80})->LinkToFirst(junction);
+        QUndoStack stack;
+        QStringList states{design.board.Dump()};
+        const auto push = [&](TUndoCommand* command) {
+            stack.push(command);
+            states.append(design.board.Dump());
+        };
+        push(new TCmdWireLayer(&design.project, {wires[0], wires[2]}, bottom));
+        QCOMPARE(design.Vias().size(), 3);
+        for (TGraphicsViaItem* via : design.Vias()) {
+            push(new TCmdMaskClearance({via}, 2.0 + stack.count()));
+        }
+        push(new TCmdWireLayer(&design.project, {wires[1]}, bottom));
+        push(new TCmdWireLayer(&design.project, wires, Osmirel::Copper2));
+        for (const int index : {0, 6, 1, 3, 0, 4, 6}) {
+            stack.setIndex(index);
+            QCOMPARE(design.board.Dump(), states[index]);
+            QCOMPARE(Test::LinkFault(design.board), QString());
+        }
+    }
+
+    void viasAreMadeAnewAtEveryRedo()
+    {
+        Design design;
+        auto command = design.Moving({design.Chain(3)[1]});
+        command.redo();
+        const QString after = design.board.Dump();
+        for (TGraphicsViaItem* via : design.Vias()) {
+            via->SetViaGroup("Top - Inner 1");
+            via->SetSize(3, 4);
+            via->SetDrill(1);
+            via->SetThermal(TGraphicsViaItem::ThermalYes);
+            via->SetMaskEnabled(true);
+            via->SetMaskClearance(7);
+            via->SetNet("M");
+            via->SetAltColor(Qt::red);
+            via->SetTFlag(TGraphicsItem::Lock, true);
+            via->setPos(1, 2);
+            via->setRotation(45);
+            via->setVisible(false);
+        }
+        command.undo();
+        command.redo();
+        QCOMPARE(design.board.Dump(), after);
     }
 
     void viaIsPlacedOnTheBoard()
