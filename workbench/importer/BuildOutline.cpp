@@ -17,7 +17,7 @@ namespace {
 using TCorners = QVector<OutlinePointStruct>;
 
 /** Ends that lie no further apart meet, in scene units. */
-constexpr double largestGap = 0.05 * 300 / 25.4;
+constexpr double largestGap = 0.1 * 300 / 25.4;
 
 constexpr int corner = 0;
 constexpr int arcMiddle = 1;
