@@ -160,8 +160,11 @@ void BuildOutline(TBoardDraft& draft)
     std::vector<TLoop> loops;
     std::vector<TEdge> edges;
     for (const TEdgeShape& source : draft.edges) {
-        const TCorners corners = CornersOf(source);
+        TCorners corners = CornersOf(source);
         if (ShapeParts::IsArea(source.shape) && corners.size() > 2) {
+            if (corners.last() == corners.first()) {
+                corners.removeLast();
+            }
             loops.push_back(Loop(corners, source));
         } else if (!corners.isEmpty()) {
             edges.push_back({&source, corners});
