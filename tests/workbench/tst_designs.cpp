@@ -2,7 +2,10 @@
 #include "tests/workbench/ImportedItems.h"
 #include "tests/workbench/TBoardText.h"
 
+#include <graphics/TGraphicsTextItem.h>
 #include <objects/TGraphicsHoleItem.h>
+#include <objects/TGraphicsNetTiePcbItem.h>
+#include <objects/TGraphicsOutlineItem.h>
 #include <objects/TGraphicsPackageItem.h>
 #include <objects/TGraphicsPadItem.h>
 
@@ -92,14 +95,15 @@ private slots:
         QCOMPARE(imported.error, QString());
         const TBoardText text(file);
         const auto pads = All<TGraphicsPadItem>(imported);
-        QCOMPARE(All<TGraphicsPackageItem>(imported).size(), text.Count("(?:module|footprint)"));
-        QCOMPARE(pads.size() + All<TGraphicsHoleItem>(imported).size(), text.Count("pad"));
+        const int ties = All<TGraphicsNetTiePcbItem>(imported).size(); // Each was a footprint of two pads.
+        QCOMPARE(All<TGraphicsPackageItem>(imported).size() + ties, text.Count("(?:module|footprint)"));
+        QCOMPARE(pads.size() + All<TGraphicsHoleItem>(imported).size() + 2 * ties, text.Count("pad"));
         QCOMPARE(All<TGraphicsViaItem>(imported).size(), text.Count("via"));
         QCOMPARE(imported.board->LayerManager()->CopperLayers().size(),
                  text.CountMatches("\\n\\s+\\(\\d+ \\S+ (?:signal|power|mixed|jumper)"));
 
         const auto netted = std::count_if(pads.begin(), pads.end(), [](auto* pad) { return !pad->Net().isEmpty(); });
-        QCOMPARE(int(netted), text.CountNettedPads());
+        QCOMPARE(int(netted) + 2 * ties, text.CountNettedPads());
         QSet<QString> names(text.Nets().begin(), text.Nets().end());
         for (const TGraphicsPadItem* pad : pads) {
             QVERIFY2(names.contains(pad->Net()), qPrintable(pad->Net()));
@@ -135,6 +139,24 @@ private slots:
         QCOMPARE(ImportedItems::NotShown(imported, "dimensions"), text.Count("dimension"));
         QCOMPARE(ImportedItems::NotShown(imported, "3D models"), text.Count("model"));
         QCOMPARE(ImportedItems::NotShown(imported, "other elements"), 0);
+    }
+
+    void holdsTextsAndOutline_data() { AddFiles(designs + sample); }
+
+    void holdsTextsAndOutline()
+    {
+        QFETCH(QString, file);
+        const TImportResult imported = ImportBoard(file);
+        const TBoardText text(file);
+        // A dimension holds one that is its own; the name of a net tie is drawn with it.
+        const int notItems = text.Count("dimension") + All<TGraphicsNetTiePcbItem>(imported).size();
+        const int written = text.Count("(?:gr_text|gr_text_box|fp_text|fp_text_box)")
+                            + text.CountMatches(R"re(\(property "[^"]*" "[^"]*"\s+\(at)re");
+        QCOMPARE(All<TGraphicsTextItem>(imported).size(), written - notItems);
+        QCOMPARE(All<TGraphicsOutlineItem>(imported).size(), 1);
+        for (const auto* package : All<TGraphicsPackageItem>(imported)) {
+            QVERIFY2(package->RefDesText() && package->ValueText(), qPrintable(package->RefDes()));
+        }
     }
 
     void putsPadsWhereTracksEnd_data() { AddFiles(designs); }

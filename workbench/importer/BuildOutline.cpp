@@ -17,7 +17,7 @@ namespace {
 using TCorners = QVector<OutlinePointStruct>;
 
 /** Ends that lie no further apart meet, in scene units. */
-constexpr double largestGap = 0.05 * 300 / 25.4;
+constexpr double largestGap = 0.1 * 300 / 25.4;
 
 constexpr int corner = 0;
 constexpr int arcMiddle = 1;
@@ -160,8 +160,11 @@ void BuildOutline(TBoardDraft& draft)
     std::vector<TLoop> loops;
     std::vector<TEdge> edges;
     for (const TEdgeShape& source : draft.edges) {
-        const TCorners corners = CornersOf(source);
+        TCorners corners = CornersOf(source);
         if (ShapeParts::IsArea(source.shape) && corners.size() > 2) {
+            if (corners.last() == corners.first()) {
+                corners.removeLast();
+            }
             loops.push_back(Loop(corners, source));
         } else if (!corners.isEmpty()) {
             edges.push_back({&source, corners});

@@ -72,6 +72,7 @@ bool IsReference(const TSexpression& element)
 
 void ApplyName(const TSexpression& footprint, TGraphicsNetTiePcbItem& tie)
 {
+    tie.SetNameVisible(false);
     for (const TSexpression element : footprint) {
         if (IsReference(element)) {
             tie.SetName(ElementParts::UserName(element.Value(1)));
