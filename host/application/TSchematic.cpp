@@ -8,7 +8,7 @@ TSchematic::~TSchematic() = default;
 
 void TSchematic::AddNetClass(const QString& name)
 {
-    if (!name.isEmpty() && !IsExistNetClass(name)) {
+    if (!IsExistNetClass(name)) {
         netClasses.append(name);
     }
 }

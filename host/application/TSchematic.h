@@ -31,7 +31,8 @@ public:
 
     /** All net classes, "Default" first. */
     QStringList NetClassNames() const { return netClasses; }
-    bool IsExistNetClass(const QString& name) const { return netClasses.contains(name); }
+    /** Whether a net can be given this class; the empty name stands for the default one. */
+    bool IsExistNetClass(const QString& name) const { return name.isEmpty() || netClasses.contains(name); }
     void AddNetClass(const QString& name);
     /** The name of the net's class, which may be empty for the default one; null when the model has no such net. */
     std::optional<QString> NetClass(const QString& net) const;

@@ -86,14 +86,15 @@ private slots:
         QCOMPARE(design.Model().NetClass("A"), QString("Power"));
     }
 
-    // The empty name, which stands for the default class, is none that the schematic knows.
-    void undoCannotTakeAClassAway()
+    // The empty name stands for the default class.
+    void undoTakesAClassAway()
     {
         Design design;
         TCmdNetClass command("B", "Signal", &design.project);
         command.redo();
-        command.undo();
         QCOMPARE(design.Model().NetClass("B"), QString("Signal"));
+        command.undo();
+        QCOMPARE(design.Model().NetClass("B"), QString());
     }
 
     void oldClassIsThatOfTheMomentItWasMade()

@@ -70,6 +70,7 @@ private slots:
         schematic.AddNetClass(QString());
         QCOMPARE(schematic.NetClassNames(), (QStringList{"Default", "Power"}));
         QVERIFY(schematic.IsExistNetClass("Power"));
+        QVERIFY(schematic.IsExistNetClass(QString())); // That of nets without a class of their own.
         QVERIFY(!schematic.IsExistNetClass("Fast"));
         QVERIFY(!schematic.NetClass("GND"));
         schematic.NetModel()->AddNet("GND", QString(), QColor(), QColor(), 0);
