@@ -153,7 +153,8 @@ private:
         const double halfSpoke = std::max(thinnestSpoke, pour.ThermalLine() - pour.LineWidth()) / 2;
         const QRectF extent = via.Outline().boundingRect();
         const double reach = isolation + halfLine + 1;
-        QPainterPath spokes;
+        QPainterPath spokes; // They cross, and the crossing is copper too: it is what the pour is connected by.
+        spokes.setFillRule(Qt::WindingFill);
         spokes.addRect(extent.left() - reach, -halfSpoke, extent.width() + 2 * reach, 2 * halfSpoke);
         spokes.addRect(-halfSpoke, extent.top() - reach, 2 * halfSpoke, extent.height() + 2 * reach);
         Clip::Add(obstacles, Clip::Subtracted(hole, Clip::FromPath(spokes, toPour)));

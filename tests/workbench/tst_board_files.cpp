@@ -285,6 +285,27 @@ private slots:
                 "'pad' without 'size'");
         element("pad without layers", "(footprint \"\" (layer F.Cu) (at 0 0) (pad 1 smd rect (at 0 0) (size 1 1)))",
                 "'pad' without 'layers'");
+        element("track without end", "(segment (start 0 0) (width 1) (layer F.Cu))", "'segment' without 'end'");
+        element("track without width", "(segment (start 0 0) (end 1 0) (layer F.Cu))", "'segment' without 'width'");
+        element("track on no copper", "(segment (start 0 0) (end 1 0) (width 1) (layer F.Mask))",
+                "a track on layer 'F.Mask', which is no copper layer of the board");
+        element("track on an unknown net", "(segment (start 0 0) (end 1 0) (width 1) (layer F.Cu) (net 9))",
+                "net 9 is not in the board's list of nets");
+        element("track arc without middle", "(arc (start 0 0) (end 1 0) (width 1) (layer F.Cu))",
+                "'arc' without 'mid'");
+        element("zone without layer", "(zone (net 1) (polygon (pts (xy 0 0))))", "'zone' without 'layer'");
+        element("zone on an unknown net", "(zone (net 9) (layer F.Cu) (polygon (pts (xy 0 0))))",
+                "net 9 is not in the board's list of nets");
+        element("zone without points", "(zone (net 1) (layer F.Cu) (polygon))", "'polygon' without 'pts'");
+        element("line without end", "(gr_line (start 0 0) (layer F.SilkS))", "'gr_line' without 'end'");
+        element("edge without end", "(gr_line (start 0 0) (layer Edge.Cuts))", "'gr_line' without 'end'");
+        element("line without layer", "(gr_line (start 0 0) (end 1 1))", "'gr_line' without 'layer'");
+        element("curve without points", "(gr_curve (pts (xy 0 0)) (layer F.SilkS))", "'pts' has fewer than 4 values");
+        element("text without place", "(gr_text x (layer F.SilkS))", "'gr_text' without 'at'");
+        element("text of negative height", "(gr_text x (at 0 0) (layer F.SilkS) (effects (font (size -1 1))))",
+                "'-1' where no negative measure can be");
+        element("text of a footprint without place",
+                "(footprint A (layer F.Cu) (at 0 0) (fp_text user x (layer F.SilkS)))", "'fp_text' without 'at'");
         element("pad without anything", "(footprint \"\" (layer F.Cu) (at 0 0) (pad))", "'pad' without 'size'");
     }
 

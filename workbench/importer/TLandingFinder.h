@@ -19,5 +19,6 @@ public:
 
 private:
     QHash<TGridPoint, QVector<TGraphicsItem*>> cells;
+    QVector<TGraphicsItem*> large; ///< What would fill too many cells.
     QVector<TGridPoint> centres;
 };

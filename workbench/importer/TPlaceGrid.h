@@ -18,6 +18,15 @@ public:
     template <class Function>
     void VisitNear(const TGridPoint& from, const TGridPoint& to, qint64 margin, Function visit) const
     {
+        // Whatever lies near a track as large as this is found sooner by looking at all.
+        const qint64 columns = (std::abs(to.x - from.x) + 2 * margin) / cellSize + 1;
+        const qint64 rows = 2 * margin / cellSize + 1;
+        if (columns * rows > mostCells) {
+            for (const QVector<TGridPoint>& cell : cells) {
+                std::for_each(cell.begin(), cell.end(), visit);
+            }
+            return;
+        }
         const auto [left, right] = std::minmax(from, to, [](const auto& a, const auto& b) { return a.x < b.x; });
         const double slope =
             right.x == left.x ? 0 : static_cast<double>(right.y - left.y) / static_cast<double>(right.x - left.x);
@@ -43,6 +52,7 @@ public:
     }
 
     /** In nanometres; most tracks are not much longer. */
+    static constexpr qint64 mostCells = 10'000;
     static constexpr qint64 cellSize = 500'000;
     static qint64 Index(qint64 coordinate)
     {
