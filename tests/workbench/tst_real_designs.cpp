@@ -100,14 +100,17 @@ void ApplyHeightException(const Use& use, StateFields& pad)
     }
 }
 
-/** Of a text come back whole points, whole degrees, the weights of normal and bold, and no oblique style. */
-void ApplyTextExceptions(const Use& use, StateFields& text)
+/**
+ * Of a text come back whole points, whole degrees, the weights of normal and bold, and no oblique style. What is
+ * smaller than half a point keeps the size that it was given.
+ */
+void ApplyTextExceptions(const Use& use, const StateFields& done, StateFields& text)
 {
     constexpr double millimetresPerPoint = 0.3528;
     if (use.cell == "text Font size:") {
         const double points = std::round(text.Number("pixels") / (millimetresPerPoint * sceneUnitsPerMillimetre));
         const int pixels = static_cast<int>(points * millimetresPerPoint * sceneUnitsPerMillimetre);
-        text.Set("pixels", pixels > 0 ? pixels : text.Integer("pixels"));
+        text.Set("pixels", pixels > 0 ? pixels : done.Integer("pixels"));
     } else if (use.cell == "text Angle:") {
         text.Set("rotation", std::trunc(text.Number("rotation")));
     } else if (use.cell == "text Bold:") {
@@ -118,18 +121,30 @@ void ApplyTextExceptions(const Use& use, StateFields& text)
 }
 
 /** What an edit that was undone leaves of an item that was selected; the same as before but for what is intended. */
-QString Undone(const Use& use, const QString& line)
+QString Undone(const Use& use, const QString& before, const QString& done)
 {
-    StateFields fields(line);
+    StateFields fields(before);
     ApplyHeightException(use, fields);
-    ApplyTextExceptions(use, fields);
+    ApplyTextExceptions(use, StateFields(done), fields);
     return fields.Line();
 }
 
-/** A package that comes back from the other side shows its texts as the board's switches say, which are on. */
-QString WithShownText(const QString& line)
+/** A package that comes back from the other side shows its texts as the board's switches say. */
+QString WithVisibility(QString line, bool shown)
 {
-    return QString(line).remove(QStringLiteral(" visible=no"));
+    line.remove(QStringLiteral(" visible=no"));
+    return shown ? line : line.replace(QStringLiteral(" text="), QStringLiteral(" visible=no text="));
+}
+
+/** Whether an item is the designator or the value of one of these packages. */
+bool IsTextOf(const QSet<TGraphicsItem*>& packages, const TGraphicsItem& item)
+{
+    auto* parent = static_cast<TGraphicsItem*>(item.parentItem());
+    if (!packages.contains(parent) || parent->type() != ItemType::Package) {
+        return false;
+    }
+    const auto* package = static_cast<const TGraphicsPackageItem*>(parent);
+    return package->RefDesText() == &item || package->ValueText() == &item;
 }
 
 } // namespace
@@ -258,10 +273,9 @@ private:
         QStringList expected = dump;
         dump = Dump();
         for (int i = 0; i < items.size(); ++i) {
-            if (selected.contains(items[i])) {
+            // The texts of packages are locked and shown with them.
+            if (selected.contains(items[i]) || IsTextOf(selected, *items[i])) {
                 expected[i] = dump.value(i);
-            } else if (IsTextOf(selected, *items[i])) {
-                expected[i] = WithShownText(expected[i]);
             }
         }
         if (selection.first()->type() == ItemType::Pad) {
@@ -299,7 +313,7 @@ private:
                  qPrintable(what + QStringLiteral(": nothing changed")));
         stack.setIndex(0);
         const QStringList undone = watched();
-        ExpectEqual(what + QStringLiteral(" undone"), undone, ExpectedUndone(use, selection, before));
+        ExpectEqual(what + QStringLiteral(" undone"), undone, ExpectedUndone(use, selection, before, after));
         QCOMPARE(Nets(), netsBefore);
         stack.setIndex(stack.count());
         ExpectEqual(what + QStringLiteral(" redone"), watched(), after);
@@ -328,29 +342,28 @@ private:
         return use;
     }
 
-    QStringList ExpectedUndone(const Use& use, const Items& selection, QStringList expected) const
+    QStringList ExpectedUndone(const Use& use, const Items& selection, QStringList expected,
+                               const QStringList& after) const
     {
+        QSet<TGraphicsItem*> moved;
+        for (int i = 0; use.cell == "package Side:" && i < items.size(); ++i) {
+            if (StateFields(after[i]).Text("layer") != StateFields(expected[i]).Text("layer")) {
+                moved.insert(items[i]);
+            }
+        }
         const QSet<TGraphicsItem*> selected(selection.cbegin(), selection.cend());
         const Items& watched = ReachesFurther(use.cell) ? items : selection;
         for (int i = 0; i < watched.size(); ++i) {
             if (selected.contains(watched[i])) {
-                expected[i] = Undone(use, expected[i]);
-            } else if (use.cell == "package Side:" && IsTextOf(selected, *watched[i])) {
-                expected[i] = WithShownText(expected[i]);
+                expected[i] = Undone(use, expected[i], after[i]);
+            } else if (IsTextOf(moved, *watched[i])) {
+                const auto* package = static_cast<TGraphicsPackageItem*>(watched[i]->parentItem());
+                const TBoard& board = design->Board();
+                expected[i] = WithVisibility(expected[i], package->RefDesText() == watched[i] ? board.RefDesVisible()
+                                                                                              : board.ValuesVisible());
             }
         }
         return expected;
-    }
-
-    /** Whether an item is the designator or the value of one of these packages. */
-    static bool IsTextOf(const QSet<TGraphicsItem*>& packages, const TGraphicsItem& item)
-    {
-        auto* parent = static_cast<TGraphicsItem*>(item.parentItem());
-        if (!packages.contains(parent) || parent->type() != ItemType::Package) {
-            return false;
-        }
-        const auto* package = static_cast<const TGraphicsPackageItem*>(parent);
-        return package->RefDesText() == &item || package->ValueText() == &item;
     }
 
     static void ExpectEqual(const QString& what, const QStringList& actual, const QStringList& expected)

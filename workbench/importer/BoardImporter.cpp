@@ -49,6 +49,17 @@ QByteArray ProjectText(const QString& fileName, QString& problem)
     return file.readAll();
 }
 
+/** Draws the items of nets that have a colour of their own in it. */
+void ShowNetColors(const TBoard& board, const TNetModel& nets)
+{
+    for (TGraphicsItem* item : board.Items()) {
+        const QColor color = nets.ColorPcb(nets.NetRow(item->Net()));
+        if (color.isValid()) {
+            item->SetAltColor(color);
+        }
+    }
+}
+
 } // namespace
 
 TImportResult ImportBoard(const QString& fileName, const TImportProgress& progress)
@@ -104,6 +115,7 @@ TImportResult ImportBoardText(const TImportSource& source, const TImportProgress
         draft.netSettings.Fill(*result.schematic, draft.netNames);
         result.notShown = draft.notShown.Kinds();
         result.board = std::move(draft.board);
+        ShowNetColors(*result.board, *result.schematic->NetModel());
     } catch (const TImportError& error) {
         result.error = QStringLiteral("%1:%2: %3").arg(source.name, QString::number(error.Line()), error.Cause());
     } catch (const TCancelled&) {
