@@ -246,6 +246,17 @@ QString RandomNetwork::UndoAllAndRedoAll()
     return {};
 }
 
+QString RandomNetwork::ClearAt(int index)
+{
+    const QString fault = MoveTo(index % (stack.count() + 1));
+    if (!fault.isEmpty()) {
+        return fault;
+    }
+    const QString before = State();
+    stack.clear();
+    return State() == before ? Fault() : QStringLiteral("clearing the stack changed\n") + before;
+}
+
 /** All lines without the items' colours, which undo takes from the nets, and the colours of the nets. */
 QString RandomNetwork::State() const
 {

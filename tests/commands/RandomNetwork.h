@@ -45,6 +45,10 @@ public:
     /** Undoes all and redoes all, one step after the other, and tells what is wrong. */
     QString UndoAllAndRedoAll();
 
+    /** Goes to an index of the stack and clears it there: nothing changes, and what was made or taken off before stays
+     *  as it is. Tells what is wrong. */
+    QString ClearAt(int index);
+
     /** How often each command was made. */
     const QMap<QString, int>& Made() const { return made; }
 
