@@ -75,6 +75,8 @@ private:
     QStringList states; ///< At each index of the stack.
     QMap<QString, int> made;
     QString commandName; ///< Of the last command that was made.
+    QString coloredNet;  ///< What the last command over a net's colour was about.
+    QColor newColor;
 };
 
 } // namespace Test
