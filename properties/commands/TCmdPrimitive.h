@@ -67,10 +67,10 @@ struct UserColor : Plain<TGraphicsItem, QColor>, WithoutParent<AnyKind>
     static void Write(TGraphicsItem& item, const QColor& color) { item.SetAltColor(color); }
 };
 
-/** Width and height of a rectangle, which holds them in single precision. */
+/** Width and height of a free rectangle, which holds them in single precision. */
 struct RectSize : Plain<TGraphicsRectItem, QSizeF>
 {
-    static bool Accepts(const TGraphicsRectItem&) { return true; }
+    static bool Accepts(const TGraphicsRectItem& rect) { return !rect.parentItem(); }
     static QSizeF Read(const TGraphicsRectItem& rect) { return rect.Size(); }
     static void Write(TGraphicsRectItem& rect, const QSizeF& size)
     {
@@ -118,7 +118,7 @@ public:
     TCmdUserColor(const QList<TGraphicsItem*>& selection, const QColor& color);
 };
 
-/** Sets width and height, in scene units, of rectangles. It has an id and yet is never merged. */
+/** Sets width and height, in scene units, of free rectangles. It has an id and yet is never merged. */
 class PROPERTIES_EXPORT TCmdRectSize : public TAttributeCommandWithId<Attributes::RectSize, CommandId::RectSize>
 {
 public:

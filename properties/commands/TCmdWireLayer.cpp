@@ -114,6 +114,9 @@ void TCmdWireLayer::RejoinWires()
 
 void TCmdWireLayer::MoveOrReplaceJunction(TGraphicsWireItem& wire, bool atFirst, TGraphicsJunctionItem& junction)
 {
+    if (alreadyMoved.contains(&junction)) {
+        return;
+    }
     const QList<TGraphicsSectionItem*>& sections = junction.LinkedSections();
     const bool allMove = std::all_of(sections.cbegin(), sections.cend(),
                                      [this](const TGraphicsSectionItem* section) { return Moves(section); });
@@ -126,11 +129,9 @@ void TCmdWireLayer::MoveOrReplaceJunction(TGraphicsWireItem& wire, bool atFirst,
 
 void TCmdWireLayer::MoveJunction(TGraphicsJunctionItem& junction)
 {
-    if (!alreadyMoved.contains(&junction)) {
-        alreadyMoved.insert(&junction);
-        movedJunctions.append({&junction, junction.Layer()});
-        junction.SetLayer(newLayer);
-    }
+    alreadyMoved.insert(&junction);
+    movedJunctions.append({&junction, junction.Layer()});
+    junction.SetLayer(newLayer);
 }
 
 void TCmdWireLayer::MoveJunctionsBack()

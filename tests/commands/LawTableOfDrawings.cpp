@@ -17,6 +17,7 @@ Accepting WithoutParent(const Accepting& accepts)
 const auto primitives = WithoutParent(OfKind({0x10002, 0x10003, 0x10004, 0x10005, 0x10006, 0x10007}));
 const auto filledPrimitives = WithoutParent(OfKind({0x10003, 0x10004, 0x10006}));
 const auto everything = WithoutParent([](const TGraphicsItem&) { return true; });
+const auto freeRectangles = WithoutParent(IsOfClass<TGraphicsRectItem>);
 const auto partsAndPackages = OfKind({0x1000a, 0x1000b});
 
 /** A polyline off the milling layer is no milling path any more. */
@@ -40,7 +41,7 @@ CommandLaw RectSizeLaw()
         return std::make_unique<TCmdRectSize>(OfClass<TGraphicsRectItem>(items), size.width(), size.height());
     };
     const auto redone = [](Fields& rectangle, const QSizeF& size) { rectangle.Set("size", Narrowed(size)); };
-    return MadeLaw<TCmdRectSize>(IsOfClass<TGraphicsRectItem>, QSizeF(30.1, 20.7), QSizeF(12.3, 4.56), make, redone);
+    return MadeLaw<TCmdRectSize>(freeRectangles, QSizeF(30.1, 20.7), QSizeF(12.3, 4.56), make, redone);
 }
 
 } // namespace

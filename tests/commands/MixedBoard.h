@@ -144,6 +144,9 @@ private:
         line->setParentItem(&package);
         line->SetLine({-20, -20, 20, -20});
         line->SetLayer(Osmirel::SilkTop);
+        auto* body = Add<TGraphicsRectItem>();
+        body->setParentItem(&package);
+        body->SetSize(20, 10);
         package.SetRefDesText(AddText("U1", Osmirel::SilkTop));
         package.SetValueText(AddText("74HC00", Osmirel::SilkTop));
         AddPackage("locked")->SetTFlag(TGraphicsItem::Lock, true);

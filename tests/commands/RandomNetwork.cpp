@@ -194,8 +194,9 @@ std::unique_ptr<QUndoCommand> RandomNetwork::Command(const PlannedStep& step)
     }
     default: {
         commandName = "net color";
-        const QColor color = step.value % 4 == 0 ? QColor() : QColor(step.value % 256, 20, 30);
-        return std::make_unique<TCmdNetColorPcb>(At(nets, step.what), color, &project);
+        coloredNet = At(nets, step.what);
+        newColor = step.value % 4 == 0 ? QColor() : QColor(step.value % 256, 20, 30);
+        return std::make_unique<TCmdNetColorPcb>(coloredNet, newColor, &project);
     }
     }
 }
@@ -216,6 +217,16 @@ QString RandomNetwork::Do(const PlannedStep& step)
     states = states.mid(0, stack.index() + 1);
     stack.push(command.release());
     states.append(State());
+    if (commandName == "net color") {
+        const auto isOdd = [this](const TGraphicsItem* item) {
+            return item->Net() == coloredNet && item->AltColor() != newColor;
+        };
+        const QList<TGraphicsItem*> items = board.Items();
+        const auto odd = std::find_if(items.cbegin(), items.cend(), isOdd);
+        if (odd != items.cend()) {
+            return QStringLiteral("not in the color of its net: ") + (*odd)->StateLine();
+        }
+    }
     return Fault();
 }
 
@@ -244,6 +255,17 @@ QString RandomNetwork::UndoAllAndRedoAll()
         }
     }
     return {};
+}
+
+QString RandomNetwork::ClearAt(int index)
+{
+    const QString fault = MoveTo(index % (stack.count() + 1));
+    if (!fault.isEmpty()) {
+        return fault;
+    }
+    const QString before = State();
+    stack.clear();
+    return State() == before ? Fault() : QStringLiteral("clearing the stack changed\n") + before;
 }
 
 /** All lines without the items' colours, which undo takes from the nets, and the colours of the nets. */

@@ -45,6 +45,10 @@ public:
     /** Undoes all and redoes all, one step after the other, and tells what is wrong. */
     QString UndoAllAndRedoAll();
 
+    /** Goes to an index of the stack and clears it there: nothing changes, and what was made or taken off before stays
+     *  as it is. Tells what is wrong. */
+    QString ClearAt(int index);
+
     /** How often each command was made. */
     const QMap<QString, int>& Made() const { return made; }
 
@@ -71,6 +75,8 @@ private:
     QStringList states; ///< At each index of the stack.
     QMap<QString, int> made;
     QString commandName; ///< Of the last command that was made.
+    QString coloredNet;  ///< What the last command over a net's colour was about.
+    QColor newColor;
 };
 
 } // namespace Test

@@ -26,7 +26,7 @@ private slots:
     {
         Test::Network board;
         auto* package = board.AddPackage();
-        auto* part = board.Add<TGraphicsEllipseItem>({0, 0});
+        TGraphicsRectItem* part = board.Add<TGraphicsEllipseItem>({0, 0});
         part->setParentItem(package);
         part->SetSize(10, 10);
         const QString before = part->StateLine();
@@ -36,6 +36,7 @@ private slots:
         TCmdBrushStyle(items, 1).redo();
         TCmdLayerPrim(items, Osmirel::CopperBottom).redo();
         TCmdUserColor(items, Qt::red).redo();
+        TCmdRectSize({part}, 30, 40).redo();
         QCOMPARE(part->StateLine(), before);
 
         part->setParentItem(nullptr);

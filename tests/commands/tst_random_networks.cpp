@@ -72,6 +72,7 @@ private slots:
                 check(network.Do(step));
             }
             check(network.UndoAllAndRedoAll());
+            check(network.ClearAt(*rc::gen::inRange(0, 40)));
             for (auto command = network.Made().cbegin(); command != network.Made().cend(); ++command) {
                 made[command.key()] += command.value();
             }
