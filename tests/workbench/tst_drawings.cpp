@@ -390,7 +390,7 @@ private slots:
         row(R"((fp_text user "${REFERENCE}" (at 1 2 120) (layer "F.Fab")))", "U1");
         row(R"((fp_text user "is ${VALUE} of ${FOOTPRINT_NAME}" (at 1 2 120) (layer "F.Fab")))", "is 4k7 of Part");
         row(R"((fp_text user "${MPN}, ${TITLE}, ${LAYER}" (at 1 2 120) (layer "F.Fab")))", "X-1, My board, F.Fab");
-        row(R"((fp_text user "${UNKNOWN} ${" (at 1 2 120) (layer "F.Fab")))", "${UNKNOWN} ${");
+        row(R"((fp_text user "${UNKNOWN} $" (at 1 2 120) (layer "F.Fab")))", "${UNKNOWN} $");
         row("(fp_text user %R (at 1 2 120) (layer F.Fab))", "%R");
         row("(fp_text user ~ (at 1 2 120) (layer F.Fab))", "");
     }
