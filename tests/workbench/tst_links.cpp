@@ -352,6 +352,23 @@ private slots:
               All<TGraphicsJunctionItem>(imported).size(), All<TGraphicsRatLineItem>(imported).size());
     }
 
+    void packagesLinkTheSameAgain_data() { AddDesigns(); }
+
+    /** What packages link by touch is what the import has linked to their pads. */
+    void packagesLinkTheSameAgain()
+    {
+        QFETCH(QString, file);
+        const TImportResult imported = ImportBoard(file);
+        const QString before = imported.board->Dump();
+        int cut = 0;
+        for (TGraphicsPackageItem* package : All<TGraphicsPackageItem>(imported)) {
+            cut += package->Disconnect({}).size();
+            package->Connect({});
+        }
+        QVERIFY(cut > 0);
+        QVERIFY(imported.board->Dump() == before); // Too much to be shown.
+    }
+
     void keepsTheLengthOfTracks_data() { AddDesigns(); }
 
     void keepsTheLengthOfTracks()
