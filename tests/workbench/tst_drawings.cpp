@@ -178,7 +178,7 @@ private slots:
     {
         QFETCH(int, layer);
         const QByteArray name = QTest::currentDataTag();
-        const QByteArray row = name == "F.Cu" ? QByteArray() : "(40 \"" + name + "\" user \"My own name\")";
+        const QByteArray row = name == "F.Cu" ? QByteArray() : "(40 " + name + " user Own.Name)";
         const TImportResult imported =
             Import(BoardWithLayers("(0 F.Cu signal) (31 B.Cu signal)" + row,
                                    "(gr_line (start 0 0) (end 1 1) (layer " + name + ") (width 0.1))"));
@@ -208,7 +208,7 @@ private slots:
         QFETCH(int, corners);
         const QByteArray shape = QTest::currentDataTag();
         const TImportResult imported =
-            Import(BoardWithLayers("(0 F.Cu signal) (31 B.Cu signal) (50 \"User.1\" user \"Milling\")",
+            Import(BoardWithLayers("(0 F.Cu signal) (31 B.Cu signal) (50 User.1 user Milling)",
                                    "(" + shape + " (stroke (width 1) (type solid)) (layer User.1))"));
         QCOMPARE(imported.error, QString());
         const auto* path = Only<TGraphicsPolylineItem>(imported);
@@ -353,7 +353,7 @@ private slots:
         QFETCH(QByteArray, effects);
         QFETCH(double, line);
         const TImportResult imported =
-            Import(Board("(gr_text \"two\\nlines\" (at 3 4 30) (layer F.SilkS) (effects " + effects + "))"));
+            Import(Board(R"((gr_text "two\nlines" (at 3 4 30) (layer F.SilkS) (effects )" + effects + "))"));
         QCOMPARE(imported.error, QString());
         const auto* text = Only<TGraphicsTextItem>(imported);
         QVERIFY(text);
@@ -382,15 +382,15 @@ private slots:
         row("(fp_text user hello (at 1 2 120) (layer F.Fab))", "hello");
         row("(fp_text user hello (at 1 2 120) (layer F.Fab) hide)", "hello", true);
         row("(fp_text user hide (at 1 2 120) (layer F.Fab))", "hide");
-        row("(fp_text user \"hello\" (at 1 2 120 unlocked) (layer \"F.Fab\"))", "hello");
-        row("(fp_text user \"hello\" locked (at 1 2 120) (layer \"F.Fab\"))", "hello", false, true);
-        row("(fp_text user \"hello\" (at 1 2 120) (layer \"F.Fab\") (hide yes))", "hello", true);
-        row("(fp_text user \"hello\" (at 1 2 120) (layer \"F.Fab\") (effects (font (size 1 1)) hide))", "hello", true);
-        row("(property \"Datasheet\" \"a.pdf\" (at 1 2 120) (layer \"F.Fab\") (hide yes))", "a.pdf", true);
-        row("(fp_text user \"${REFERENCE}\" (at 1 2 120) (layer \"F.Fab\"))", "U1");
-        row("(fp_text user \"is ${VALUE} of ${FOOTPRINT_NAME}\" (at 1 2 120) (layer \"F.Fab\"))", "is 4k7 of Part");
-        row("(fp_text user \"${MPN}, ${TITLE}, ${LAYER}\" (at 1 2 120) (layer \"F.Fab\"))", "X-1, My board, F.Fab");
-        row("(fp_text user \"${UNKNOWN} ${\" (at 1 2 120) (layer \"F.Fab\"))", "${UNKNOWN} ${");
+        row(R"((fp_text user "hello" (at 1 2 120 unlocked) (layer "F.Fab")))", "hello");
+        row(R"((fp_text user "hello" locked (at 1 2 120) (layer "F.Fab")))", "hello", false, true);
+        row(R"((fp_text user "hello" (at 1 2 120) (layer "F.Fab") (hide yes)))", "hello", true);
+        row(R"((fp_text user "hello" (at 1 2 120) (layer "F.Fab") (effects (font (size 1 1)) hide)))", "hello", true);
+        row(R"((property "Datasheet" "a.pdf" (at 1 2 120) (layer "F.Fab") (hide yes)))", "a.pdf", true);
+        row(R"((fp_text user "${REFERENCE}" (at 1 2 120) (layer "F.Fab")))", "U1");
+        row(R"((fp_text user "is ${VALUE} of ${FOOTPRINT_NAME}" (at 1 2 120) (layer "F.Fab")))", "is 4k7 of Part");
+        row(R"((fp_text user "${MPN}, ${TITLE}, ${LAYER}" (at 1 2 120) (layer "F.Fab")))", "X-1, My board, F.Fab");
+        row(R"((fp_text user "${UNKNOWN} $" (at 1 2 120) (layer "F.Fab")))", "${UNKNOWN} $");
         row("(fp_text user %R (at 1 2 120) (layer F.Fab))", "%R");
         row("(fp_text user ~ (at 1 2 120) (layer F.Fab))", "");
     }
@@ -435,8 +435,8 @@ private slots:
         QTest::newRow("version 5") << QByteArray("(fp_text reference R1 (at 0 -1 90) (layer F.SilkS) hide)")
                                    << QByteArray("(fp_text value 4k7 locked (at 0 1 90) (layer F.Fab))");
         QTest::newRow("version 8")
-            << QByteArray("(property \"Reference\" \"R1\" (at 0 -1 90) (layer \"F.SilkS\") (hide yes))")
-            << QByteArray("(property \"Value\" \"4k7\" (at 0 1 90) (layer \"F.Fab\") (locked yes))");
+            << QByteArray(R"((property "Reference" "R1" (at 0 -1 90) (layer "F.SilkS") (hide yes)))")
+            << QByteArray(R"((property "Value" "4k7" (at 0 1 90) (layer "F.Fab") (locked yes)))");
     }
 
     void textsFollowTheirPackage()

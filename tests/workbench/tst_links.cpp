@@ -45,8 +45,8 @@ QString Name(const TGraphicsItem* item, const QList<TGraphicsWireItem*>& wires)
     if (const auto* pad = dynamic_cast<const TGraphicsPadItem*>(item)) {
         return QStringLiteral("pad") + pad->Number();
     }
-    const int wire = wires.indexOf(static_cast<TGraphicsWireItem*>(const_cast<TGraphicsItem*>(item)));
-    return wire >= 0 ? QString::number(wire) : item->KindName();
+    const auto wire = std::find(wires.begin(), wires.end(), item);
+    return wire == wires.end() ? item->KindName() : QString::number(wire - wires.begin());
 }
 
 /** What the wires are linked to at both ends: "- 0>1 0" for each wire "first>last". */
@@ -145,7 +145,7 @@ private slots:
         const QByteArray pads =
             Footprint("(pad 1 smd rect (at 0 0) (size 2 1) (layers F.Cu) (net 1 GND))"
                       "(pad 2 smd rect (at 5 0) (size 2 1) (layers B.Cu) (net 1 GND))"
-                      "(pad 3 thru_hole circle (at 10 0) (size 2 2) (drill 1) (layers *.Cu) (net 2 \"/I{slash}O\"))");
+                      R"((pad 3 thru_hole circle (at 10 0) (size 2 2) (drill 1) (layers *.Cu) (net 2 "/I{slash}O")))");
         const auto bottom = "(width 0.2) (layer B.Cu) (net 1)";
         const auto other = "(width 0.2) (layer F.Cu) (net 2)";
 
@@ -242,9 +242,9 @@ private slots:
         QTest::addColumn<bool>("locked");
         QTest::newRow("(segment (start 1 2) (end 4 6) (width 0.2) (layer F.Cu) (net 1) (tstamp 5E203814) (status 0))")
             << false;
-        QTest::newRow("(segment locked (start 1 2) (end 4 6) (width 0.2) (layer \"F.Cu\") (net 1) (tstamp 1-2))")
+        QTest::newRow(R"((segment locked (start 1 2) (end 4 6) (width 0.2) (layer "F.Cu") (net 1) (tstamp 1-2)))")
             << true;
-        QTest::newRow("(segment (start 1 2) (end 4 6) (width 0.2) (locked yes) (layer \"F.Cu\") (net 1) (uuid \"1\"))")
+        QTest::newRow(R"((segment (start 1 2) (end 4 6) (width 0.2) (locked yes) (layer "F.Cu") (net 1) (uuid "1")))")
             << true;
     }
 
@@ -350,6 +350,23 @@ private slots:
         }
         qInfo("%lld ms; %d wires, %d free ends, %d junctions, %d rat lines", milliseconds, wires.size(), free,
               All<TGraphicsJunctionItem>(imported).size(), All<TGraphicsRatLineItem>(imported).size());
+    }
+
+    void packagesLinkTheSameAgain_data() { AddDesigns(); }
+
+    /** What packages link by touch is what the import has linked to their pads. */
+    void packagesLinkTheSameAgain()
+    {
+        QFETCH(QString, file);
+        const TImportResult imported = ImportBoard(file);
+        const QString before = imported.board->Dump();
+        int cut = 0;
+        for (TGraphicsPackageItem* package : All<TGraphicsPackageItem>(imported)) {
+            cut += package->Disconnect({}).size();
+            package->Connect({});
+        }
+        QVERIFY(cut > 0);
+        QVERIFY(imported.board->Dump() == before); // Too much to be shown.
     }
 
     void keepsTheLengthOfTracks_data() { AddDesigns(); }

@@ -57,12 +57,12 @@ private slots:
             "(fill yes (arc_segments 16) (thermal_gap 0.4) (thermal_bridge_width 0.5)) @ "
             "(filled_polygon (pts (xy 1 1) (xy 2 1) (xy 2 2))))");
         QTest::newRow("version 6") << QByteArray(
-            "(zone locked (net 1) (net_name \"GND\") (layer \"F.Cu\") (tstamp 1-2) (hatch edge 0.508) (priority 3)"
+            R"((zone locked (net 1) (net_name "GND") (layer "F.Cu") (tstamp 1-2) (hatch edge 0.508) (priority 3))"
             "(connect_pads (clearance 0.3)) (min_thickness 0.25) (filled_areas_thickness no)"
             "(fill yes (thermal_gap 0.4) (thermal_bridge_width 0.5)) @ "
-            "(filled_polygon (layer \"F.Cu\") (pts (xy 1 1) (xy 2 1) (xy 2 2))))");
+            R"((filled_polygon (layer "F.Cu") (pts (xy 1 1) (xy 2 1) (xy 2 2)))))");
         QTest::newRow("version 8") << QByteArray(
-            "(zone (net 1) (net_name \"GND\") (locked yes) (layers \"F.Cu\") (uuid \"1\") (name \"x\") (hatch edge 0.5)"
+            R"((zone (net 1) (net_name "GND") (locked yes) (layers "F.Cu") (uuid "1") (name "x") (hatch edge 0.5))"
             "(priority 3) (connect_pads (clearance 0.3)) (min_thickness 0.25) (filled_areas_thickness no)"
             "(fill yes (thermal_gap 0.4) (thermal_bridge_width 0.5)) @)");
     }
@@ -134,8 +134,8 @@ private slots:
         using namespace Osmirel;
         QTest::addColumn<QByteArray>("layers");
         QTest::addColumn<QList<int>>("pours"); // The layers of what one polygon gives.
-        QTest::newRow("one") << QByteArray("(layer \"In1.Cu\")") << QList<int>{Copper2};
-        QTest::newRow("two") << QByteArray("(layers \"F.Cu\" \"B.Cu\")") << QList<int>{CopperTop, CopperBottom};
+        QTest::newRow("one") << QByteArray(R"((layer "In1.Cu"))") << QList<int>{Copper2};
+        QTest::newRow("two") << QByteArray(R"((layers "F.Cu" "B.Cu"))") << QList<int>{CopperTop, CopperBottom};
         QTest::newRow("both sides") << QByteArray("(layers F&B.Cu)") << QList<int>{CopperTop, CopperBottom};
         QTest::newRow("all") << QByteArray("(layers *.Cu)") << QList<int>{CopperTop, Copper2, CopperBottom};
     }
@@ -225,7 +225,7 @@ private slots:
         QFETCH(QByteArray, layers);
         QFETCH(QByteArray, allowed);
         QFETCH(QList<int>, acting);
-        const QByteArray zone = "(zone (net 0) (net_name \"\") " + layers + " (hatch edge 0.5) (keepout " + allowed
+        const QByteArray zone = R"((zone (net 0) (net_name "") )" + layers + " (hatch edge 0.5) (keepout " + allowed
                                 + ") (fill (thermal_gap 0.5)) " + square + ")";
         const TImportResult onBoard = Import(zone);
         const TImportResult inFootprint = Import("(footprint A (layer F.Cu) (at 3 4 90) " + zone + ")");
@@ -253,13 +253,13 @@ private slots:
     {
         QTest::addColumn<QByteArray>("footprint"); // An at sign stands for the two pads.
         QTest::newRow("pad groups") << QByteArray(
-            "(footprint \"Lib:Bridge\" (layer F.Cu) (at 10 20 90) (property \"Reference\" \"NT1\" (at 0 0) (layer "
-            "F.SilkS)) (net_tie_pad_groups \"1, 2\") @)");
+            R"((footprint "Lib:Bridge" (layer F.Cu) (at 10 20 90) (property "Reference" "NT1" (at 0 0) (layer )"
+            R"(F.SilkS)) (net_tie_pad_groups "1, 2") @))");
         QTest::newRow("by name") << QByteArray(
             "(module NetTie:NetTie-2_SMD locked (layer F.Cu) (at 10 20 90) (fp_text reference NT1 (at 0 0) (layer "
             "F.SilkS)) (attr virtual) @)");
         QTest::newRow("by keyword") << QByteArray(
-            "(module Bridge (layer F.Cu) (at 10 20 90) (tags \"net tie\") (fp_text reference NT1 (at 0 0) (layer "
+            R"((module Bridge (layer F.Cu) (at 10 20 90) (tags "net tie") (fp_text reference NT1 (at 0 0) (layer )"
             "F.SilkS)) @)");
     }
 
@@ -269,7 +269,7 @@ private slots:
         const QByteArray pads =
             "(fp_poly (pts (xy -0.5 -0.1) (xy 0.5 -0.1) (xy 0.5 0.1) (xy -0.5 0.1)) (layer F.Cu) (width 0))"
             "(pad 1 smd circle (at -0.5 0 90) (size 0.5 0.5) (layers F.Cu) (net 1 GND))"
-            "(pad 2 smd circle (at 0.5 0 90) (size 0.5 0.5) (layers F.Cu) (net 2 \"/I{slash}O\"))";
+            R"((pad 2 smd circle (at 0.5 0 90) (size 0.5 0.5) (layers F.Cu) (net 2 "/I{slash}O")))";
         const QByteArray tracks = "(segment (start 10 20.5) (end 10 30) (width 0.2) (layer F.Cu) (net 1))"
                                   "(segment (start 10 10) (end 10 19.4) (width 0.2) (layer F.Cu) (net 2))"
                                   "(segment (start 10 20.5) (end 0 0) (width 0.2) (layer B.Cu) (net 1))";
@@ -348,8 +348,8 @@ private slots:
         const QStringList both = {"Default", "Power"};
         row("none", "", "", {"Default"}, "Default", "Default");
         row("version 5",
-            "(net_class Default \"\" (clearance 0.2) (add_net \"/I{slash}O\")) (net_class Power \"\" (add_net GND))",
-            "", both, "Power", "Default");
+            R"((net_class Default "" (clearance 0.2) (add_net "/I{slash}O")) (net_class Power "" (add_net GND)))", "",
+            both, "Power", "Default");
         row("version 6", "",
             R"({"net_settings": {"classes": [{"name": "Default"}, {"name": "Power", "nets": ["GND"]}]}})", both,
             "Power", "Default");
@@ -428,7 +428,7 @@ private slots:
                                << false;
         QTest::newRow("missing") << QByteArray() << QByteArray() << true;
         QTest::newRow("missing, and not needed")
-            << QByteArray() << QByteArray("(net_class Power \"\" (add_net GND))") << false;
+            << QByteArray() << QByteArray(R"((net_class Power "" (add_net GND)))") << false;
     }
 
     void readsTheProjectBesideTheBoard()

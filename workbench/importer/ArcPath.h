@@ -14,9 +14,9 @@ namespace ArcPath {
 struct TArc
 {
     QPointF centre;
-    double radius;
-    double startAngle;
-    double sweep;
+    double radius = 0;
+    double startAngle = 0;
+    double sweep = 0;
 };
 
 /** The arc through three points; none if they lie in one line. */

@@ -133,7 +133,7 @@ void LinkTracks(TBoardDraft& draft)
     for (const std::shared_ptr<TTrackGroup>& group : groups) {
         group->Join();
         for (const TTrackPiece& piece : group->Pieces()) {
-            pieces.push_back({group.get(), &piece});
+            pieces.emplace_back(group.get(), &piece);
         }
     }
     std::stable_sort(pieces.begin(), pieces.end(),

@@ -67,7 +67,7 @@ void TNetSettings::AssignPattern(const QString& pattern, const QString& netClass
 
 QString TNetSettings::ReadProject(const QByteArray& json)
 {
-    QJsonParseError error;
+    QJsonParseError error = {};
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError) {
         const auto line = json.left(error.offset).count('\n') + 1;
