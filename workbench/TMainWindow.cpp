@@ -29,6 +29,18 @@
 #include <QUndoStack>
 #include <QUndoView>
 
+namespace {
+
+/** Shows as much of a text as the status bar has room for, and all of it as a tool tip. */
+void ShowShortened(QLabel& label, const QString& text)
+{
+    constexpr int widest = 460;
+    label.setText(label.fontMetrics().elidedText(text, Qt::ElideRight, widest));
+    label.setToolTip(text);
+}
+
+} // namespace
+
 TMainWindow::TMainWindow(QWidget* parent)
     : QMainWindow(parent), undoStack(new QUndoStack(this)), selection(new TSelection(this)), canvas(new TCanvas(this))
 {
@@ -221,11 +233,8 @@ void TMainWindow::ShowBoard(TImportResult result, const QString& name)
     designators->setChecked(board.RefDesVisible());
     values->setChecked(board.ValuesVisible());
     setWindowTitle(tr("%1 – Workbench").arg(name));
-    content->setText(Kinds::Summary(board.Items()));
-    constexpr int widestNotice = 420;
-    const QString firstNotice = notices.join(QStringLiteral("; "));
-    notice->setText(notice->fontMetrics().elidedText(firstNotice, Qt::ElideRight, widestNotice));
-    notice->setToolTip(notices.join(QLatin1Char('\n')));
+    ShowShortened(*content, Kinds::Summary(board.Items()));
+    ShowShortened(*notice, notices.join(QStringLiteral("; ")));
 }
 
 TBoard* TMainWindow::Board() const

@@ -11,14 +11,15 @@ namespace Test {
 
 namespace {
 
-/** The items without those that say something of others: the rat lines, and what is linked to pads and vias. */
+/** The items that the model knows how to edit, and the packages that some are part of. */
 QList<TGraphicsItem*> ModelledItems(const TBoard& board)
 {
     QList<TGraphicsItem*> items = board.Items();
-    const auto saysMore = [](const TGraphicsItem* item) {
-        return item->IsDerived() || item->type() == ItemType::Wire || item->type() == ItemType::NetTiePcb;
+    const auto isUnknown = [](const TGraphicsItem* item) {
+        return item->type() != ItemType::Via && item->type() != ItemType::Pad && item->type() != ItemType::Hole
+               && item->type() != ItemType::Package;
     };
-    items.erase(std::remove_if(items.begin(), items.end(), saysMore), items.end());
+    items.erase(std::remove_if(items.begin(), items.end(), isUnknown), items.end());
     return items;
 }
 

@@ -49,7 +49,7 @@ private:
     std::vector<PanelCell> Cells() const;
 
     std::unique_ptr<TDesign> design;
-    const QList<TGraphicsItem*> items; ///< Without the rat lines and what is linked to pads and vias.
+    const QList<TGraphicsItem*> items; ///< Those that the model knows.
     EditingModel model;
     QUndoStack stack;
     PanelWindow& window;

@@ -27,6 +27,7 @@ private slots:
     void saysWhatItDoesNotUnderstand_data();
     void saysWhatItDoesNotUnderstand();
     void tellsEveryOption();
+    void nodesOfAWire();
     void stepsSayTheirResults_data();
     void stepsSayTheirResults();
     void aStepThatFailsEndsTheRun_data();
@@ -112,6 +113,12 @@ void TestCommandLine::saysWhatItDoesNotUnderstand_data()
     row({"--key", "Bogus"}, "--key: \"Bogus\" is no key");
     row({"--key", ""}, "--key: \"\" is no key");
     row({"--key", "Ctrl+K, Ctrl+D"}, "--key: \"Ctrl+K, Ctrl+D\" is no key");
+    row({"--add-node", "1"}, "--add-node: \"1\" is no place: x,y in millimetres");
+    row({"--add-node", "1,2,3"}, "--add-node: \"1,2,3\" is no place");
+    row({"--add-node", "a,b"}, "--add-node: \"a,b\" is no place");
+    row({"--add-node", "inf,0"}, "--add-node: \"inf,0\" is no place");
+    row({"--rename"}, "--rename needs TEXT");
+    row({"--values", "1"}, "--values: takes on or off, not \"1\"");
     row({"--bypass", "yes"}, "--bypass: takes on or off, not \"yes\"");
 }
 
@@ -131,8 +138,10 @@ void TestCommandLine::tellsEveryOption()
 {
     QVERIFY(TCommandLine::Parse({"--help"}).help);
     const QString usage = TCommandLine::Usage();
-    for (const QString& option :
-         Words("--select --panel --set --key --bypass --undo --redo --history --dump --screenshot --timing --help")) {
+    for (
+        const QString& option : Words(
+            "--select --panel --set --key --bypass --rename --revalue --lock --unlock --connect --disconnect "
+            "--add-node --remove-node --designators --values --undo --redo --history --dump --screenshot --timing --help")) {
         QVERIFY2(usage.contains("  " + option + ' '), qPrintable(option));
     }
 }
@@ -190,6 +199,17 @@ void TestCommandLine::stepsSayTheirResults_data()
          "Size (W x H): 1.50 mm x 2.00 mm (Change height of 1 pad)"});
     row("a key that the set does not know", {"--select", "via", "--key", "O"},
         {"selected: 3 vias", "pressed: O (no edit)"});
+    row("a package renamed and given a value",
+        {"--select", "package", "--rename", "U7", "--revalue", "10k", "--undo", "2"},
+        {"selected: 1 package", "Rename 1 package", "Change value of 1 package", "undone: Change value of 1 package",
+         "undone: Rename 1 package"});
+    row("a package locked and unlocked", {"--select", "package", "--lock", "--unlock", "--history"},
+        {"selected: 1 package", "Change lock of 1 package", "Change lock of 1 package", "history: 2 of 2 done",
+         "  1 Change lock of 1 package", "  2 Change lock of 1 package"});
+    row("a package connected and disconnected", {"--select", "package", "--disconnect", "--connect"},
+        {"selected: 1 package", "Disconnect 1 package", "Connect 1 package"});
+    row("texts of packages shown and hidden", {"--designators", "off", "--values", "on"},
+        {"designators: hidden", "values: shown"});
     row("bypass", {"--select", "via,hole", "--bypass", "on", "--bypass", "off"},
         {"selected: 3 vias, 2 holes", "bypass on: 3 vias, 2 holes", "bypass off: 3 vias, 2 holes"});
 }
@@ -212,7 +232,8 @@ void TestCommandLine::aStepThatFailsEndsTheRun_data()
 
     // The step fails as the second of three.
     const auto row = [](const char* name, const QStringList& before, const QStringList& step, const char* cause) {
-        QTest::newRow(name) << before + step + QStringList{"--history"} << "workbench: step 2 (" + step.first() + ' '
+        QTest::newRow(name) << before + step + QStringList{"--history"}
+                            << "workbench: step 2 (" + step.first() + (step.size() > 1 ? ' ' : ')')
                             << QString("): %1\n").arg(cause);
     };
     const QStringList via{"--select", "via"};
@@ -224,6 +245,11 @@ void TestCommandLine::aStepThatFailsEndsTheRun_data()
     row("an unknown kind", {"--panel"}, {"--select", "wire"}, "the board has no wire; it has via, pad, package, hole");
     row("a kind that is not selected", {"--panel"}, {"--select", "pour"},
         "the board has no pour; it has via, pad, package, hole");
+    row("a name for vias", via, {"--rename", "U7"}, "select packages that are not named on the schematic first");
+    row("a lock for vias", via, {"--lock"}, "select packages first");
+    row("a node in a via", via, {"--add-node", "1,2"}, "select one wire first");
+    row("a node between vias", via, {"--remove-node"},
+        "select a wire that ends where the next one begins, or those two first");
     row("a position behind the last", via, {"--select", "hole[2]"}, "there is no hole[2]: positions go from 0 to 1");
     row("a range that ends behind the last", via, {"--select", "all[0..9]"},
         "there is no all[9]: positions go from 0 to 8");
@@ -355,6 +381,20 @@ void TestCommandLine::everyRowOfTheSampleCanBeUndone()
     QCOMPARE(workbench.Dump(), before);
     workbench.Results({"--redo", "99"});
     QCOMPARE(workbench.Dump(), after);
+}
+
+void TestCommandLine::nodesOfAWire()
+{
+    Test::ShownWorkbench workbench(SampleBoardFile());
+    const QString before = workbench.Dump();
+    const int wires = workbench.Items(ItemType::Wire).size();
+    QCOMPARE(workbench.Results({"--select", "wire[0]", "--add-node", "0,0"}),
+             QString("selected: 1 wire\nAdd a node to 1 wire\n"));
+    QCOMPARE(workbench.Items(ItemType::Wire).size(), wires + 1);
+    QCOMPARE(workbench.Results({"--remove-node"}), QString("Remove a node from 1 wire\n"));
+    QCOMPARE(workbench.Dump(), before);
+    workbench.Results({"--undo", "2"});
+    QCOMPARE(workbench.Dump(), before);
 }
 
 PROPERTIES_TEST_MAIN(TestCommandLine)

@@ -276,7 +276,7 @@ private slots:
     {
         triesAll = qEnvironmentVariableIsEmpty("RC_PARAMS");
         if (triesAll) {
-            qputenv("RC_PARAMS", "seed=20240108 max_success=200");
+            qputenv("RC_PARAMS", "seed=20240108 max_success=160");
         }
     }
 
