@@ -220,16 +220,39 @@ private:
         }
     }
 
+    /** Acts on what is selected, or else on a package or a wire, if the action suits that. */
     void DoAction(const Step& step)
     {
         const TDesignAction& action = DesignActions::All()[step.what % DesignActions::All().size()];
-        const Items selected = Selected();
-        const QPointF point = selected.isEmpty() ? QPointF() : selected.first()->sceneBoundingRect().center();
-        const QString text = QStringLiteral("text %1").arg(step.value);
-        if (auto command = action.make({design, selected, text, point})) {
+        if (!ActOn(action, step, Selected())) {
+            for (const ItemType::Number type : {ItemType::Package, ItemType::Wire}) {
+                Items ofType;
+                for (TGraphicsItem* item : design.Board().Items()) {
+                    if (item->type() == type) {
+                        ofType.append(item);
+                    }
+                }
+                if (ActOn(action, step, {ofType[step.value % ofType.size()]})) {
+                    return;
+                }
+            }
+        }
+    }
+
+    bool ActOn(const TDesignAction& action, const Step& step, const Items& items)
+    {
+        const QPointF point = items.isEmpty() ? QPointF() : items.first()->sceneBoundingRect().center();
+        design.Board().Scene()->clearSelection();
+        for (TGraphicsItem* item : items) {
+            item->setSelected(true);
+        }
+        auto command = action.make({design, items, QStringLiteral("text %1").arg(step.value), point});
+        if (command) {
             used.insert(QString::fromLatin1(action.option));
             Push(command.release());
+            return true;
         }
+        return false;
     }
 
     void Press(const Step& step)
