@@ -46,6 +46,24 @@ void TLayerList::SetLayers(TLayerManager* newLayers)
     }
 }
 
+bool TLayerList::ShowLayer(const QString& name, bool on)
+{
+    const QList<QListWidgetItem*> named = findItems(name, Qt::MatchExactly);
+    for (QListWidgetItem* item : named) {
+        item->setCheckState(on ? Qt::Checked : Qt::Unchecked);
+    }
+    return !named.isEmpty();
+}
+
+QStringList TLayerList::Names() const
+{
+    QStringList names;
+    for (int row = 0; row < count(); ++row) {
+        names.append(item(row)->text());
+    }
+    return names;
+}
+
 void TLayerList::slotItemChanged(QListWidgetItem* item)
 {
     if (!layers) {

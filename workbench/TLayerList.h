@@ -17,6 +17,11 @@ public:
     /** Lists the layers of a table, which is the board's and must outlive the list or be replaced; null lists none. */
     void SetLayers(TLayerManager* newLayers);
 
+    /** Shows or hides the layer of that name; false if there is none. */
+    bool ShowLayer(const QString& name, bool on);
+    /** The names of all layers, from the top down. */
+    QStringList Names() const;
+
 signals:
     void sigVisibilityChanged(Osmirel::Layer layer, bool visible);
 

@@ -41,6 +41,7 @@ public:
     TPropertyEditing& Editing() const { return *editing; }
     TPropertyWidget& Panel() const { return *panel; }
     TCanvas& Canvas() const { return *canvas; }
+    TLayerList& Layers() const { return *layerList; }
 
     /** Does something with what is selected; false if the selection does not suit it, or nothing is shown. The point
      *  is one of the scene. */

@@ -117,6 +117,7 @@ void TestCommandLine::saysWhatItDoesNotUnderstand_data()
     row({"--add-node", "1,2,3"}, "--add-node: \"1,2,3\" is no place");
     row({"--add-node", "a,b"}, "--add-node: \"a,b\" is no place");
     row({"--add-node", "inf,0"}, "--add-node: \"inf,0\" is no place");
+    row({"--zoom", "out"}, "--zoom: takes all or selection, not \"out\"");
     row({"--rename"}, "--rename needs TEXT");
     row({"--values", "1"}, "--values: takes on or off, not \"1\"");
     row({"--bypass", "yes"}, "--bypass: takes on or off, not \"yes\"");
@@ -138,10 +139,10 @@ void TestCommandLine::tellsEveryOption()
 {
     QVERIFY(TCommandLine::Parse({"--help"}).help);
     const QString usage = TCommandLine::Usage();
-    for (
-        const QString& option : Words(
-            "--select --panel --set --key --bypass --rename --revalue --lock --unlock --connect --disconnect "
-            "--add-node --remove-node --designators --values --undo --redo --history --dump --screenshot --timing --help")) {
+    for (const QString& option :
+         Words("--select --panel --set --key --bypass --rename --revalue --lock --unlock --connect --disconnect "
+               "--add-node --remove-node --designators --values --show-layers --hide-layers --zoom "
+               "--undo --redo --history --dump --screenshot --timing --help")) {
         QVERIFY2(usage.contains("  " + option + ' '), qPrintable(option));
     }
 }
@@ -210,6 +211,8 @@ void TestCommandLine::stepsSayTheirResults_data()
         {"selected: 1 package", "Disconnect 1 package", "Connect 1 package"});
     row("texts of packages shown and hidden", {"--designators", "off", "--values", "on"},
         {"designators: hidden", "values: shown"});
+    row("layers hidden and shown", {"--hide-layers", "Top,Inner 1", "--show-layers", "all", "--zoom", "all"},
+        {"layers hidden: Top,Inner 1", "layers shown: all", "zoomed: all"});
     row("bypass", {"--select", "via,hole", "--bypass", "on", "--bypass", "off"},
         {"selected: 3 vias, 2 holes", "bypass on: 3 vias, 2 holes", "bypass off: 3 vias, 2 holes"});
 }
@@ -245,6 +248,9 @@ void TestCommandLine::aStepThatFailsEndsTheRun_data()
     row("an unknown kind", {"--panel"}, {"--select", "wire"}, "the board has no wire; it has via, pad, package, hole");
     row("a kind that is not selected", {"--panel"}, {"--select", "pour"},
         "the board has no pour; it has via, pad, package, hole");
+    row("an unknown layer", {"--panel"}, {"--hide-layers", "Top,Middle"},
+        "there is no layer \"Middle\"; the board has Top, Inner 1, Inner 2, Bottom");
+    row("zoom to nothing", {"--panel"}, {"--zoom", "selection"}, "nothing is selected");
     row("a name for vias", via, {"--rename", "U7"}, "select packages that are not named on the schematic first");
     row("a lock for vias", via, {"--lock"}, "select packages first");
     row("a node in a via", via, {"--add-node", "1,2"}, "select one wire first");

@@ -101,6 +101,27 @@ int ParseCount(const QString& count)
     return count.isEmpty() ? 1 : count.toInt();
 }
 
+TPerform ParseZoom(const QString& extent)
+{
+    if (extent == QLatin1String("all")) {
+        return [](TSession& session) { return session.ZoomToAll(); };
+    }
+    if (extent == QLatin1String("selection")) {
+        return [](TSession& session) { return session.ZoomToSelection(); };
+    }
+    throw TSessionError(QStringLiteral("takes all or selection, not \"%1\"").arg(extent));
+}
+
+TPerform ParseShowLayers(const QString& names)
+{
+    return [names](TSession& session) { return session.ShowLayers(names); };
+}
+
+TPerform ParseHideLayers(const QString& names)
+{
+    return [names](TSession& session) { return session.HideLayers(names); };
+}
+
 TPerform ParseUndo(const QString& count)
 {
     return [times = ParseCount(count)](TSession& session) { return session.Undo(times); };
@@ -155,6 +176,9 @@ std::vector<TStepOption> MakeStepOptions()
         {"--history", Argument::None, "", "print the undo history", ParseHistory},
         {"--dump", Argument::Required, "FILE", "write every item of the design as one line of text; - prints it",
          ParseDump},
+        {"--show-layers", Argument::Required, "LAYERS", "show layers, several with commas, or all", ParseShowLayers},
+        {"--hide-layers", Argument::Required, "LAYERS", "hide layers, several with commas, or all", ParseHideLayers},
+        {"--zoom", Argument::Required, "EXTENT", "zoom to all or selection", ParseZoom},
         {"--screenshot", Argument::Required, "FILE", "write the window as a PNG picture", ParseScreenshot},
     };
     options.insert(options.end(), others);

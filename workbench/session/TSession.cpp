@@ -11,6 +11,7 @@
 #include "workbench/session/TSessionError.h"
 #include "workbench/TCanvas.h"
 #include "workbench/TDesign.h"
+#include "workbench/TLayerList.h"
 #include "workbench/TMainWindow.h"
 #include "workbench/TSelection.h"
 
@@ -147,6 +148,48 @@ QString TSession::ShowValues(bool on)
 {
     window.ShowValues(on);
     return QStringLiteral("values: %1").arg(on ? QStringLiteral("shown") : QStringLiteral("hidden"));
+}
+
+QString TSession::ShowLayers(const QString& names)
+{
+    return SetLayers(names, true);
+}
+
+QString TSession::HideLayers(const QString& names)
+{
+    return SetLayers(names, false);
+}
+
+QString TSession::SetLayers(const QString& names, bool on)
+{
+    TLayerList& layers = window.Layers();
+    const QStringList known = layers.Names();
+    const QStringList wanted = names == QLatin1String("all") ? known : names.split(QLatin1Char(','));
+    for (const QString& name : wanted) {
+        if (!known.contains(name)) {
+            throw TSessionError(QStringLiteral("there is no layer \"%1\"; the board has %2")
+                                    .arg(name, known.join(QStringLiteral(", "))));
+        }
+    }
+    for (const QString& name : wanted) {
+        layers.ShowLayer(name, on);
+    }
+    return QStringLiteral("layers %1: %2").arg(on ? QStringLiteral("shown") : QStringLiteral("hidden"), names);
+}
+
+QString TSession::ZoomToAll()
+{
+    window.Canvas().FitAll();
+    return QStringLiteral("zoomed: all");
+}
+
+QString TSession::ZoomToSelection()
+{
+    if (window.Selection().Items().isEmpty()) {
+        throw TSessionError(QStringLiteral("nothing is selected"));
+    }
+    window.Canvas().FitSelection();
+    return QStringLiteral("zoomed: selection");
 }
 
 QString TSession::Undo(int times)

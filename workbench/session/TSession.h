@@ -35,6 +35,11 @@ public:
     /** Shows or hides the designators, or the values, of all packages. */
     QString ShowDesignators(bool on);
     QString ShowValues(bool on);
+    /** Shows or hides the layers of a list of names, or "all". */
+    QString ShowLayers(const QString& names);
+    QString HideLayers(const QString& names);
+    QString ZoomToAll();
+    QString ZoomToSelection();
     QString Undo(int times);
     QString Redo(int times);
     QString History() const;
@@ -48,6 +53,7 @@ private:
     /** The texts of the commands that were pushed since the stack had this index. */
     QStringList PushedSince(int index) const;
     QString Move(int times, bool back);
+    QString SetLayers(const QString& names, bool on);
 
     TMainWindow& window;
 };
