@@ -1,5 +1,6 @@
 #include "workbench/DesignActions.h"
 
+#include "properties/commands/ProjectParts.h"
 #include "properties/commands/TCmdLock.h"
 #include "properties/commands/TCmdPackage.h"
 #include "properties/commands/TCmdWire.h"
@@ -25,7 +26,7 @@ bool HasAny(const TActionContext& context, std::initializer_list<ItemType::Numbe
 /** In a project that is kept in step, the packages of components are named on the schematic. */
 bool HasPackageOfItsOwn(const TActionContext& context)
 {
-    const bool inStep = context.design.Project().Kind() == TProject::InStep;
+    const bool inStep = ProjectParts::IsInStep(&context.design.Project());
     return std::any_of(context.selection.cbegin(), context.selection.cend(), [inStep](const TGraphicsItem* item) {
         return item->type() == ItemType::Package
                && !(inStep && static_cast<const TGraphicsPackageItem*>(item)->ComponentNumber() != 0);

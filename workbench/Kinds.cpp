@@ -136,6 +136,7 @@ const QVector<TKind>& Kinds::All()
          makeSetForPrimitives},
         {ItemType::Ellipse, QT_TRANSLATE_NOOP("Kinds", "ellipse"), QT_TRANSLATE_NOOP("Kinds", "ellipses"),
          makeSetForPrimitives},
+        // The set of drawings shows no rows for these.
         {ItemType::Polyline, QT_TRANSLATE_NOOP("Kinds", "polyline"), QT_TRANSLATE_NOOP("Kinds", "polylines"),
          makeSetForPrimitives},
         {ItemType::Polygon, QT_TRANSLATE_NOOP("Kinds", "polygon"), QT_TRANSLATE_NOOP("Kinds", "polygons"),

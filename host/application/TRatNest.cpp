@@ -28,18 +28,16 @@ void TRatNest::SetNetModel(const TNetModel* newModel)
 
 void TRatNest::Ask(const QStringList& nets)
 {
-    if (nets.isEmpty()) {
-        return;
+    // A caller that asks again and again gives a list that grows. The names that it shares with the last one are known,
+    // which costs next to nothing to see.
+    int known = 0;
+    while (known < std::min(nets.size(), lastAsked.size()) && nets[known].isSharedWith(lastAsked[known])) {
+        ++known;
     }
-    // A caller that asks again and again gives a list that grows: what was in it before is not gone through again.
-    const bool hasGrown =
-        askedCount > 0 && nets.size() >= askedCount && nets.first() == firstAsked && nets[askedCount - 1] == lastAsked;
-    for (int i = hasGrown ? askedCount : 0; i < nets.size(); ++i) {
+    for (int i = known; i < nets.size(); ++i) {
         askedNets.insert(nets[i]);
     }
-    askedCount = nets.size();
-    firstAsked = nets.first();
-    lastAsked = nets.last();
+    lastAsked = nets;
     WorkOutLater();
 }
 
@@ -95,7 +93,7 @@ void TRatNest::WorkOut()
         return;
     }
     askedNets.clear();
-    askedCount = 0;
+    lastAsked.clear();
     askedComponents.clear();
 
     const BoardCopper copper(scene.DesignItems());

@@ -58,9 +58,7 @@ private:
     QTimer whenIdle;
     QMap<QString, QVector<TGraphicsRatLineItem*>> linesOf; // Owned by the scene.
     QSet<QString> askedNets;
-    int askedCount = 0; ///< Of the list that was asked for last, with its first and last name.
-    QString firstAsked;
-    QString lastAsked;
+    QStringList lastAsked; ///< The list that was asked for last.
     QSet<unsigned short> askedComponents;
     bool first = true;
 };

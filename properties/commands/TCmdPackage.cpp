@@ -14,6 +14,14 @@ QGraphicsView* ViewOf(TBoard* board)
     return board ? board->View() : nullptr;
 }
 
+/** Forgets the wires that are no longer on the board. */
+void KeepExistingConnections(const TExistingItems& existing, QVector<QVector<TGraphicsItem*>>& connections)
+{
+    for (QVector<TGraphicsItem*>& ofItem : connections) {
+        existing.KeepOnlyExisting(ofItem);
+    }
+}
+
 } // namespace
 
 TCmdPkgSide::TCmdPkgSide(const QList<TGraphicsPackageItem*>& packages, Osmirel::Layer layer, TBoard* ofBoard)
@@ -29,8 +37,9 @@ TCmdPkgSide::TCmdPkgSide(const QList<TGraphicsPackageItem*>& packages, Osmirel::
 
 void TCmdPkgSide::ExistItems()
 {
-    const TExistingItems existing(ViewOf(board), {ItemType::Package});
+    const TExistingItems existing(ViewOf(board), {ItemType::Package, ItemType::Wire});
     existing.KeepOnlyExisting(items, oldLayers, savedConnections);
+    KeepExistingConnections(existing, savedConnections);
 }
 
 void TCmdPkgSide::SetLayer(TGraphicsPackageItem* package, Osmirel::Layer layer)
@@ -165,8 +174,9 @@ TCmdPkgConnect::TCmdPkgConnect(const QList<TGraphicsItem*>& selection, TBoard* o
 
 void TCmdPkgConnect::ExistItems()
 {
-    const TExistingItems existing(ViewOf(board), {ItemType::Package, ItemType::NetTiePcb});
+    const TExistingItems existing(ViewOf(board), {ItemType::Package, ItemType::NetTiePcb, ItemType::Wire});
     existing.KeepOnlyExisting(items, savedConnections);
+    KeepExistingConnections(existing, savedConnections);
 }
 
 void TCmdPkgConnect::Do()

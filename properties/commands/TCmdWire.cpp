@@ -80,10 +80,14 @@ void TCmdWireAddNode::Undo()
         return;
     }
     wire->SetPoint2(wire->mapFromScene(newWire->ScenePoint(TGraphicsItem::LinkEnd::Last)));
+    // Intended: without a last link of the new wire, the wire's own is left as it is, unless it is the new wire, which
+    // goes.
     TGraphicsItem* last = newWire->LastLink();
-    wire->SetLastLink(last); // Without one, the wire's own link goes with the new wire.
     if (last) {
+        wire->SetLastLink(last);
         last->ReplaceLinkedItem(newWire, wire);
+    } else if (wire->LastLink() == newWire) {
+        wire->SetLastLink(nullptr);
     }
     newWire->SetFirstLink(nullptr);
     newWire->SetLastLink(nullptr);

@@ -30,7 +30,7 @@ TCmdWireLayer::TCmdWireLayer(TProject* ofProject, const QList<TGraphicsWireItem*
     }
     owner = board->Scene();
     for (TGraphicsWireItem* wire : given) {
-        if (wire && wire->Layer() != newLayer) {
+        if (wire && wire->Layer() != newLayer && !Moves(wire)) {
             wires.append(wire);
             oldLayers.append(wire->Layer());
             moving.insert(wire);

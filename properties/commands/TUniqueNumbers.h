@@ -7,15 +7,13 @@
 class TUniqueNumbers
 {
 public:
-    /** Adds a number and tells whether it is new. */
-    bool Add(unsigned short number)
+    /** Adds a number that is not there yet. */
+    void Add(unsigned short number)
     {
-        const bool isNew = !known.contains(number);
-        if (isNew) {
+        if (!known.contains(number)) {
             known.insert(number);
             numbers.append(number);
         }
-        return isNew;
     }
 
     const QList<unsigned short>& List() const { return numbers; }

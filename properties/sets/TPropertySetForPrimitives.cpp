@@ -56,6 +56,7 @@ void TPropertySetForPrimitives::MakeRows(const Values& values, const QList<Osmir
 {
     const TDisplayUnit unit(*items.first());
 
+    // Intended: the value is in the display unit, the suffix always millimetres.
     lineWidth = NewRow<TPropertyFloatSpin>(tr("Line width:"), 0.0, 9999.99, 0.1, 2);
     RowValues::Show(*lineWidth, unit.FromScene(values.lineWidth), tr(" mm"));
     connect(lineWidth, SIGNAL(sigValueChanged(qreal)), this, SLOT(slotSetLineWidth(double)));
@@ -92,6 +93,7 @@ void TPropertySetForPrimitives::MakeRows(const Values& values, const QList<Osmir
     if (layers.size() > 1) {
         AddProperty(layer);
     }
+    // Intended: an item that is just being made takes its layer's colour.
     if (!items.first()->HasTFlag(TGraphicsItem::UndoBypass)) {
         AddProperty(color);
     }

@@ -125,14 +125,7 @@ QList<Osmirel::Layer> TPropertySetForWire::OfferedLayers() const
         return reachesLayers ? static_cast<const TGraphicsViaItem*>(start)->EtchLayers()
                              : QList<Osmirel::Layer>{wire.Layer()};
     }
-    QList<Osmirel::Layer> existing;
-    for (int i = Osmirel::CopperTop; i <= Osmirel::CopperBottom; ++i) {
-        const auto copper = static_cast<Osmirel::Layer>(i);
-        if (wire.Workspace() && wire.Workspace()->Layers().HasLayer(copper)) {
-            existing.append(copper);
-        }
-    }
-    return existing;
+    return wire.Workspace() ? wire.Workspace()->Layers().CopperLayers() : QList<Osmirel::Layer>();
 }
 
 void TPropertySetForWire::SetLayer(Osmirel::Layer newLayer)

@@ -144,6 +144,20 @@ private slots:
         QCOMPARE(board.Items().size(), 1);
     }
 
+    // Without a last link of the new wire, undo leaves the wire's own as it is.
+    void undoLeavesALastLinkThatIsNotTheNewWire()
+    {
+        Test::Network board;
+        auto* wire = board.Wire({0, 0}, {100, 0});
+        auto* via = board.Via({40, 0});
+        TCmdWireAddNode command(wire, {40, 0});
+        command.redo();
+        wire->LinkToLast(via);
+        command.undo();
+        QCOMPARE(wire->LastLink(), via);
+        QCOMPARE(via->LinkedWires().size(), 1);
+    }
+
     void loops_data()
     {
         QTest::addColumn<QByteArray>("kind");

@@ -297,7 +297,6 @@ private slots:
         QFETCH(bool, wasDone);
         Design design;
         auto* tie = design.board.NetTie({150, 0});
-        tie->AcceptLink(nullptr, TGraphicsItem::LinkEnd::First); // ignored
         auto* wireOfTie = design.board.Wire({160, 0}, {160, 90});
         wireOfTie->LinkToFirst(tie);
         auto* first = design.Package("A", {0, 0}, 1);

@@ -227,6 +227,9 @@ private slots:
         board.Items();
         board.UpdateRats(all);
         QCOMPARE(board.AskedRats(), (QStringList{"A", "B", "C", "D"}));
+        // One that only looks as if it had grown.
+        board.UpdateRats(QStringList{"B", "E", "D", "C", "F"});
+        QCOMPARE(board.AskedRats(), (QStringList{"A", "B", "C", "D", "E", "F"}));
     }
 
     void theEventLoopCountsAsALook()

@@ -292,6 +292,17 @@ private slots:
         QVERIFY(!item->HasTFlag(TGraphicsItem::UndoBypass));
     }
 
+    void flagsHaveTheirNumbers()
+    {
+        QCOMPARE(unsigned{TGraphicsItem::UndoBypass}, 1U);
+        QCOMPARE(unsigned{TGraphicsItem::OnlyAngleAndLine}, 2U);
+        QCOMPARE(unsigned{TGraphicsItem::Selected}, 8U);
+        QCOMPARE(unsigned{TGraphicsItem::Routing}, 16U);
+        QCOMPARE(unsigned{TGraphicsItem::Lock}, 512U);
+        QCOMPARE(unsigned{TGraphicsItem::MirrorHorizontal}, 0x800U);
+        QCOMPARE(unsigned{TGraphicsItem::MirrorVertical}, 0x1000U);
+    }
+
     void kindsHaveTheirNumbersAndNames()
     {
         Test::TestBoard board;
