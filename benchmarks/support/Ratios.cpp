@@ -98,11 +98,15 @@ void UseOffscreenPlatform()
     }
 }
 
-int RunAndCompare(int argc, char** argv, const std::vector<Goal>& goals)
+int RunAndCompare(int argc, char** argv, const std::vector<Goal>& goals, Order order)
 {
     // What the caller gives comes later and so holds.
-    std::vector<std::string> arguments{argv[0], "--benchmark_enable_random_interleaving=true",
-                                       "--benchmark_repetitions=5"};
+    std::vector<std::string> arguments{argv[0]};
+    if (order == Order::Shuffled) {
+        arguments.insert(arguments.end(), {"--benchmark_enable_random_interleaving=true", "--benchmark_repetitions=5"});
+    } else {
+        arguments.emplace_back("--benchmark_repetitions=3");
+    }
     arguments.insert(arguments.end(), argv + 1, argv + argc);
     std::vector<char*> pointers(arguments.size());
     std::transform(arguments.begin(), arguments.end(), pointers.begin(), [](std::string& one) { return one.data(); });

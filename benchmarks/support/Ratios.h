@@ -54,11 +54,14 @@ struct Goal
 /** Lets the program run without a screen; called before the `QApplication` is made. */
 void UseOffscreenPlatform();
 
+/** In which order the goes are done: a shelf of designs needs those of one subject together. */
+enum class Order { Shuffled, AsRegistered };
+
 /**
  * Runs what is registered, repeated unless the command line says otherwise, and prints medians as a Markdown table: the
  * time for each item, and for a variant that has a baseline the ratio to it, in bold where it misses its goal.
  * Returns the exit code.
  */
-int RunAndCompare(int argc, char** argv, const std::vector<Goal>& goals);
+int RunAndCompare(int argc, char** argv, const std::vector<Goal>& goals, Order order = Order::Shuffled);
 
 } // namespace Bench
