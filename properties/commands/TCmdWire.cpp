@@ -85,6 +85,9 @@ void TCmdWireAddNode::Undo()
     }
     newWire->SetFirstLink(nullptr);
     newWire->SetLastLink(nullptr);
+    // Taken off first: for an item that is deleted on its scene, the toolkit searches the whole scene at the next
+    // change.
+    newWire->Detach();
     delete newWire;
     newWire = nullptr;
 }
