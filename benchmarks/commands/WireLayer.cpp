@@ -152,11 +152,13 @@ public:
                 chain.junction->RemoveLinkedSection(wire);
                 atJunction->AddLinkedWire(wire);
             }
-            chain.junction->Detach();
 
             TGraphicsViaItem* between = PlaceVia(chain.d->ScenePoint(LinkEnd::Last));
             chain.d->LinkToLast(between);
             chain.staying->LinkToFirst(between);
+        }
+        for (const Chain& chain : network.chains) {
+            chain.junction->Detach();
         }
     }
 
@@ -185,6 +187,8 @@ public:
                 chain.junction->AddLinkedSection(wire);
             }
             chain.junction->AttachTo(network.Scene());
+        }
+        for (std::size_t i = 0; i < network.chains.size(); ++i) {
             vias[2 * i]->Detach();
             delete vias[2 * i];
         }

@@ -111,6 +111,7 @@ public:
             last->ReplaceLinkedItem(added, wire);
             added->SetFirstLink(nullptr);
             added->SetLastLink(nullptr);
+            added->Detach();
             delete added;
         }
     }
