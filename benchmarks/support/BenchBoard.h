@@ -24,7 +24,8 @@ enum class Kind {
     UnfilledPour,
     Keepout,
     NetTie,
-    Package, ///< Without children.
+    NetTieSymbol, ///< Those of a schematic; that they lie on a board makes no difference to a set.
+    Package,      ///< Without children.
 };
 
 /** A two-layer board that is shown by a view. */

@@ -8,6 +8,7 @@
 #include <objects/TGraphicsJunctionItem.h>
 #include <objects/TGraphicsKeepoutItem.h>
 #include <objects/TGraphicsNetTiePcbItem.h>
+#include <objects/TGraphicsNetTieSchItem.h>
 #include <objects/TGraphicsOutlineItem.h>
 #include <objects/TGraphicsPackageItem.h>
 #include <objects/TGraphicsPadItem.h>
@@ -164,6 +165,14 @@ TGraphicsItem* PlaceNetTie(ShownBoard& board, int number)
     return tie;
 }
 
+TGraphicsItem* PlaceNetTieSymbol(ShownBoard& board, int number)
+{
+    auto* tie = board.Place<TGraphicsNetTieSchItem>(GridPoint(number));
+    tie->SetNumber(static_cast<quint16>(number));
+    tie->SetName(QStringLiteral("NT%1").arg(number));
+    return tie;
+}
+
 TGraphicsItem* PlacePackage(ShownBoard& board, int number)
 {
     auto* package = board.Place<TGraphicsPackageItem>(GridPoint(number));
@@ -190,6 +199,7 @@ TGraphicsItem* PlaceItem(ShownBoard& board, Kind kind, int number, TGraphicsItem
     case Kind::UnfilledPour: return PlacePour(board, number, false);
     case Kind::Keepout: return PlaceKeepout(board, number);
     case Kind::NetTie: return PlaceNetTie(board, number);
+    case Kind::NetTieSymbol: return PlaceNetTieSymbol(board, number);
     case Kind::Package: break;
     }
     return PlacePackage(board, number);
