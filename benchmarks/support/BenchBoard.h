@@ -20,7 +20,7 @@ enum class Kind {
     Outline,
     Text,
     Wire, ///< Two on each net, joined by a junction that is not counted.
-    Pour, ///< Small ones, each with a net of its own.
+    Pour, ///< Small ones on a handful of nets.
     UnfilledPour,
     Keepout,
     NetTie,

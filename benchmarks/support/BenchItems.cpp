@@ -137,7 +137,7 @@ TGraphicsItem* PlacePour(ShownBoard& board, int number, bool filled)
     pour->SetClearanceToEtch(SizeOf(number));
     pour->SetLineWidth(SizeOf(number) / 4);
     if (filled) {
-        pour->SetNet(QStringLiteral("N%1").arg(number));
+        pour->SetNet(QStringLiteral("N%1").arg(number % 7));
     }
     return pour;
 }

@@ -18,11 +18,12 @@ class Rounds
 public:
     Rounds(Round task, std::size_t variants) : round(std::move(task)), taken(variants) {}
 
-    /** The variant's time in the first round of that size that it has not taken yet. */
+    /** The variant's time in the first round of that size that it has not taken yet; of a size that is measured once,
+     *  that one time again and again. */
     double Take(std::size_t variant, int size)
     {
         std::vector<Times>& done = bySize[size];
-        const std::size_t turn = taken[variant][size]++;
+        const std::size_t turn = size < smallestMeasuredOnce ? taken[variant][size]++ : 0;
         if (turn == done.size()) {
             done.push_back(round(size));
         }

@@ -11,6 +11,9 @@ namespace Bench {
 /** Seconds that each variant of a task took, in the order in which the variants are named. */
 using Times = std::vector<double>;
 
+/** From this size on a task is done once only, whatever the number of repetitions: it takes minutes. */
+constexpr int smallestMeasuredOnce = 1'000'000;
+
 /** Does a task of the given size with every variant in turn. */
 using Round = std::function<Times(int size)>;
 
