@@ -68,7 +68,11 @@ void Add(Shelf& shelf, const char* name, Kind kind, void (*scan)(const Items&), 
             return Bench::Times{scanning, making / static_cast<double>(setCount)};
         });
     };
-    Bench::Register(name, {"scan", "set"}, {1, 10, 100, 1'000, 10'000, 100'000, 1'000'000}, round);
+    std::vector<int> sizes;
+    for (int size = 1; size <= Bench::MostOf(kind); size *= 10) {
+        sizes.push_back(size);
+    }
+    Bench::Register(name, {"scan", "set"}, sizes, round);
 }
 
 using Layers = QList<Osmirel::Layer>;

@@ -136,7 +136,7 @@ void AddAttribute(Shelf& shelf, const char* name, Kind kind, Arguments... argume
     using Given = std::conditional_t<std::is_constructible_v<NamedCommand, const QList<TGraphicsItem*>&, Arguments...>,
                                      TGraphicsItem, typename Attribute::Item>;
 
-    RegisterEdit(name, [&shelf, kind, packed = std::tuple(arguments...)](int size) {
+    const auto makeEdit = [&shelf, kind, packed = std::tuple(arguments...)](int size) {
         const auto newValue = std::apply(
             [](const Arguments&... each) { return typename Attribute::Value(Attribute::FromEditor({each...})); },
             packed);
@@ -147,7 +147,8 @@ void AddAttribute(Shelf& shelf, const char* name, Kind kind, Arguments... argume
                     [&items](const Arguments&... each) { return std::make_unique<NamedCommand>(items, each...); },
                     packed);
             });
-    });
+    };
+    RegisterEdit(name, makeEdit, AllSizes(MostOf(kind)));
 }
 
 } // namespace Bench

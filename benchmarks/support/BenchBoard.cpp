@@ -38,6 +38,12 @@ QPointF GridPoint(int number, double pitch)
     return {pitch * (number % itemsInARow), pitch * (number / itemsInARow)}; // NOLINT: a whole row.
 }
 
+int MostOf(Kind kind)
+{
+    // A text keeps its glyphs as a path: a million of them take 13 GB.
+    return kind == Kind::Text ? 100'000 : 1'000'000;
+}
+
 BenchBoard& BoardOf(Shelf& shelf, Kind kind, int count)
 {
     const std::string family = "items " + std::to_string(static_cast<int>(kind));

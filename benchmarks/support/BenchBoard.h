@@ -68,6 +68,9 @@ private:
 /** Where the item of a number lies in a grid. */
 QPointF GridPoint(int number, double pitch = 50);
 
+/** The most items of a kind that a board is made of. */
+int MostOf(Kind kind);
+
 BenchBoard& BoardOf(Shelf& shelf, Kind kind, int count);
 
 } // namespace Bench
