@@ -1,11 +1,23 @@
+#include "benchmarks/sets/Scans.h"
 #include "benchmarks/support/BenchBoard.h"
 #include "benchmarks/support/Ratios.h"
 
 #include "properties/sets/TPropertySetForHole.h"
+#include "properties/sets/TPropertySetForKeepout.h"
+#include "properties/sets/TPropertySetForMilling.h"
+#include "properties/sets/TPropertySetForNetTiePcb.h"
+#include "properties/sets/TPropertySetForNetTieSch.h"
+#include "properties/sets/TPropertySetForOutline.h"
+#include "properties/sets/TPropertySetForPackage.h"
 #include "properties/sets/TPropertySetForPad.h"
+#include "properties/sets/TPropertySetForPour.h"
+#include "properties/sets/TPropertySetForPrimitives.h"
+#include "properties/sets/TPropertySetForText.h"
 #include "properties/sets/TPropertySetForVia.h"
+#include "properties/sets/TPropertySetForWire.h"
 
-#include <benchmark/benchmark.h>
+#include <application/TProject.h>
+#include <application/TSchematic.h>
 
 #include <QApplication>
 
@@ -14,82 +26,15 @@
 namespace {
 
 using Bench::BenchBoard;
-using Bench::BoardShelf;
+using Bench::Items;
 using Bench::Kind;
-using Items = QList<TGraphicsItem*>;
+using Bench::Shelf;
 
 /** Small selections are scanned many at once: what is timed covers at least so many items. */
 constexpr int itemsInAStretch = 10'000;
 
 /** Of small selections so many sets are made, each with its rows. */
 constexpr int setsInAStretch = 10;
-
-template <class... Values>
-void Use(const Values&... values)
-{
-    (benchmark::DoNotOptimize(values), ...);
-}
-
-// The scans: what a set has to know of its items, read and compared until it is known, and nothing else.
-
-void ScanVias(const Items& items)
-{
-    const TGraphicsViaItem* first = nullptr;
-    bool sameGroup = true;
-    bool sameMask = true;
-    for (const TGraphicsItem* item : items) {
-        if (item->type() != ItemType::Via) {
-            continue;
-        }
-        const auto* via = static_cast<const TGraphicsViaItem*>(item);
-        first = first ? first : via;
-        sameGroup = sameGroup && via->ViaGroup() == first->ViaGroup();
-        sameMask = sameMask && via->MaskEnabled() == first->MaskEnabled();
-    }
-    Use(sameGroup, sameMask);
-}
-
-void ScanPads(const Items& items)
-{
-    const TGraphicsPadItem* first = nullptr;
-    bool sameNumber = true;
-    bool sameName = true;
-    bool sameSide = true;
-    bool sameType = true;
-    bool sameShape = true;
-    bool sameThermal = true;
-    bool sameMask = true;
-    bool samePaste = true;
-    bool inPackage = false;
-    for (const TGraphicsItem* item : items) {
-        if (item->type() != ItemType::Pad) {
-            continue;
-        }
-        const auto* pad = static_cast<const TGraphicsPadItem*>(item);
-        first = first ? first : pad;
-        sameNumber = sameNumber && pad->Number() == first->Number();
-        sameName = sameName && pad->Name() == first->Name();
-        sameSide = sameSide && pad->StartLayer() == first->StartLayer();
-        sameType = sameType && pad->IsSMD() == first->IsSMD();
-        sameShape = sameShape && pad->PadShape() == first->PadShape();
-        sameThermal = sameThermal && pad->Thermal() == first->Thermal();
-        sameMask = sameMask && pad->MaskEnabled() == first->MaskEnabled();
-        samePaste = samePaste && pad->PasteEnabled() == first->PasteEnabled();
-        inPackage = inPackage || pad->parentItem();
-    }
-    Use(sameNumber, sameName, sameSide, sameType, sameShape, sameThermal, sameMask, samePaste, inPackage);
-}
-
-void ScanHoles(const Items& items)
-{
-    double lastDiameter = 0;
-    for (const TGraphicsItem* item : items) {
-        if (item->type() == ItemType::Hole) {
-            lastDiameter = static_cast<const TGraphicsHoleItem*>(item)->Size().width();
-        }
-    }
-    Use(lastDiameter);
-}
 
 std::vector<Items> SelectionsOf(const BenchBoard& board, int size)
 {
@@ -102,10 +47,10 @@ std::vector<Items> SelectionsOf(const BenchBoard& board, int size)
 
 /** Benchmarks a set; @p make makes one for a selection of the board, and @p scan reads what the set has to read. */
 template <class MakeSet>
-void Add(BoardShelf& shelf, const char* name, Kind kind, void (*scan)(const Items&), MakeSet make)
+void Add(Shelf& shelf, const char* name, Kind kind, void (*scan)(const Items&), MakeSet make)
 {
     const auto round = [&shelf, kind, scan, make](int size) {
-        BenchBoard& board = shelf.Board(kind, std::max(size, itemsInAStretch));
+        BenchBoard& board = Bench::BoardOf(shelf, kind, std::max(size, itemsInAStretch));
         const std::vector<Items> selections = SelectionsOf(board, size);
         const auto scanAll = [&] { std::for_each(selections.begin(), selections.end(), scan); };
         const std::size_t setCount = std::min<std::size_t>(selections.size(), setsInAStretch);
@@ -123,19 +68,63 @@ void Add(BoardShelf& shelf, const char* name, Kind kind, void (*scan)(const Item
             return Bench::Times{scanning, making / static_cast<double>(setCount)};
         });
     };
-    Bench::Register(name, {"scan", "set"}, {1, 10, 100, 1'000, 10'000, 100'000, 1'000'000}, round);
+    std::vector<int> sizes;
+    for (int size = 1; size <= Bench::MostOf(kind); size *= 10) {
+        sizes.push_back(size);
+    }
+    Bench::Register(name, {"scan", "set"}, sizes, round);
 }
 
-void AddAll(BoardShelf& shelf)
+using Layers = QList<Osmirel::Layer>;
+
+void AddOfCopper(Shelf& shelf, TProject& project)
 {
-    Add(shelf, "TPropertySetForVia", Kind::Via, ScanVias, [](const Items& items, const BenchBoard& board) {
+    Add(shelf, "TPropertySetForVia", Kind::Via, Bench::ScanVias, [](const Items& items, BenchBoard& board) {
         return std::make_unique<TPropertySetForVia>(items, board.ViaGroups());
     });
-    Add(shelf, "TPropertySetForPad", Kind::Pad, ScanPads, [](const Items& items, const BenchBoard&) {
-        return std::make_unique<TPropertySetForPad>(items, QList{Osmirel::CopperTop, Osmirel::CopperBottom});
+    Add(shelf, "TPropertySetForPad", Kind::Pad, Bench::ScanPads, [](const Items& items, BenchBoard&) {
+        return std::make_unique<TPropertySetForPad>(items, Layers{Osmirel::CopperTop, Osmirel::CopperBottom});
     });
-    Add(shelf, "TPropertySetForHole", Kind::Hole, ScanHoles,
-        [](const Items& items, const BenchBoard&) { return std::make_unique<TPropertySetForHole>(items); });
+    Add(shelf, "TPropertySetForHole", Kind::Hole, Bench::ScanHoles,
+        [](const Items& items, BenchBoard&) { return std::make_unique<TPropertySetForHole>(items); });
+    Add(shelf, "TPropertySetForWire", Kind::Wire, Bench::ScanWires,
+        [&project](const Items& items, BenchBoard&) { return std::make_unique<TPropertySetForWire>(items, &project); });
+    Add(shelf, "TPropertySetForPour", Kind::Pour, Bench::ScanPours, [](const Items& items, BenchBoard&) {
+        return std::make_unique<TPropertySetForPour>(items, Layers{Osmirel::CopperTop, Osmirel::CopperBottom});
+    });
+    Add(shelf, "TPropertySetForKeepout", Kind::Keepout, Bench::ScanKeepouts,
+        [](const Items& items, BenchBoard&) { return std::make_unique<TPropertySetForKeepout>(items); });
+}
+
+void AddOfComponents(Shelf& shelf, TProject& project)
+{
+    Add(shelf, "TPropertySetForPackage", Kind::Package, Bench::ScanPackages, [](const Items& items, BenchBoard& board) {
+        return std::make_unique<TPropertySetForPackage>(items, Layers{Osmirel::PackagesTop, Osmirel::PackagesBottom},
+                                                        &board);
+    });
+    Add(shelf, "TPropertySetForNetTiePcb", Kind::NetTie, Bench::ScanNetTies,
+        [&project](const Items& items, BenchBoard&) {
+            return std::make_unique<TPropertySetForNetTiePcb>(items, &project);
+        });
+    Add(shelf, "TPropertySetForNetTieSch", Kind::NetTieSymbol, Bench::ScanNetTieSymbols,
+        [&project](const Items& items, BenchBoard&) {
+            return std::make_unique<TPropertySetForNetTieSch>(items, &project);
+        });
+}
+
+void AddOfDrawings(Shelf& shelf)
+{
+    Add(shelf, "TPropertySetForText", Kind::Text, Bench::ScanTexts, [](const Items& items, BenchBoard&) {
+        return std::make_unique<TPropertySetForText>(items, Layers{Osmirel::SilkTop, Osmirel::SilkBottom});
+    });
+    Add(shelf, "TPropertySetForPrimitives", Kind::Drawing, Bench::ScanDrawings, [](const Items& items, BenchBoard&) {
+        return std::make_unique<TPropertySetForPrimitives>(items,
+                                                           Layers{Osmirel::DrawingsTop, Osmirel::DrawingsBottom});
+    });
+    Add(shelf, "TPropertySetForMilling", Kind::Milling, Bench::ScanMillings,
+        [](const Items& items, BenchBoard&) { return std::make_unique<TPropertySetForMilling>(items); });
+    Add(shelf, "TPropertySetForOutline", Kind::Outline, Bench::ScanOutlines,
+        [](const Items& items, BenchBoard&) { return std::make_unique<TPropertySetForOutline>(items); });
 }
 
 } // namespace
@@ -144,7 +133,13 @@ int main(int argc, char** argv)
 {
     Bench::UseOffscreenPlatform();
     const QApplication application(argc, argv);
-    BoardShelf shelf;
-    AddAll(shelf);
-    return Bench::RunAndCompare(argc, argv, {{"set", "scan", 2.0, 100'000}});
+    Shelf shelf;
+    TSchematic schematic;
+    TProject project;
+    project.SetKind(TProject::InStep);
+    project.SetSchematic(&schematic);
+    AddOfCopper(shelf, project);
+    AddOfComponents(shelf, project);
+    AddOfDrawings(shelf);
+    return Bench::RunAndCompare(argc, argv, {{"set", "scan", 2.0, 100'000}}, Bench::Order::AsRegistered);
 }

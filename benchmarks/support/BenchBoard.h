@@ -1,21 +1,59 @@
 #pragma once
 
+#include "benchmarks/support/Shelf.h"
+
 #include <application/TBoard.h>
-#include <objects/TGraphicsHoleItem.h>
-#include <objects/TGraphicsPadItem.h>
-#include <objects/TGraphicsViaItem.h>
 
 #include <QGraphicsView>
 
-#include <map>
 #include <memory>
 
 namespace Bench {
 
-enum class Kind { Via, Pad, Hole };
+/** What a board is filled with. */
+enum class Kind {
+    Via,
+    Pad,
+    Hole,
+    Drawing, ///< Rectangles and polygons by turns.
+    Milling,
+    Outline,
+    Text,
+    Wire, ///< Two on each net, joined by a junction that is not counted.
+    Pour, ///< Small ones on a handful of nets.
+    UnfilledPour,
+    Keepout,
+    NetTie,
+    NetTieSymbol, ///< Those of a schematic; that they lie on a board makes no difference to a set.
+    Package,      ///< Without children.
+};
 
-/** A two-layer board with items of one kind, laid out in a grid and each with values of its own, shown by a view. */
-class BenchBoard : public TBoard
+/** A two-layer board that is shown by a view. */
+class ShownBoard : public TBoard
+{
+public:
+    ShownBoard();
+
+    /** Lets scene and view take in the changes, and nets and rat lines come up to date. */
+    void Settle();
+
+    /** Places an item at scene coordinates. */
+    template <class Item>
+    Item* Place(const QPointF& at)
+    {
+        auto item = std::make_unique<Item>();
+        Item* placed = item.get();
+        item->setPos(at);
+        Attach(std::move(item));
+        return placed;
+    }
+
+private:
+    QGraphicsView shown;
+};
+
+/** A board with items of one kind, laid out in a grid and each with values of its own. */
+class BenchBoard : public ShownBoard
 {
 public:
     BenchBoard(Kind kind, int count);
@@ -23,25 +61,16 @@ public:
     /** The items in the order in which they were made. */
     const QList<TGraphicsItem*>& Made() const { return made; }
 
-    /** Lets scene and view take in the changes, as they do after every edit: a change that waits for that costs less.
-     */
-    void Settle();
-
 private:
-    std::unique_ptr<TGraphicsItem> MakeItem(Kind kind, int number) const;
-
     QList<TGraphicsItem*> made;
-    QGraphicsView shown;
 };
 
-/** Boards are slow to make, so that each is made once. */
-class BoardShelf
-{
-public:
-    BenchBoard& Board(Kind kind, int count);
+/** Where the item of a number lies in a grid. */
+QPointF GridPoint(int number, double pitch = 50);
 
-private:
-    std::map<std::pair<Kind, int>, std::unique_ptr<BenchBoard>> boards;
-};
+/** The most items of a kind that a board is made of. */
+int MostOf(Kind kind);
+
+BenchBoard& BoardOf(Shelf& shelf, Kind kind, int count);
 
 } // namespace Bench

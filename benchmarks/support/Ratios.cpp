@@ -18,11 +18,12 @@ class Rounds
 public:
     Rounds(Round task, std::size_t variants) : round(std::move(task)), taken(variants) {}
 
-    /** The variant's time in the first round of that size that it has not taken yet. */
+    /** The variant's time in the first round of that size that it has not taken yet; of a size that is measured once,
+     *  that one time again and again. */
     double Take(std::size_t variant, int size)
     {
         std::vector<Times>& done = bySize[size];
-        const std::size_t turn = taken[variant][size]++;
+        const std::size_t turn = size < smallestMeasuredOnce ? taken[variant][size]++ : 0;
         if (turn == done.size()) {
             done.push_back(round(size));
         }
@@ -98,11 +99,15 @@ void UseOffscreenPlatform()
     }
 }
 
-int RunAndCompare(int argc, char** argv, const std::vector<Goal>& goals)
+int RunAndCompare(int argc, char** argv, const std::vector<Goal>& goals, Order order)
 {
     // What the caller gives comes later and so holds.
-    std::vector<std::string> arguments{argv[0], "--benchmark_enable_random_interleaving=true",
-                                       "--benchmark_repetitions=5"};
+    std::vector<std::string> arguments{argv[0]};
+    if (order == Order::Shuffled) {
+        arguments.insert(arguments.end(), {"--benchmark_enable_random_interleaving=true", "--benchmark_repetitions=5"});
+    } else {
+        arguments.emplace_back("--benchmark_repetitions=3");
+    }
     arguments.insert(arguments.end(), argv + 1, argv + argc);
     std::vector<char*> pointers(arguments.size());
     std::transform(arguments.begin(), arguments.end(), pointers.begin(), [](std::string& one) { return one.data(); });

@@ -11,6 +11,9 @@ namespace Bench {
 /** Seconds that each variant of a task took, in the order in which the variants are named. */
 using Times = std::vector<double>;
 
+/** From this size on a task is done once only, whatever the number of repetitions: it takes minutes. */
+constexpr int smallestMeasuredOnce = 1'000'000;
+
 /** Does a task of the given size with every variant in turn. */
 using Round = std::function<Times(int size)>;
 
@@ -54,11 +57,14 @@ struct Goal
 /** Lets the program run without a screen; called before the `QApplication` is made. */
 void UseOffscreenPlatform();
 
+/** In which order the goes are done: a shelf of designs needs those of one subject together. */
+enum class Order { Shuffled, AsRegistered };
+
 /**
  * Runs what is registered, repeated unless the command line says otherwise, and prints medians as a Markdown table: the
  * time for each item, and for a variant that has a baseline the ratio to it, in bold where it misses its goal.
  * Returns the exit code.
  */
-int RunAndCompare(int argc, char** argv, const std::vector<Goal>& goals);
+int RunAndCompare(int argc, char** argv, const std::vector<Goal>& goals, Order order = Order::Shuffled);
 
 } // namespace Bench

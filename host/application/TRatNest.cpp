@@ -141,6 +141,9 @@ void TRatNest::Replace(const QString& net, const QVector<QLineF>& lines)
         items[i]->SetPriority(PriorityOf(net));
     }
     for (const auto& [line, item] : former) {
+        // Taken off first: for one that is deleted on its scene, the toolkit searches the whole scene at the next
+        // change.
+        item->Detach();
         delete item;
     }
     if (!items.isEmpty()) {

@@ -45,9 +45,10 @@ void TCmdWireLayer::Do()
     madeVias.StartOver();
     for (TGraphicsWireItem* wire : qAsConst(wires)) {
         wire->SetLayer(newLayer);
-        LinkRedo(wire, true);
-        LinkRedo(wire, false);
+        AdaptLink(wire, true);
+        AdaptLink(wire, false);
     }
+    TakeOffReplacedJunctions();
 }
 
 void TCmdWireLayer::Undo()
@@ -69,6 +70,12 @@ void TCmdWireLayer::Undo()
 }
 
 void TCmdWireLayer::LinkRedo(TGraphicsWireItem* wire, bool atFirst)
+{
+    AdaptLink(wire, atFirst);
+    TakeOffReplacedJunctions();
+}
+
+void TCmdWireLayer::AdaptLink(TGraphicsWireItem* wire, bool atFirst)
 {
     TGraphicsItem* endItem = wire && owner ? wire->Link(End(atFirst)) : nullptr;
     if (!endItem) {
@@ -153,7 +160,17 @@ void TCmdWireLayer::ReplaceJunction(TGraphicsJunctionItem& junction, const QPoin
         via->AddLinkedWire(section);
     }
     replacedJunctions.push_back({via, TDetachedItem<TGraphicsJunctionItem>(&junction)});
-    replacedJunctions.back().junction.Detach();
+}
+
+// After all vias were attached: the toolkit sorts all items of a scene for one that is attached after another left it.
+void TCmdWireLayer::TakeOffReplacedJunctions()
+{
+    for (auto replaced = replacedJunctions.rbegin(); replaced != replacedJunctions.rend(); ++replaced) {
+        if (replaced->junction.IsDetached()) {
+            break;
+        }
+        replaced->junction.Detach();
+    }
 }
 
 void TCmdWireLayer::PutJunctionsBack()
@@ -167,6 +184,9 @@ void TCmdWireLayer::PutJunctionsBack()
             junction->AddLinkedSection(section);
         }
         replaced.junction.Attach();
+    }
+    // After all junctions were attached, as with `TakeOffReplacedJunctions`.
+    for (const ReplacedJunction& replaced : replacedJunctions) {
         replaced.via->Detach();
     }
 }

@@ -52,10 +52,12 @@ protected:
     void Undo() override;
 
 private:
+    void AdaptLink(TGraphicsWireItem* wire, bool atFirst);
     void PutViaBetween(TGraphicsWireItem& wire, bool atFirst, TGraphicsWireItem& staying);
     void MoveOrReplaceJunction(TGraphicsWireItem& wire, bool atFirst, TGraphicsJunctionItem& junction);
     void MoveJunction(TGraphicsJunctionItem& junction);
     void ReplaceJunction(TGraphicsJunctionItem& junction, const QPointF& scenePoint);
+    void TakeOffReplacedJunctions();
     void CutFromCopperWithoutLayer(TGraphicsWireItem& wire, bool atFirst, TGraphicsViaItem& copper);
     void NoteNet(TGraphicsSectionItem& section);
     void UpdateRats();

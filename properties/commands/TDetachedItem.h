@@ -33,6 +33,7 @@ public:
     }
 
     Item* Get() const { return item; }
+    bool IsDetached() const { return detached; }
 
     /** Takes the item off its scene. */
     void Detach()

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <graphics/TGraphicsItem.h>
+
+#include <QList>
+
+namespace Bench {
+
+using Items = QList<TGraphicsItem*>;
+
+// What a set has to know of its items, read and compared until it is known, and nothing else.
+
+void ScanVias(const Items& items);
+void ScanPads(const Items& items);
+void ScanHoles(const Items& items);
+void ScanWires(const Items& items);
+void ScanPackages(const Items& items);
+void ScanNetTies(const Items& items);
+void ScanNetTieSymbols(const Items& items);
+void ScanTexts(const Items& items);
+void ScanDrawings(const Items& items);
+void ScanMillings(const Items& items);
+void ScanKeepouts(const Items& items);
+void ScanOutlines(const Items& items);
+void ScanPours(const Items& items);
+
+} // namespace Bench

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "benchmarks/support/BenchBoard.h"
+
+namespace Bench {
+
+/** Places the item of a number, at its grid point and with values of its own; @p previous is the one placed before. */
+TGraphicsItem* PlaceItem(ShownBoard& board, Kind kind, int number, TGraphicsItem* previous);
+
+} // namespace Bench
