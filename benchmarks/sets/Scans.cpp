@@ -141,7 +141,9 @@ void ScanWires(const Items& items)
         last = &wire;
         sameNet = sameNet && wire.Net() == net;
     });
-    Use(sameNet, last->PenWidth(), last->Layer(), last->CompositionMode());
+    if (last) {
+        Use(sameNet, last->PenWidth(), last->Layer(), last->CompositionMode());
+    }
 }
 
 void ScanPackages(const Items& items)
@@ -171,7 +173,7 @@ void ScanPackages(const Items& items)
 void ScanTexts(const Items& items)
 {
     const TGraphicsTextItem* first = nullptr;
-    const TGraphicsTextItem* last = nullptr;
+    float lastWidth = 0;
     bool sameFamily = true;
     bool sameSize = true;
     bool sameWeight = true;
@@ -183,7 +185,7 @@ void ScanTexts(const Items& items)
     bool sameColor = true;
     ForEach<TGraphicsTextItem>(items, ItemType::Text, [&](const TGraphicsTextItem& text) {
         first = first ? first : &text;
-        last = &text;
+        lastWidth = text.LineWidth();
         sameFamily = sameFamily && text.Font().family() == first->Font().family();
         sameSize = sameSize && text.Font().pixelSize() == first->Font().pixelSize();
         sameWeight = sameWeight && text.Font().weight() == first->Font().weight();
@@ -195,7 +197,7 @@ void ScanTexts(const Items& items)
         sameColor = sameColor && text.AltColor() == first->AltColor();
     });
     Use(sameFamily, sameSize, sameWeight, sameStyle, sameAlignment, sameAngle, sameFlags, sameLayer, sameColor,
-        last->LineWidth());
+        lastWidth);
 }
 
 void ScanDrawings(const Items& items)

@@ -19,7 +19,7 @@ void ExpectSame(const std::string& name, const char* what, const QString& actual
     const QStringList expectedLines = expected.split('\n');
     for (int i = 0; i < std::max(actualLines.size(), expectedLines.size()); ++i) {
         if (actualLines.value(i) != expectedLines.value(i)) {
-            qFatal("%s: %s: \"%s\" is not \"%s\"", name.c_str(), what, qPrintable(actualLines.value(i)),
+            qFatal("%s: %s: '%s' is not '%s'", name.c_str(), what, qPrintable(actualLines.value(i)),
                    qPrintable(expectedLines.value(i)));
         }
     }

@@ -11,8 +11,8 @@ namespace Bench {
 /** Seconds that each variant of a task took, in the order in which the variants are named. */
 using Times = std::vector<double>;
 
-/** From this size on a task is done once only, whatever the number of repetitions: it takes minutes. */
-constexpr int smallestMeasuredOnce = 1'000'000;
+/** From this size on a task is done once only, whatever the number of repetitions: all together it takes long. */
+constexpr int smallestMeasuredOnce = 100'000;
 
 /** Does a task of the given size with every variant in turn. */
 using Round = std::function<Times(int size)>;
