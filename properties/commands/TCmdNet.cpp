@@ -8,6 +8,9 @@
 #include <application/TSchematic.h>
 #include <objects/TGraphicsRatLineItem.h>
 
+#include <algorithm>
+#include <iterator>
+
 TCmdNetClass::TCmdNetClass(const QString& ofNet, const QString& netClass, TProject* ofProject)
     : project(ofProject), net(ofNet), newClass(netClass)
 {

@@ -33,7 +33,7 @@ class PROPERTIES_EXPORT TCmdWireLayer : public TReversibleCommand
 {
 public:
     /** Keeps the wires that are not on the new layer yet. Without a project with a board there are none. */
-    TCmdWireLayer(TProject* project, const QList<TGraphicsWireItem*>& wires, Osmirel::Layer layer);
+    TCmdWireLayer(TProject* ofProject, const QList<TGraphicsWireItem*>& given, Osmirel::Layer layer);
     ~TCmdWireLayer() override;
     Q_DISABLE_COPY(TCmdWireLayer)
 

@@ -5,6 +5,8 @@
 
 #include <QPointer>
 
+#include <utility>
+
 /**
  * An item that a command takes off the design and puts back: owned by the command exactly while it is off.
  *
@@ -16,7 +18,7 @@ class TDetachedItem
 public:
     explicit TDetachedItem(Item* ofItem) : item(ofItem) {}
     TDetachedItem(TDetachedItem&& other) noexcept
-        : item(other.item), owner(other.owner), detached(std::exchange(other.detached, false))
+        : item(other.item), owner(std::move(other.owner)), detached(std::exchange(other.detached, false))
     {}
     TDetachedItem& operator=(TDetachedItem&& other) noexcept
     {

@@ -11,7 +11,7 @@ namespace ComponentRows {
 /** The name of a package without the qualifier that may follow it after an at sign. */
 inline QString NameWithoutQualifier(const QString& packageName)
 {
-    return packageName.section(QLatin1Char('@'), 0, 0);
+    return packageName.left(packageName.indexOf(QLatin1Char('@'))); // All of it if there is none.
 }
 
 /** Shows a text that all components share, and does not open for editing. */

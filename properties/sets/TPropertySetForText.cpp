@@ -6,6 +6,9 @@
 #include "properties/sets/RowValues.h"
 #include "properties/sets/TextRows.h"
 
+#include <algorithm>
+#include <iterator>
+
 struct TPropertySetForText::Values
 {
     bool outlines = false; ///< The first text's.
