@@ -25,14 +25,14 @@ struct TDesignAction
 {
     enum class Asks { Nothing, Text, Point };
 
-    const char* option; ///< The step of a command line that does it.
-    Asks asks;
-    const char* menuText; ///< Translated in the context "DesignActions", like the words after it.
-    const char* question; ///< What the text is, as a dialog asks for it.
-    const char* key;      ///< The key on the canvas; empty for none.
-    const char* needs;    ///< What has to be selected.
+    const char* option = ""; ///< The step of a command line that does it.
+    Asks asks = Asks::Nothing;
+    const char* menuText = ""; ///< Translated in the context "DesignActions", like the words after it.
+    const char* question = ""; ///< What the text is, as a dialog asks for it.
+    const char* key = "";      ///< The key on the canvas; empty for none.
+    const char* needs = "";    ///< What has to be selected.
     /** The command, or null if the selection does not suit it. */
-    std::unique_ptr<TUndoCommand> (*make)(const TActionContext& context);
+    std::unique_ptr<TUndoCommand> (*make)(const TActionContext& context) = nullptr;
 
     QString MenuText() const;
     QString Question() const;

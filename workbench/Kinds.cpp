@@ -184,9 +184,9 @@ QString Kinds::Summary(const QList<TGraphicsItem*>& items)
         ++counts[Of(*item)];
     }
     QStringList parts;
-    for (const TKind& kind : All()) {
-        if (const int count = counts.value(&kind)) {
-            parts.append(Counted(count, &kind));
+    for (int i = 0; i < All().size(); ++i) {
+        if (const int count = counts.value(&All().at(i))) {
+            parts.append(Counted(count, &All().at(i)));
         }
     }
     return parts.join(QStringLiteral(", "));

@@ -13,10 +13,10 @@ class TPropertySet;
 /** What the workbench knows of a kind of items: what users call it, and the set that edits it. */
 struct TKind
 {
-    ItemType::Number type;
-    const char* one; ///< The words are translated in the context "Kinds".
-    const char* many;
-    std::unique_ptr<TPropertySet> (*makeSet)(const QList<TGraphicsItem*>& selection, TDesign& design);
+    ItemType::Number type = ItemType::Line;
+    const char* one = ""; ///< The words are translated in the context "Kinds".
+    const char* many = "";
+    std::unique_ptr<TPropertySet> (*makeSet)(const QList<TGraphicsItem*>& selection, TDesign& design) = nullptr;
     Osmirel::Layer only = Osmirel::NoLayer; ///< The layer that makes the kind what it is, if one does.
 
     bool Holds(const TGraphicsItem& item) const;

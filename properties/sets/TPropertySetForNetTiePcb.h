@@ -17,9 +17,9 @@ public:
     TPropertySetForNetTiePcb(const QList<TGraphicsItem*>& selection, TProject* project);
 
 public slots:
-    void SetName(QString name);
+    void SetName(QString newName);
     void SetNameVis(bool visible);
-    void SetLayer(Osmirel::Layer layer);
+    void SetLayer(Osmirel::Layer newLayer);
     /** In millimetres. */
     void SetPadSz(double size);
     /** In millimetres. Intended: the command that it makes changes the pad size. */

@@ -16,10 +16,10 @@ public:
     TPropertySetForNetTieSch(const QList<TGraphicsItem*>& selection, TProject* project);
 
 public slots:
-    void SetName(QString name);
+    void SetName(QString newName);
     void SetNameVis(bool visible);
     /** 0, 1 or 2. */
-    void SetSymbol(int symbol);
+    void SetSymbol(int newSymbol);
 
 private:
     void MakeRows(const TGraphicsNetTieSchItem& shown);

@@ -28,12 +28,12 @@ public slots:
     /** Intended: does nothing, since designators are renamed by a command of the application's only. */
     void SetRefDes(QString refDes);
     /** Written at once, without a command; emits `sigAttr`. */
-    void SetValue(QString value);
-    void SetPackage(QString package);
+    void SetValue(QString newValue);
+    void SetPackage(QString newPackage);
     /** Written at once, without a command. */
-    void SetLockRefDes(bool lock);
-    void SetLockValue(bool lock);
-    void SetSide(Osmirel::Layer side);
+    void SetLockRefDes(bool on);
+    void SetLockValue(bool on);
+    void SetSide(Osmirel::Layer layer);
 
 private:
     struct Values;

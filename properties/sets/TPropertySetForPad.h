@@ -24,16 +24,16 @@ public:
 
 public slots:
     /** Lengths in millimetres. */
-    void SetNumber(QString number);
+    void SetNumber(QString newNumber);
     /** Intended: does nothing, since names of pads are only displayed. */
     void SetName(QString name);
     void SetType(int smd);
-    void SetDrill(double drill);
-    void SetSide(Osmirel::Layer side);
-    void SetShape(int shape);
+    void SetDrill(double newDrill);
+    void SetSide(Osmirel::Layer newSide);
+    void SetShape(int newShape);
     void SetWidth(double width);
     void SetHeight(double height);
-    void SetThermal(int thermal);
+    void SetThermal(int newThermal);
     void SetMaskEnable(bool on);
     void SetMaskClearance(double clearance);
     void SetPasteEnable(bool on);
@@ -41,7 +41,7 @@ public slots:
     /** Shows the rows that belong to the type: 1 a surface pad, 0 one that goes through the board. */
     void TypeChanged(int smd);
     /** Puts the size row into the mode that belongs to the shape, a `TGraphicsPadItem::TypePadShape`. */
-    void ShapeChanged(int shape);
+    void ShapeChanged(int newShape);
 
 private:
     struct Values;

@@ -31,19 +31,19 @@ public slots:
     void SetLineWidth(qreal width);
     void SetMinimumArea(qreal area);
     void SetOnlyConnected(bool on);
-    void SetPriority(int priority);
+    void SetPriority(int newPriority);
     void SetThermalEn(bool on);
     void SetThermalLine(qreal width);
     void SetThermalIsol(qreal distance);
-    void SetLayer(Osmirel::Layer layer);
-    void SetNet(QString net);
+    void SetLayer(Osmirel::Layer newLayer);
+    void SetNet(QString newNet);
     /** Greys the line width for a solid filling. */
     void FillTypeChanged(int brushStyle);
     /** Greys the thermal line for a solid type. Intended: nothing is connected to it. */
     void ThermalTypeChanged(int type);
     /** Drawing only: written at once, without a command and without a refill. */
     void SetCompMode(int mode);
-    void SetAlpha(int alpha);
+    void SetAlpha(int newAlpha);
 
 private:
     struct Values;

@@ -23,10 +23,10 @@ public:
     TPropertySetForPrimitives(QList<TGraphicsItem*> selection, QList<Osmirel::Layer> layers);
 
 public slots:
-    void slotSetColor(const QColor& color);
+    void slotSetColor(const QColor& newColor);
     /** A `Qt::BrushStyle`. */
     void slotSetFillStyle(int style);
-    void slotSetLayer(Osmirel::Layer layer);
+    void slotSetLayer(Osmirel::Layer newLayer);
     void slotSetLineStyle(Qt::PenStyle style);
     /** In millimetres. */
     void slotSetLineWidth(double width);

@@ -23,14 +23,14 @@ public:
     TPropertySetForText(const QList<TGraphicsItem*>& selection, QList<Osmirel::Layer> layers);
 
 public slots:
-    void SetColor(const QColor& color);
+    void SetColor(const QColor& newColor);
     /** In points. */
     void SetFontSize(int points);
-    void SetLayer(Osmirel::Layer layer);
-    void SetBold(bool bold);
-    void SetItalic(bool italic);
+    void SetLayer(Osmirel::Layer newLayer);
+    void SetBold(bool on);
+    void SetItalic(bool on);
     /** A `Qt::AlignmentFlag`. */
-    void SetAlign(int alignment);
+    void SetAlign(int newAlignment);
     /** In degrees. */
     void SetAngle(int degrees);
     /** 0 strokes, 1 outlines. */

@@ -20,8 +20,8 @@ public slots:
     /** Lengths in millimetres. */
     void SetDiam(qreal diameter);
     void SetDrill(qreal diameter);
-    void SetThermal(int thermal);
-    void SetGroup(QString group);
+    void SetThermal(int newThermal);
+    void SetGroup(QString newGroup);
     void SetMaskEnable(bool on);
     void SetMaskClearance(qreal clearance);
 

@@ -25,12 +25,12 @@ public:
     void KeyPressEvent(QKeyEvent* event) override;
 
 public slots:
-    void SetLayer(Osmirel::Layer layer);
+    void SetLayer(Osmirel::Layer newLayer);
     /** In millimetres. */
-    void SetWidth(qreal width);
+    void SetWidth(qreal newWidth);
     /** Net attributes are always changed by a command. */
-    void SetClass(QString netClass);
-    void SetColor(QColor color);
+    void SetClass(QString newClass);
+    void SetColor(QColor newColor);
     /** A `QPainter::CompositionMode`; written at once, without a command. */
     void SetCompMode(int mode);
 

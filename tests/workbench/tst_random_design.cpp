@@ -299,7 +299,7 @@ private slots:
     {
         triesAll = qEnvironmentVariableIsEmpty("RC_PARAMS");
         if (triesAll) {
-            qputenv("RC_PARAMS", "seed=20240108 max_success=160");
+            qputenv("RC_PARAMS", "seed=20240108 max_success=80");
         }
     }
 
