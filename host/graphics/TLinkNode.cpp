@@ -291,11 +291,11 @@ void TLinkNode::Apply(TLinkChanges& changes)
             }
         }
     }
-    for (auto cut = cutIn.cbegin(); cut != cutIn.cend(); ++cut) {
-        TLinkNode* any = cut->front();
+    for (const TLinkSearch::Nodes& nodes : qAsConst(cutIn)) {
+        TLinkNode* any = nodes.front();
         const std::shared_ptr<TLinkIsland> rest = any->island;
         any->MarkNets();
-        const std::vector<TLinkSearch::Nodes> parts = TLinkSearch(*cut).SeparateParts();
+        const std::vector<TLinkSearch::Nodes> parts = TLinkSearch(nodes).SeparateParts();
         for (const TLinkSearch::Nodes& part : parts) {
             const auto partIsland = part.size() > 1 ? std::make_shared<TLinkIsland>() : nullptr;
             for (TLinkNode* node : part) {

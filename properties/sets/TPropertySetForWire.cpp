@@ -152,7 +152,7 @@ void TPropertySetForWire::SetClass(QString newClass)
     }
 }
 
-void TPropertySetForWire::SetColor(QColor newColor)
+void TPropertySetForWire::SetColor(const QColor& newColor)
 {
     if (!wires.isEmpty()) {
         Emit(new TCmdNetColorPcb(netName, newColor, project));

@@ -30,7 +30,7 @@ public slots:
     void SetWidth(qreal newWidth);
     /** Net attributes are always changed by a command. */
     void SetClass(QString newClass);
-    void SetColor(QColor newColor);
+    void SetColor(const QColor& newColor);
     /** A `QPainter::CompositionMode`; written at once, without a command. */
     void SetCompMode(int mode);
 
