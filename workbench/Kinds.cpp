@@ -184,10 +184,10 @@ QString Kinds::Summary(const QList<TGraphicsItem*>& items)
         ++counts[Of(*item)];
     }
     QStringList parts;
-    for (int i = 0; i < All().size(); ++i) {
-        if (const int count = counts.value(&All().at(i))) {
-            parts.append(Counted(count, &All().at(i)));
+    std::for_each(All().cbegin(), All().cend(), [&](const TKind& kind) {
+        if (const int count = counts.value(&kind)) {
+            parts.append(Counted(count, &kind));
         }
-    }
+    });
     return parts.join(QStringLiteral(", "));
 }
