@@ -29,7 +29,8 @@ public:
     explicit TPropertySet(const QString& setName);
     ~TPropertySet() override;
 
-    /** Takes keys that the application forwards; the base ignores them. */
+    /** Takes keys that the application forwards, and accepts the event of one that edits; the base does nothing. An
+     * edit by a key is not shown in the rows: the application shows a new set. */
     virtual void KeyPressEvent(QKeyEvent* event);
 
     const QString& Name() const { return name; }

@@ -10,6 +10,7 @@
 #include <application/TUndoCommand.h>
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QUndoStack>
 
@@ -47,7 +48,11 @@ void TPropertyEditing::ShowSelection()
 void TPropertyEditing::ForwardKey(QKeyEvent* event)
 {
     if (TPropertySet* set = panel.PropertySet()) {
+        event->ignore();
         set->KeyPressEvent(event);
+        if (event->isAccepted()) {
+            ShowSelection(); // The rows show what was there before.
+        }
     }
 }
 

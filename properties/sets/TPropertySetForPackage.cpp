@@ -120,6 +120,7 @@ void TPropertySetForPackage::SetSide(Osmirel::Layer layer)
 void TPropertySetForPackage::KeyPressEvent(QKeyEvent* event)
 {
     if (event && event->key() == Qt::Key_O && side) {
+        event->accept();
         const bool isOnTop = side->CurrentLayer() == Osmirel::PackagesTop;
         SetSide(isOnTop ? Osmirel::PackagesBottom : Osmirel::PackagesTop);
     }

@@ -173,16 +173,16 @@ void TPropertySetForWire::KeyPressEvent(QKeyEvent* event)
         return;
     }
     const int key = event->key();
-    if (key == Qt::Key_0) {
-        SetWidth(1.0);
-    } else if (key >= Qt::Key_1 && key <= Qt::Key_9) {
-        SetWidth((key - Qt::Key_0) / 10.0);
+    if (key >= Qt::Key_0 && key <= Qt::Key_9) {
+        event->accept();
+        SetWidth(key == Qt::Key_0 ? 1.0 : (key - Qt::Key_0) / 10.0);
     } else if (key == Qt::Key_O && layer && wires.first()->Workspace()) {
         const TLayerManager& layers = wires.first()->Workspace()->Layers();
         const TLayer* record = layers.Layer(layer->CurrentLayer());
         const bool hasPair = record && !record->pairedLayer.isEmpty();
         const Osmirel::Layer paired = hasPair ? layers.LayerId(record->pairedLayer) : Osmirel::NoLayer;
         if (paired != Osmirel::NoLayer) {
+            event->accept();
             SetLayer(paired);
         }
     }

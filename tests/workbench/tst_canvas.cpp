@@ -41,6 +41,7 @@ private slots:
     void manySignalsAreOneSet();
     void aDeletedItemLeavesTheSelection();
     void keysOnTheCanvasReachTheSet();
+    void aKeyThatEditsShowsThePresentValues();
     void keysInAnEditorDoNotReachTheSet();
     void zoomKeysBelongToTheCanvas();
     void theWheelZoomsAroundTheCursor();
@@ -163,6 +164,23 @@ void TestCanvas::keysOnTheCanvasReachTheSet()
     workbench.window->Panel().SetPropertySet(nullptr);
     QTest::keyClick(&workbench.window->Canvas(), Qt::Key_O);
     QCOMPARE(keys.size(), 2);
+}
+
+void TestCanvas::aKeyThatEditsShowsThePresentValues()
+{
+    Test::ShownWorkbench workbench;
+    const TItems packages = workbench.Items(ItemType::Package);
+    packages.first()->SetLayer(Osmirel::PackagesTop);
+    TLayerManager& layers = *workbench.window->Board()->LayerManager();
+    layers.AddLayer({Osmirel::PackagesTop, "Packages top", Qt::white, {}});
+    layers.AddLayer({Osmirel::PackagesBottom, "Packages bottom", Qt::white, {}});
+    workbench.window->Selection().Select(packages);
+    workbench.window->Canvas().setFocus();
+    for (const Osmirel::Layer side : {Osmirel::PackagesBottom, Osmirel::PackagesTop, Osmirel::PackagesBottom}) {
+        QTest::keyClick(&workbench.window->Canvas(), Qt::Key_O);
+        QCOMPARE(packages.first()->Layer(), side);
+        QVERIFY(workbench.Results({"--panel"}).contains(QStringLiteral("Side: %1\n").arg(layers.Layer(side)->name)));
+    }
 }
 
 void TestCanvas::keysInAnEditorDoNotReachTheSet()
