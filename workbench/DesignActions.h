@@ -36,7 +36,7 @@ struct TDesignAction
 
     QString MenuText() const;
     QString Question() const;
-    /** Such as "needs packages", for one who has not selected any. */
+    /** Such as "packages", for one who has not selected any. */
     QString Needs() const;
 };
 

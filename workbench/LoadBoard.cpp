@@ -30,6 +30,9 @@ TImportResult LoadBoardWithDialog(const QString& file, QWidget* parent)
     });
 }
 
+namespace {
+
+/** Such as "17921 track segments, 3 zones"; empty if the board holds all that is in the file. */
 QString DescribeNotShown(const TImportResult& result)
 {
     QStringList parts;
@@ -38,6 +41,8 @@ QString DescribeNotShown(const TImportResult& result)
     }
     return parts.join(QStringLiteral(", "));
 }
+
+} // namespace
 
 QStringList Notices(const TImportResult& result)
 {

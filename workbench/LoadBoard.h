@@ -10,8 +10,5 @@ QString SampleBoardFile();
 /** Reads a board file; a long load shows its progress in a dialog above @p parent, and can be cancelled there. */
 TImportResult LoadBoardWithDialog(const QString& file, QWidget* parent);
 
-/** Such as "17921 track segments, 3 zones"; empty if the board holds all that is in the file. */
-QString DescribeNotShown(const TImportResult& result);
-
 /** What a person should know of a file that was read: what is not shown, and what else went wrong; a line for each. */
 QStringList Notices(const TImportResult& result);

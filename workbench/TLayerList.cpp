@@ -46,13 +46,12 @@ void TLayerList::SetLayers(TLayerManager* newLayers)
     }
 }
 
-bool TLayerList::ShowLayer(const QString& name, bool on)
+void TLayerList::ShowLayer(const QString& name, bool on)
 {
     const QList<QListWidgetItem*> named = findItems(name, Qt::MatchExactly);
     for (QListWidgetItem* item : named) {
         item->setCheckState(on ? Qt::Checked : Qt::Unchecked);
     }
-    return !named.isEmpty();
 }
 
 QStringList TLayerList::Names() const

@@ -17,8 +17,8 @@ public:
     /** Lists the layers of a table, which is the board's and must outlive the list or be replaced; null lists none. */
     void SetLayers(TLayerManager* newLayers);
 
-    /** Shows or hides the layer of that name; false if there is none. */
-    bool ShowLayer(const QString& name, bool on);
+    /** Shows or hides the layer of that name, if there is one. */
+    void ShowLayer(const QString& name, bool on);
     /** The names of all layers, from the top down. */
     QStringList Names() const;
 

@@ -22,6 +22,22 @@ void KeepExistingConnections(const TExistingItems& existing, QVector<QVector<TGr
     }
 }
 
+/** The component numbers of the packages among the items, each once. */
+template <class Items>
+QList<unsigned short> ComponentsOf(const Items& items, bool withNone)
+{
+    TUniqueNumbers components;
+    for (const TGraphicsItem* item : items) {
+        if (item->type() == ItemType::Package) {
+            const quint16 number = static_cast<const TGraphicsPackageItem*>(item)->ComponentNumber();
+            if (number != 0 || withNone) {
+                components.Add(number);
+            }
+        }
+    }
+    return components.List();
+}
+
 } // namespace
 
 TCmdPkgSide::TCmdPkgSide(const QList<TGraphicsPackageItem*>& packages, Osmirel::Layer layer, TBoard* ofBoard)
@@ -63,16 +79,12 @@ void TCmdPkgSide::Do()
     }
     savedConnections.clear();
     ExistItems();
-    TUniqueNumbers components;
     for (TGraphicsPackageItem* package : qAsConst(items)) {
         savedConnections.append(package->Disconnect({}));
         SetLayer(package, newLayer);
         package->Connect({});
-        if (package->ComponentNumber() != 0) {
-            components.Add(package->ComponentNumber());
-        }
     }
-    board->UpdateRats(components.List());
+    board->UpdateRats(ComponentsOf(items, false));
 }
 
 void TCmdPkgSide::Undo()
@@ -81,7 +93,6 @@ void TCmdPkgSide::Undo()
         return;
     }
     ExistItems();
-    TUniqueNumbers components;
     for (int i = 0; i < items.size(); ++i) {
         TGraphicsPackageItem* package = items.at(i);
         package->Disconnect({});
@@ -90,11 +101,8 @@ void TCmdPkgSide::Undo()
         if (!saved.isEmpty()) {
             package->Connect(saved);
         }
-        if (package->ComponentNumber() != 0) {
-            components.Add(package->ComponentNumber());
-        }
     }
-    board->UpdateRats(components.List());
+    board->UpdateRats(ComponentsOf(items, false));
 }
 
 TCmdPackageRefDes::TCmdPackageRefDes(const QString& text, TProject* ofProject) : newText(text), project(ofProject)
@@ -229,13 +237,8 @@ void TCmdPkgConnect::ActOnSaved(Action action)
 
 void TCmdPkgConnect::UpdateRats()
 {
-    TUniqueNumbers components;
-    for (const TGraphicsItem* item : qAsConst(items)) {
-        if (item->type() == ItemType::Package) {
-            components.Add(static_cast<const TGraphicsPackageItem*>(item)->ComponentNumber());
-        }
-    }
-    board->UpdateRats(components.List());
+    // Intended: unlike a change of side, this lists the packages of no component too, as number 0.
+    board->UpdateRats(ComponentsOf(items, true));
 }
 
 TCmdPkgDisconnect::TCmdPkgDisconnect(const QList<TGraphicsItem*>& selection, TBoard* ofBoard)
