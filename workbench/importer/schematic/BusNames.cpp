@@ -58,21 +58,22 @@ void AddNets(const QString& member, const QHash<QString, QStringList>& aliases, 
 QVector<BusNames::TMember> BusNames::Members(const QString& name, const QHash<QString, QStringList>& aliases)
 {
     QVector<TMember> members;
-    const QStringList vector = VectorNets(name);
-    for (int i = 0; i < vector.size(); ++i) {
-        members.append({vector[i], QStringLiteral("#%1").arg(i)});
-    }
     QString prefix;
     QString content;
-    if (vector.isEmpty() && SplitGroup(name, prefix, content)) {
-        QStringList nets;
-        const QStringList words = content.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-        for (const QString& word : words) {
-            AddNets(word, aliases, 0, nets);
+    if (!SplitGroup(name, prefix, content)) {
+        const QStringList vector = VectorNets(name);
+        for (int i = 0; i < vector.size(); ++i) {
+            members.append({vector[i], QStringLiteral("#%1").arg(i)});
         }
-        for (const QString& net : nets) {
-            members.append({prefix.isEmpty() ? net : prefix + QLatin1Char('.') + net, net});
-        }
+        return members;
+    }
+    QStringList nets;
+    const QStringList words = content.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString& word : words) {
+        AddNets(word, aliases, 0, nets);
+    }
+    for (const QString& net : nets) {
+        members.append({prefix.isEmpty() ? net : prefix + QLatin1Char('.') + net, net});
     }
     return members;
 }
