@@ -30,7 +30,7 @@ TDesign::~TDesign() = default;
 
 QString TDesign::Dump() const
 {
-    return board->Dump() + schematic->NetModel()->Dump();
+    return board->Dump() + schematic->Dump();
 }
 
 void TDesign::ShowDesignators(bool on)

@@ -46,7 +46,7 @@ struct TiesOfSchematic
             tie->SetName(QStringLiteral("NT%1").arg(ofTie));
             tie->SetSymbol(ofTie % 2);
             ties.append(tie.get());
-            schematic.Attach(std::move(tie));
+            page->Attach(std::move(tie));
         }
     }
 
@@ -60,6 +60,7 @@ struct TiesOfSchematic
     }
 
     TSchematic schematic;
+    TSchematicPage* page = schematic.AddPage();
     ShownBoard board; // For its event loop.
     TProject project;
     QList<Tie*> ties;

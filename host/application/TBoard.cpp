@@ -6,19 +6,6 @@
 #include <objects/TGraphicsPadItem.h>
 
 #include <QGraphicsView>
-#include <QSet>
-
-namespace {
-
-void UpdateNetOf(TGraphicsPadItem& pad, unsigned short component, const TSchematic& schematic)
-{
-    const std::optional<QString> net = schematic.PinNet(component, pad.Number());
-    if (net) {
-        pad.SetNet(*net);
-    }
-}
-
-} // namespace
 
 TBoard::TBoard() : scene(&workspace), rats(std::make_unique<TRatNest>(scene)) {}
 
@@ -93,13 +80,14 @@ void TBoard::UpdatePadNets(const QList<unsigned short>& componentNumbers)
     if (!schematic) {
         return;
     }
-    const QSet<unsigned short> numbers(componentNumbers.cbegin(), componentNumbers.cend());
+    const QHash<TSchematic::TPinKey, QString> nets = schematic->PinNets(componentNumbers);
     const QList<TGraphicsItem*> items = scene.DesignItems();
     for (TGraphicsItem* item : items) {
         auto* pad = dynamic_cast<TGraphicsPadItem*>(item);
         const auto* package = pad ? dynamic_cast<TGraphicsPackageItem*>(pad->parentItem()) : nullptr;
-        if (package && numbers.contains(package->ComponentNumber())) {
-            UpdateNetOf(*pad, package->ComponentNumber(), *schematic);
+        const auto net = package ? nets.constFind({package->ComponentNumber(), pad->Number()}) : nets.cend();
+        if (net != nets.cend()) {
+            pad->SetNet(*net);
         }
     }
 }

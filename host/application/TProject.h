@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QMap>
+#include <QString>
+
 class TBoard;
 class TSchematic;
 
@@ -29,10 +32,15 @@ public:
     TSchematic* Schematic() const { return schematic; }
     void SetSchematic(TSchematic* newSchematic);
 
+    /** What tags show, by their names. */
+    const QMap<QString, QString>& TagValues() const { return tagValues; }
+    void SetTagValues(const QMap<QString, QString>& values) { tagValues = values; }
+
 private:
     void Acquaint();
 
     int kind = Separate;
     TBoard* board = nullptr;
     TSchematic* schematic = nullptr;
+    QMap<QString, QString> tagValues;
 };

@@ -1,7 +1,8 @@
 #pragma once
 
+#include <application/TCmpModel.h>
 #include <application/TNetModel.h>
-#include <graphics/TItemScene.h>
+#include <application/TSchematicPage.h>
 #include <workspace/TWorkspace.h>
 
 #include <QHash>
@@ -9,11 +10,13 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 class TGraphicsItem;
+class TGraphicsPartItem;
 class TProject;
 
-/** A project's schematic: its net model, its net classes, and the items of its page. */
+/** A project's schematic: its pages with their items, its net model with the net classes, and its component model. */
 class TSchematic
 {
 public:
@@ -28,6 +31,8 @@ public:
     TWorkspace* Workspace() { return &workspace; }
     TNetModel* NetModel() { return &netModel; }
     const TNetModel* NetModel() const { return &netModel; }
+    TCmpModel* CmpModel() { return &cmpModel; }
+    const TCmpModel* CmpModel() const { return &cmpModel; }
 
     /** All net classes, "Default" first. */
     QStringList NetClassNames() const { return netClasses; }
@@ -37,31 +42,40 @@ public:
     /** The name of the net's class, which may be empty for the default one; null when the model has no such net. */
     std::optional<QString> NetClass(const QString& net) const;
 
-    /** Sets the net's colour in the model and on the page's items of that net, and repaints them. */
+    /** Sets the net's colour in the model and on what is drawn of the net on all pages, and repaints it. Pins are drawn
+     *  with their symbols. */
     void SetNetColor(const QString& net, const QColor& color);
 
-    /** What the page's items are attached to. */
-    TItemScene* Scene() { return &scene; }
-    /** Places an item, with its children, on the page, which owns it from then on. */
-    void Attach(std::unique_ptr<TGraphicsItem> item);
+    /** Adds an empty page after the last one; null when there are 255. Owned by the schematic. */
+    TSchematicPage* AddPage();
+    /** The page of a number, counted from 1; null if there is none. */
+    TSchematicPage* Page(int number) const;
+    const std::vector<std::unique_ptr<TSchematicPage>>& Pages() const { return pages; }
 
-    /** Takes over the items that stand on the page now, for `Items`. */
+    /** Takes over the items that stand on every page now, for the pages' and the schematic's `Items`. */
     void SaveTopItemsFromWorkspace();
-    /** The items without parent as they were last taken over. An item that was deleted since must not be read. */
-    const QList<TGraphicsItem*>& Items() const { return items; }
+    /** The items without parent of all pages as they were last taken over. One that was deleted since must not be read.
+     */
+    QList<TGraphicsItem*> Items() const;
 
-    /** The net of a component's pin, empty for a pin that is on none; null when the schematic says nothing of it. */
-    std::optional<QString> PinNet(unsigned short component, const QString& pin) const;
-    void SetPinNet(unsigned short component, const QString& pin, const QString& net);
+    /** The parts that stand on the pages now and belong to the component of that number, or all parts for 0. */
+    QList<TGraphicsPartItem*> PartItems(unsigned short number) const;
+
+    /** A component's number and the number of one of its pins. */
+    using TPinKey = QPair<unsigned short, QString>;
+    /** The nets of all pins of the parts of these components; empty for a pin that is on none. */
+    QHash<TPinKey, QString> PinNets(const QList<unsigned short>& numbers) const;
+
+    /** The state of every item, page by page, then of the nets and the components, one line each. */
+    QString Dump() const;
 
 private:
     friend class TProject;
 
     TProject* project = nullptr;
-    TWorkspace workspace; // Outlives the scene with its items, which point to it.
+    TWorkspace workspace; // Outlives the pages with their items, which point to it.
     TNetModel netModel;
+    TCmpModel cmpModel;
     QStringList netClasses{QStringLiteral("Default")};
-    QHash<QPair<unsigned short, QString>, QString> pinNets;
-    TItemScene scene;
-    QList<TGraphicsItem*> items;
+    std::vector<std::unique_ptr<TSchematicPage>> pages;
 };

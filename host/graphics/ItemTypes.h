@@ -24,6 +24,7 @@ enum Number : int {
     RatLine = 0x10013,
     Pour = 0x10014,
     Hole = 0x10015,
+    Bus = 0x10016,
     Outline = 0x10018,
     Tag = 0x1001b,
     NetTieSch = 0x1001d,

@@ -89,3 +89,20 @@ QPainterPath Shapes::LabelIn(const QRectF& place, const QString& text)
     const double scale = share * std::min(place.height(), place.width() / narrowing);
     return QTransform::fromTranslate(place.center().x(), place.center().y()).scale(scale, scale).map(label);
 }
+
+QPainterPath Shapes::LabelFrom(const QPointF& start, double height, const QString& text, bool turned)
+{
+    const QPainterPath label = Label(text);
+    QTransform place;
+    place.translate(start.x() + height * label.boundingRect().width() / 2, start.y()).scale(height, height);
+    if (turned) {
+        place.rotate(180);
+    }
+    return place.map(label);
+}
+
+bool Shapes::IsOnItsHead(double rotation)
+{
+    const double turned = std::fmod(std::fmod(rotation, 360) + 360, 360);
+    return turned >= 90 && turned < 270;
+}

@@ -75,6 +75,22 @@ void TGraphicsItem::CopyFrom(const TGraphicsItem& source)
     }
 }
 
+QVector<TGraphicsItem*> TGraphicsItem::ChildrenOfKind(ItemType::Number kind) const
+{
+    QVector<TGraphicsItem*> found;
+    const QList<QGraphicsItem*> children = childItems();
+    for (QGraphicsItem* child : children) {
+        if (child->type() == kind) {
+            found.append(static_cast<TGraphicsItem*>(child));
+        }
+    }
+    // The toolkit lists children as they are stacked, which changes with their layers.
+    std::stable_sort(found.begin(), found.end(), [](const TGraphicsItem* left, const TGraphicsItem* right) {
+        return left->DesignOrder() < right->DesignOrder();
+    });
+    return found;
+}
+
 bool TGraphicsItem::ReplaceLinkedItem(TGraphicsItem*, TGraphicsItem*)
 {
     return false;
@@ -83,6 +99,11 @@ bool TGraphicsItem::ReplaceLinkedItem(TGraphicsItem*, TGraphicsItem*)
 void TGraphicsItem::AcceptLink(TGraphicsItem*, LinkEnd) {}
 
 void TGraphicsItem::ReleaseLink(TGraphicsItem*, LinkEnd) {}
+
+bool TGraphicsItem::TakesEnd(const QPointF& point, Osmirel::Layer ofLayer) const
+{
+    return HasCopperOn(ofLayer) && boundingRect().contains(point) && Outline().contains(point);
+}
 
 void TGraphicsItem::StoreLink(TGraphicsItem*& link, TGraphicsItem* target)
 {

@@ -99,6 +99,9 @@ public:
     virtual void ReleaseLink(TGraphicsItem* section, LinkEnd end);
     /** Whether sections can be linked to this item. */
     virtual bool CanBeLinkedTo() const { return false; }
+    /** Whether a section of a layer can be linked where it ends at a point, which is in the item's own coordinates. The
+     *  base says so of points on the item's copper. */
+    virtual bool TakesEnd(const QPointF& point, Osmirel::Layer ofLayer) const;
 
     /** Name of the net that the item is on, as links and own name make it; empty for none. */
     virtual QString Net() const { return linkNode.Net(); }
@@ -130,6 +133,9 @@ public:
 
     /** Kind, layer and place in a few characters, as the state lines of others name the item. */
     virtual QString PlaceName() const;
+
+    /** The children of one kind, in the design's order. */
+    QVector<TGraphicsItem*> ChildrenOfKind(ItemType::Number kind) const;
 
     /** What is drawn, in the item's own coordinates, whether or not its layer is visible. */
     virtual QPainterPath Outline() const = 0;

@@ -13,7 +13,7 @@ public:
     QString KindName() const override { return QStringLiteral("junction"); }
 
     /** The sections that meet here, once for each of their ends, in the order in which they were linked. */
-    const QList<TGraphicsSectionItem*>& LinkedSections() const { return linked.Sections(); }
+    const QList<TGraphicsSectionItem*>& LinkedSections() const { return linked.List(); }
     /** One-sided: adds one end of a section to the list, or removes one. */
     void AddLinkedSection(TGraphicsSectionItem* section);
     void RemoveLinkedSection(TGraphicsSectionItem* section);

@@ -41,7 +41,7 @@ public:
     const QPen& Pen() const { return pen; }
 
     /** The wires that are linked here, once for each of their ends, in the order in which they were linked. */
-    const QList<TGraphicsSectionItem*>& LinkedWires() const { return linked.Sections(); }
+    const QList<TGraphicsSectionItem*>& LinkedWires() const { return linked.List(); }
     /** One-sided: adds one end of a wire to the list, or removes one. */
     void AddLinkedWire(TGraphicsSectionItem* wire);
     void RemoveLinkedWire(TGraphicsSectionItem* wire);

@@ -2,7 +2,7 @@
 
 #include <graphics/TGraphicsItem.h>
 
-/** The symbol, on a schematic page, of a place where two nets are joined on purpose. */
+/** The symbol, on a schematic page, of a place where two nets are joined on purpose: the parent of a pin for each. */
 class TGraphicsNetTieSchItem : public TGraphicsItem
 {
 public:
@@ -24,6 +24,9 @@ public:
     /** Which of the three symbols is drawn: 0, 1 or 2. The setter stores only. */
     int Symbol() const { return symbol; }
     void SetSymbol(int variant) { symbol = variant; }
+
+    /** The pins, in the design's order. */
+    QVector<TGraphicsItem*> Pins() const { return ChildrenOfKind(ItemType::Pin); }
 
     QRectF boundingRect() const override;
     QPainterPath Outline() const override;

@@ -31,11 +31,8 @@ struct Touch
 
 std::optional<Touch> TouchOf(TGraphicsSectionItem* wire, LinkEnd end, TGraphicsItem* target)
 {
-    if (!target->HasCopperOn(wire->Layer())) {
-        return {};
-    }
     const QPointF point = target->mapFromScene(wire->ScenePoint(end));
-    if (!target->boundingRect().contains(point) || !target->Outline().contains(point)) {
+    if (!target->TakesEnd(point, wire->Layer())) {
         return {};
     }
     return Touch{wire, end, target, QPointF::dotProduct(point, point)};

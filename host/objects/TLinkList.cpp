@@ -1,39 +1,48 @@
 #include <objects/TLinkList.h>
 
+#include <objects/TGraphicsBusEntryItem.h>
+#include <objects/TGraphicsPinItem.h>
 #include <objects/TGraphicsSectionItem.h>
 
 #include <algorithm>
 
-QVector<TGraphicsItem*> TLinkList::Items() const
+template <class Linked>
+QVector<TGraphicsItem*> TLinksTo<Linked>::Items() const
 {
     QVector<TGraphicsItem*> items;
-    items.reserve(sections.size());
-    std::copy(sections.cbegin(), sections.cend(), std::back_inserter(items));
+    items.reserve(list.size());
+    std::copy(list.cbegin(), list.cend(), std::back_inserter(items));
     return items;
 }
 
-void TLinkList::Add(TGraphicsItem* section)
+template <class Linked>
+void TLinksTo<Linked>::Add(TGraphicsItem* item)
 {
-    if (auto* added = dynamic_cast<TGraphicsSectionItem*>(section)) {
-        sections.append(added);
+    if (auto* added = dynamic_cast<Linked*>(item)) {
+        list.append(added);
         node.Hold(added->LinkNode());
     }
 }
 
-bool TLinkList::Replace(const TGraphicsItem* from, TGraphicsItem* to)
+template <class Linked>
+bool TLinksTo<Linked>::Replace(const TGraphicsItem* from, TGraphicsItem* to)
 {
-    const auto found = std::find(sections.begin(), sections.end(), from);
-    if (found == sections.end()) {
+    const auto found = std::find(list.begin(), list.end(), from);
+    if (found == list.end()) {
         return false;
     }
     TGraphicsItem* replaced = *found;
-    auto* added = dynamic_cast<TGraphicsSectionItem*>(to);
+    auto* added = dynamic_cast<Linked*>(to);
     if (added) {
         *found = added;
         node.Hold(added->LinkNode());
     } else {
-        sections.erase(found);
+        list.erase(found);
     }
     node.Drop(replaced->LinkNode());
     return true;
 }
+
+template class TLinksTo<TGraphicsBusEntryItem>;
+template class TLinksTo<TGraphicsPinItem>;
+template class TLinksTo<TGraphicsSectionItem>;

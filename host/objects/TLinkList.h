@@ -4,25 +4,35 @@
 
 #include <QList>
 
+class TGraphicsBusEntryItem;
+class TGraphicsPinItem;
 class TGraphicsSectionItem;
 
-/** The sections that an item of a place holds links to, once for each of their ends. A part of that item. */
-class TLinkList
+/** The items of one class that an item holds links to, once for each link. A part of that item. */
+template <class Linked>
+class TLinksTo
 {
 public:
-    explicit TLinkList(TLinkNode& ofItem) : node(ofItem) {}
+    explicit TLinksTo(TLinkNode& ofItem) : node(ofItem) {}
 
-    const QList<TGraphicsSectionItem*>& Sections() const { return sections; }
+    const QList<Linked*>& List() const { return list; }
     QVector<TGraphicsItem*> Items() const;
 
-    /** Adds one link. What is no section is ignored. */
-    void Add(TGraphicsItem* section);
+    /** Adds one link. What is of another class is ignored. */
+    void Add(TGraphicsItem* item);
     /** Removes one link, if there is one. */
-    void Remove(const TGraphicsItem* section) { Replace(section, nullptr); }
-    /** Puts another section in the place of one link, or removes it, and tells whether there was one. */
+    void Remove(const TGraphicsItem* item) { Replace(item, nullptr); }
+    /** Puts another item in the place of one link, or removes it, and tells whether there was one. */
     bool Replace(const TGraphicsItem* from, TGraphicsItem* to);
 
 private:
     TLinkNode& node;
-    QList<TGraphicsSectionItem*> sections;
+    QList<Linked*> list;
 };
+
+extern template class TLinksTo<TGraphicsBusEntryItem>;
+extern template class TLinksTo<TGraphicsPinItem>;
+extern template class TLinksTo<TGraphicsSectionItem>;
+
+/** The sections that an item of a place holds links to, once for each of their ends. */
+using TLinkList = TLinksTo<TGraphicsSectionItem>;

@@ -26,10 +26,16 @@ public:
     /** A length in scene units, converted to the current unit. */
     double ValueFromScene(double sceneLength) const;
 
+    /** What kind of document the workspace is for. */
+    enum DocumentMode : int { SchematicMode = 0, BoardMode = 1 };
+    int Mode() const { return mode; }
+    void SetMode(int newMode) { mode = newMode; }
+
     TLayerManager& Layers() { return layers; }
     const TLayerManager& Layers() const { return layers; }
 
 private:
     Unit unit = Unit::Millimetre;
+    int mode = BoardMode;
     TLayerManager layers;
 };

@@ -52,7 +52,7 @@ struct Design
         tie->SetSymbol(number - 1);
         tie->setPos(100.0 * number, 0);
         pageTies.append(tie.get());
-        schematic.Attach(std::move(tie));
+        page->Attach(std::move(tie));
         return pageTies.last();
     }
 
@@ -74,6 +74,7 @@ struct Design
     QGraphicsView view;
     Test::Network board;
     TSchematic schematic;
+    TSchematicPage* page = schematic.AddPage();
     TProject project;
     BoardTies boardTies;
     PageTies pageTies;
@@ -246,7 +247,7 @@ private slots:
     {
         Design design;
         Test::RepaintLog ofBoard(*design.board.Scene());
-        Test::RepaintLog ofPage(*design.schematic.Scene());
+        Test::RepaintLog ofPage(*design.page->Scene());
         TCmdNetTieWireWidth width(BoardTies{design.boardTies[0]}, 3.3, &design.project);
         TCmdNetTieSchSymbol symbol(PageTies{design.pageTies[0]}, 2, &design.project);
         for (const bool redo : {true, false}) {

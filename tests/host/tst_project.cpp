@@ -3,7 +3,10 @@
 
 #include <application/TProject.h>
 #include <application/TSchematic.h>
+#include <objects/TGraphicsNetItem.h>
 #include <objects/TGraphicsNetTieSchItem.h>
+#include <objects/TGraphicsPartItem.h>
+#include <objects/TGraphicsPinItem.h>
 
 class TestProject : public QObject
 {
@@ -80,14 +83,15 @@ private slots:
     void pageItemsAreListedOnceTheyAreSaved()
     {
         TSchematic schematic;
+        TSchematicPage* page = schematic.AddPage();
         auto tie = std::make_unique<TGraphicsNetTieSchItem>();
         TGraphicsNetTieSchItem* placed = tie.get();
-        schematic.Attach(std::move(tie));
+        page->Attach(std::move(tie));
         QCOMPARE(placed->Workspace(), schematic.Workspace());
         QCOMPARE(schematic.Items(), QList<TGraphicsItem*>());
         schematic.SaveTopItemsFromWorkspace();
         QCOMPARE(schematic.Items(), QList<TGraphicsItem*>{placed});
-        schematic.Attach(std::make_unique<TGraphicsNetTieSchItem>());
+        schematic.AddPage()->Attach(std::make_unique<TGraphicsNetTieSchItem>());
         QCOMPARE(schematic.Items().size(), 1);
         schematic.SaveTopItemsFromWorkspace();
         QCOMPARE(schematic.Items().size(), 2);
@@ -96,12 +100,13 @@ private slots:
     void aNetsColourReachesThePage()
     {
         TSchematic schematic;
+        TSchematicPage* page = schematic.AddPage();
         schematic.NetModel()->AddNet("N", QString(), QColor(), QColor(), 0);
         const auto wire = [&](const char* net) {
             auto item = std::make_unique<TGraphicsWireItem>();
             TGraphicsWireItem* placed = item.get();
             placed->SetNet(net);
-            schematic.Attach(std::move(item));
+            page->Attach(std::move(item));
             return placed;
         };
         const TGraphicsWireItem* one = wire("N");
@@ -115,8 +120,18 @@ private slots:
     void padsTakeTheirNetsFromTheSchematic()
     {
         TSchematic schematic;
-        schematic.SetPinNet(4, "1", "A");
-        schematic.SetPinNet(4, "2", QString());
+        TSchematicPage* page = schematic.AddPage();
+        auto part = std::make_unique<TGraphicsPartItem>();
+        part->SetComponentNumber(4);
+        for (const char* number : {"1", "2"}) {
+            auto* pin = new TGraphicsPinItem(part.get());
+            pin->NumberText()->SetText(number);
+        }
+        auto wire = std::make_unique<TGraphicsNetItem>();
+        wire->SetNet("A");
+        wire->LinkToFirst(part->Pins().first());
+        page->Attach(std::move(wire));
+        page->Attach(std::move(part));
         Test::Network board;
         TProject project;
         QCOMPARE(project.Kind(), int(TProject::Separate));

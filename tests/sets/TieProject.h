@@ -32,7 +32,7 @@ struct TieProject
 
     TGraphicsNetTieSchItem* AddSymbol(quint16 number, const QString& name)
     {
-        auto* tie = Place<TGraphicsNetTieSchItem>(schematic, {number * 50.0, 0});
+        auto* tie = Place<TGraphicsNetTieSchItem>(*page, {number * 50.0, 0});
         tie->SetNumber(number);
         tie->SetName(name);
         return tie;
@@ -50,6 +50,7 @@ struct TieProject
 
     ViewedBoard board;
     TSchematic schematic;
+    TSchematicPage* page = schematic.AddPage();
     TProject project;
 };
 

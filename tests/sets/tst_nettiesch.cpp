@@ -166,7 +166,7 @@ private slots:
         Item* tie = design.AddSymbol(3, "NT3");
         tie->SetTFlag(TGraphicsItem::UndoBypass, true);
         Set set({tie}, &design.project);
-        Test::RepaintLog repaints(*design.schematic.Scene());
+        Test::RepaintLog repaints(*design.page->Scene());
         set.SetSymbol(1);
         QVERIFY(!repaints.Take().isNull());
     }

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+
+#include <map>
+
+/** What is known of a component besides its items: a plain value, owned by its model. */
+struct TCmpModelItem
+{
+    QString refDes;
+    QString value;
+    QString package;
+    int count = 0; ///< How many components have the same value and package, as of the last `UpdateCount`.
+};
+
+/** The table of a schematic's components by their numbers, as lists of material are made from it. */
+class TCmpModel
+{
+public:
+    /** Adds an entry, or replaces the one of that number; 0 is no component's number and is ignored. */
+    void Add(unsigned short number, const TCmpModelItem& item);
+
+    /** The entry of a number, null if there is none. Valid until it is replaced. */
+    TCmpModelItem* CmpModelItem(unsigned short number);
+
+    int Size() const { return static_cast<int>(items.size()); }
+
+    /** Counts the components that are alike anew. */
+    void UpdateCount();
+
+    /** The state of every component, one line each, in the order of their numbers. */
+    QString Dump() const;
+
+private:
+    std::map<unsigned short, TCmpModelItem> items;
+};
