@@ -36,6 +36,18 @@ QString PinNames::PowerNet(const TPageSymbol& symbol, const TPagePin& pin, int v
     return symbol.IsPower() && version >= valueNamesNet ? symbol.value : pin.pin->name;
 }
 
+QStringList PinNames::OtherNames(const QVector<TPinOnNet>& pins, const QString& name)
+{
+    QStringList others;
+    for (const TPinOnNet& on : pins) {
+        const bool isOther = on.pin->pin->name != name && !others.contains(on.pin->pin->name);
+        if (isOther && !PowerNet(*on.symbol, *on.pin, on.version).isEmpty()) {
+            others.append(on.pin->pin->name);
+        }
+    }
+    return others;
+}
+
 QString PinNames::UnnamedNet(const QVector<TPinOnNet>& pins)
 {
     QVector<TPinOnNet> real;

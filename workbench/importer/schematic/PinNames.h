@@ -17,6 +17,9 @@ struct TPinOnNet
     int version; ///< Of the sheet's format.
 };
 
+/** The names of power pins on a net that has another name: boards that were made with an older version have these. */
+QStringList OtherNames(const QVector<TPinOnNet>& pins, const QString& name);
+
 /** The name of a net that only its pins can give one; empty if there is none that can. */
 QString UnnamedNet(const QVector<TPinOnNet>& pins);
 

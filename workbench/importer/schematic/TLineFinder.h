@@ -11,7 +11,8 @@ public:
     /** The indices of the lines with that place on them, ends included. */
     QVector<int> LinesOver(const TGridPoint& place) const;
 
-    static bool IsOn(const TGridPoint& place, const TSheetLine& line);
+    /** Whether a place is on the line between two others, ends included. */
+    static bool IsOn(const TGridPoint& place, const TGridPoint& start, const TGridPoint& end);
 
 private:
     const std::vector<TSheetLine>& lines;

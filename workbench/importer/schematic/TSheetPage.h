@@ -55,7 +55,8 @@ struct TSheetPage
 struct TDesignNet
 {
     QString name;
-    bool isNamed = false; ///< By a label or a power symbol; else the name is made of one of its pins.
+    bool isNamed = false;   ///< By a label or a power symbol; else the name is made of one of its pins.
+    QStringList otherNames; ///< Those of power pins whose symbol says another one.
 };
 
 /** A root sheet and all that hangs below it, page by page. */

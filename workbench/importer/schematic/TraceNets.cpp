@@ -180,7 +180,7 @@ private:
         QHash<int, int> netOfSet;
         for (const auto& [name, set] : named) {
             netOfSet.insert(set, static_cast<int>(hierarchy.nets.size()));
-            hierarchy.nets.push_back({name, bestOf.contains(set)});
+            hierarchy.nets.push_back({name, bestOf.contains(set), PinNames::OtherNames(pinsOf.value(set), name)});
         }
         VisitConductors([&](int, int node, int& net, const TPageSymbol*, const TPagePin*) {
             net = netOfSet.value(sets.Find(node), -1);
