@@ -7,6 +7,7 @@
 #include <objects/TGraphicsPackageItem.h>
 #include <objects/TGraphicsPadItem.h>
 
+#include <QMap>
 #include <QSet>
 
 namespace {
@@ -53,6 +54,29 @@ private:
     QSet<QString> keys;
 };
 
+/** Drops names that would make one net of two; what nets are called that get another one is free to be taken. */
+void KeepApart(const TSheetHierarchy& hierarchy, QMap<int, QString>& wanted)
+{
+    for (bool isDone = false; !isDone;) {
+        QSet<QString> taken;
+        for (std::size_t i = 0; i < hierarchy.nets.size(); ++i) {
+            if (!wanted.contains(static_cast<int>(i))) {
+                taken.insert(hierarchy.nets[i].name);
+            }
+        }
+        isDone = true;
+        for (auto name = wanted.begin(); name != wanted.end();) {
+            if (taken.contains(*name)) {
+                name = wanted.erase(name);
+                isDone = false;
+            } else {
+                taken.insert(*name);
+                ++name;
+            }
+        }
+    }
+}
+
 } // namespace
 
 void MatchNumbers(TBoardDraft& board, const TSheetHierarchy& hierarchy, const QHash<QString, quint16>& numbers)
@@ -98,19 +122,17 @@ void TakeBoardNames(TSheetHierarchy& hierarchy, const TBoardDraft& board)
             }
         }
     }
-    QSet<QString> taken;
-    for (const TDesignNet& net : hierarchy.nets) {
-        taken.insert(net.name);
-    }
-    for (std::size_t i = 0; i < hierarchy.nets.size(); ++i) {
-        TDesignNet& net = hierarchy.nets[i];
-        QSet<QString> names = boardNames.value(static_cast<int>(i));
-        names.remove(QString());
-        const QString name = names.size() == 1 ? *names.begin() : net.name;
-        const bool mayTake = !net.isNamed || net.otherNames.contains(name);
-        if (mayTake && !taken.contains(name)) {
-            net.name = name;
-            taken.insert(name);
+    QMap<int, QString> wanted;
+    for (auto names = boardNames.begin(); names != boardNames.end(); ++names) {
+        const TDesignNet& net = hierarchy.nets[static_cast<std::size_t>(names.key())];
+        names->remove(QString());
+        const QString name = names->size() == 1 ? *names->begin() : net.name;
+        if (name != net.name && (!net.isNamed || net.otherNames.contains(name))) {
+            wanted.insert(names.key(), name);
         }
+    }
+    KeepApart(hierarchy, wanted);
+    for (auto name = wanted.begin(); name != wanted.end(); ++name) {
+        hierarchy.nets[static_cast<std::size_t>(name.key())].name = *name;
     }
 }

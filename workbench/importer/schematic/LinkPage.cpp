@@ -197,7 +197,8 @@ private:
         }
         item->Pen().setStyle(ShapeParts::StrokeStyle(element));
         item->SetNet(net);
-        item->SetAltColor(draft.NetColor(net));
+        const QColor color = draft.NetColor(net);
+        item->SetAltColor(color.isValid() ? color : ShapeParts::StrokeColor(element));
         piece.item = item.get();
         page.target.Attach(std::move(item));
     }
@@ -216,23 +217,17 @@ private:
         return added;
     }
 
-    /** Links ends with each other, over a junction if there are more than two; gives the junction. */
-    TGraphicsJunctionItem* LinkEnds(const TMeeting& meeting, std::vector<TPiece>& pieces, Osmirel::Layer layer,
-                                    const QString& net)
+    /** Links ends with each other, over a junction if there is one or if they are more than two. */
+    void LinkEnds(const TMeeting& meeting, std::vector<TPiece>& pieces, Osmirel::Layer layer, const QString& net)
     {
-        if (!meeting.hasJunction && meeting.IsBend()) {
+        if (meeting.IsBend()) {
             const TMeeting::TEnd& one = meeting.ends[0];
             const TMeeting::TEnd& other = meeting.ends[1];
             pieces[Index(one.line)].item->LinkTo(EndOf(pieces[Index(one.line)], one.end),
                                                  pieces[Index(other.line)].item);
-            return nullptr;
+        } else if (meeting.hasJunction || meeting.ends.size() > 1) {
+            LinkEndsTo(AddJunction(meeting.place, layer, net), meeting, pieces);
         }
-        if (!meeting.hasJunction && meeting.ends.size() < 2) {
-            return nullptr;
-        }
-        TGraphicsJunctionItem* junction = AddJunction(meeting.place, layer, net);
-        LinkEndsTo(junction, meeting, pieces);
-        return junction;
     }
 
     static void LinkEndsTo(TGraphicsItem* target, const TMeeting& meeting, std::vector<TPiece>& pieces)

@@ -110,6 +110,9 @@ public:
         part->SetComponentNumber(draft.numbers.value(PageItems::ComponentKey(symbol)));
         part->SetName(placed.libraryName.section(QLatin1Char(':'), -1));
         part->SetPackageName(ElementParts::PackageName(symbol.footprint));
+        if (placed.element.HasFlag("dnp")) {
+            draft.notShown.Count("marks of parts that are not to be placed");
+        }
         AddBody();
         AddFields();
         AddPins();
@@ -190,6 +193,7 @@ private:
             TGraphicsPinItem* item = AddPin(pin, *placed.library, *part, draft);
             item->setPos(Measures::ScenePoint(placed.frame.Turned(pin.pin->place)));
             item->setRotation(PageItems::RotationAlong(placed.frame.Turned(UnitStep(pin.pin->quarters))));
+            item->UpdatePath();
             NotePin(pin, *item, page, draft);
         }
     }
@@ -223,6 +227,7 @@ void AddNetTie(const TPageSymbol& symbol, TPageDraft& page, TSchematicDraft& dra
         TGraphicsPinItem* item = AddPin(pin, *symbol.symbol->library, *tie, draft);
         item->setPos(tie->mapFromScene(Measures::ScenePoint(pin.place)));
         item->setRotation(&pin == &first ? 0 : 180);
+        item->UpdatePath();
         NotePin(pin, *item, page, draft);
     }
     page.target.Attach(std::move(tie));

@@ -135,5 +135,6 @@ std::unique_ptr<TGraphicsPenItem> PageItems::Shape(const TSexpression& element, 
     item->SetPenWidth(static_cast<float>(width > 0 ? width : Measures::SceneLength(usualWidth)));
     item->Pen().setStyle(ShapeParts::StrokeStyle(element));
     item->SetLayer(Osmirel::SchematicSymbols);
+    item->SetAltColor(ShapeParts::StrokeColor(element));
     return item;
 }

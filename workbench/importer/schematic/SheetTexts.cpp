@@ -135,9 +135,15 @@ std::unique_ptr<TGraphicsTextItem> PageItems::Text(const TSexpression& element, 
 
 void PageItems::AddLabels(TPageDraft& page)
 {
+    constexpr double gapAboveWire = 4;
     for (const TSheetLabel& label : page.page.file->labels) {
         if (label.kind == LabelKind::Local) {
-            PlaceText(label.text, label.element, page);
+            auto text = std::make_unique<TGraphicsTextItem>();
+            TGraphicsTextItem* placed = text.get();
+            text->SetText(label.text);
+            Place(std::move(text), label.element, page);
+            const bool isVertical = label.quarters % 2 != 0;
+            placed->moveBy(isVertical ? -gapAboveWire : 0, isVertical ? 0 : -gapAboveWire);
         }
     }
 }
