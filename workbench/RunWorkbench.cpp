@@ -1,6 +1,6 @@
 #include "workbench/RunWorkbench.h"
 
-#include "workbench/LoadBoard.h"
+#include "workbench/LoadDesign.h"
 #include "workbench/session/RunSteps.h"
 #include "workbench/session/Tour.h"
 #include "workbench/session/TSession.h"

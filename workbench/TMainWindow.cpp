@@ -3,7 +3,7 @@
 #include "properties/TPropertyWidget.h"
 #include "workbench/DesignActions.h"
 #include "workbench/Kinds.h"
-#include "workbench/LoadBoard.h"
+#include "workbench/LoadDesign.h"
 #include "workbench/TCanvas.h"
 #include "workbench/TDesign.h"
 #include "workbench/Theme.h"

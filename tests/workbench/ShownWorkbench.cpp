@@ -3,7 +3,7 @@
 #include "properties/rows/TPropertyFloatSpin.h"
 #include "properties/TPropertySet.h"
 #include "properties/TPropertyWidget.h"
-#include "workbench/LoadBoard.h"
+#include "workbench/LoadDesign.h"
 #include "workbench/session/RunSteps.h"
 #include "workbench/session/TSession.h"
 #include "workbench/TCanvas.h"

@@ -1,6 +1,6 @@
 #include "tests/support/TestMain.h"
 #include "tests/workbench/ShownWorkbench.h"
-#include "workbench/LoadBoard.h"
+#include "workbench/LoadDesign.h"
 #include "workbench/session/CommandLine.h"
 #include "workbench/session/TSessionError.h"
 #include "workbench/TSelection.h"

@@ -1,7 +1,7 @@
 #include "tests/support/TestMain.h"
 #include "tests/workbench/FreePads.h"
 #include "tests/workbench/PanelSession.h"
-#include "workbench/LoadBoard.h"
+#include "workbench/LoadDesign.h"
 
 #include <QtTest>
 

@@ -4,7 +4,7 @@
 #include "tests/workbench/FreePads.h"
 #include "tests/workbench/PanelCells.h"
 #include "workbench/Kinds.h"
-#include "workbench/LoadBoard.h"
+#include "workbench/LoadDesign.h"
 #include "workbench/TDesign.h"
 
 #include <application/TNetModel.h>

@@ -6,7 +6,7 @@
 #include "tests/workbench/ShownWorkbench.h"
 #include "workbench/CommandNames.h"
 #include "workbench/Kinds.h"
-#include "workbench/LoadBoard.h"
+#include "workbench/LoadDesign.h"
 #include "workbench/TCanvas.h"
 #include "workbench/TLanguages.h"
 #include "workbench/TLayerList.h"

@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QMap>
 #include <QPair>
 #include <QString>
 #include <QStringList>
@@ -21,6 +22,12 @@ struct TImportResult
     /** Where the board's nets have their classes and colours: a schematic with nothing on its page. Null without a
      *  board. */
     std::unique_ptr<TSchematic> schematic;
+
+    /** What the schematic's pages are called, in their order. */
+    QStringList pageNames;
+
+    /** What tags show, by their names. */
+    QMap<QString, QString> tagValues;
 
     /** What the file holds and the board does not, with counts: ("track segments", 17921). */
     QList<QPair<QString, int>> notShown;

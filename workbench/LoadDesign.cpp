@@ -1,4 +1,4 @@
-#include "workbench/LoadBoard.h"
+#include "workbench/LoadDesign.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
