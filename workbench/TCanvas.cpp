@@ -110,8 +110,8 @@ void TCanvas::Reveal(const QGraphicsItem& item)
     constexpr double partOfView = 0.25;
     const QRectF area = item.sceneBoundingRect();
     const double side = std::max(area.width(), area.height());
-    const double factor = partOfView * std::min(viewport()->width(), viewport()->height())
-                          / std::max(side * transform().m11(), 1.0);
+    const double factor =
+        partOfView * std::min(viewport()->width(), viewport()->height()) / std::max(side * transform().m11(), 1.0);
     if (side * transform().m11() < fewestPixels) {
         ZoomBy(factor, viewport()->rect().center());
     }

@@ -3,8 +3,8 @@
 #include <QGraphicsView>
 
 /**
- * Shows a board or a page on a dark ground with a grid of millimetres. The wheel zooms around the cursor, the middle button
- * pans, the left one selects.
+ * Shows a board or a page on a dark ground with a grid of millimetres. The wheel zooms around the cursor, the middle
+ * button pans, the left one selects.
  */
 class TCanvas : public QGraphicsView
 {

@@ -67,7 +67,8 @@ QList<const TGraphicsPartItem*> OnePartOfEachComponent(const TSchematic& schemat
 
 TDesign::TDesign(TImportResult result)
     : schematic(result.schematic ? std::move(result.schematic) : std::make_unique<TSchematic>()),
-      board(std::move(result.board)), tree(std::make_unique<TProjectTree>())
+      board(std::move(result.board)),
+      tree(std::make_unique<TProjectTree>())
 {
     const bool hasPages = !schematic->Pages().empty();
     // A board alone is kept in step with its nets: they are shown, and its rat lines kept.

@@ -32,7 +32,9 @@ private:
 } // namespace
 
 TProjectDock::TProjectDock(QWidget* parent)
-    : QDockWidget(parent), open(new QAction(tr("&Open"), this)), rename(new QAction(tr("&Rename"), this)),
+    : QDockWidget(parent),
+      open(new QAction(tr("&Open"), this)),
+      rename(new QAction(tr("&Rename"), this)),
       close(new QAction(tr("&Close symbol"), this))
 {
     setWindowTitle(tr("Project"));

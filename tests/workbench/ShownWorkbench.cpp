@@ -99,7 +99,7 @@ ShownWorkbench::ShownWorkbench() : window(std::make_unique<TMainWindow>())
 {
     TImportResult result;
     result.board = MakeBoard();
-    window->ShowBoard(std::move(result), "test board");
+    window->ShowDesign(std::move(result), "test board");
     Show();
 }
 
@@ -109,7 +109,7 @@ ShownWorkbench::ShownWorkbench(const QString& file) : window(std::make_unique<TM
     if (!result.board) {
         qFatal("%s", qPrintable(result.error));
     }
-    window->ShowBoard(std::move(result), file);
+    window->ShowDesign(std::move(result), file);
     Show();
 }
 

@@ -49,7 +49,7 @@ const QStringList texts{"1", "", "A1", "say \"x\" \\ ", "1", QString::fromUtf8("
 std::unique_ptr<TDesign> SampleWithFreePads()
 {
     auto design = std::make_unique<TDesign>(ImportBoard(SampleBoardFile()));
-    Test::FreePads(design->Board(), 2);
+    Test::FreePads(*design->Board(), 2);
     return design;
 }
 
