@@ -6,6 +6,8 @@
 
 #include <objects/TGraphicsPartItem.h>
 
+#include <algorithm>
+
 struct TPropertySetForPin::Values
 {
     TGathered<QString> name;
@@ -32,8 +34,18 @@ void TPropertySetForPin::Values::Add(const TGraphicsPinItem& pin)
     swap.Add(Attributes::PinSwap::Read(pin));
 }
 
+namespace {
+
+auto CountPins(const QList<TGraphicsItem*>& items)
+{
+    return std::count_if(items.cbegin(), items.cend(),
+                         [](const TGraphicsItem* item) { return item->type() == ItemType::Pin; });
+}
+
+} // namespace
+
 TPropertySetForPin::TPropertySetForPin(QList<TGraphicsItem*> selection)
-    : TPropertySet(selection.size() == 1 ? tr("Pin") : tr("Pins"))
+    : TPropertySet(CountPins(selection) == 1 ? tr("Pin") : tr("Pins"))
 {
     Values values;
     for (TGraphicsItem* item : qAsConst(selection)) {
