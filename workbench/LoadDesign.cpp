@@ -1,5 +1,7 @@
 #include "workbench/LoadDesign.h"
 
+#include "workbench/importer/ProjectImporter.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QProgressDialog>
@@ -17,11 +19,6 @@ QString SampleBoardFile()
     return QStringLiteral(":/samples/sample.kicad_pcb");
 }
 
-TImportResult LoadDesign(const QString& file, const TImportProgress& progress)
-{
-    return ImportBoard(file, progress);
-}
-
 bool HasDesign(const TImportResult& result)
 {
     return result.board || (result.schematic && !result.schematic->Pages().empty());
@@ -34,7 +31,7 @@ TImportResult LoadDesignWithDialog(const QString& file, QWidget* parent)
                            QCoreApplication::translate("LoadDesign", "Cancel"), 0, 100, parent);
     dialog.setWindowModality(Qt::WindowModal);
     dialog.setMinimumDuration(shownAfterMilliseconds);
-    return LoadDesign(file, [&dialog](int percent) {
+    return ImportDesign(file, [&dialog](int percent) {
         dialog.setValue(percent);
         return !dialog.wasCanceled();
     });

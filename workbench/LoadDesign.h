@@ -7,10 +7,8 @@ class QWidget;
 /** The board that is compiled in. */
 QString SampleBoardFile();
 
-/** Reads a project, a schematic or a board, as the file's suffix says. */
-TImportResult LoadDesign(const QString& file, const TImportProgress& progress = {});
-
-/** Reads a file; a long load shows its progress in a dialog above @p parent, and can be cancelled there. */
+/** Reads a project, a schematic or a board; a long load shows its progress in a dialog above @p parent, and can be
+ * cancelled there. */
 TImportResult LoadDesignWithDialog(const QString& file, QWidget* parent);
 
 /** Whether anything was read that can be shown. */

@@ -1,5 +1,6 @@
 #include "workbench/RunWorkbench.h"
 
+#include "workbench/importer/ProjectImporter.h"
 #include "workbench/LoadDesign.h"
 #include "workbench/session/RunSteps.h"
 #include "workbench/session/Tour.h"
@@ -73,7 +74,7 @@ int Work(const TCommandLine& line, bool forPerson, const TStreams& streams)
         streams.messages << "reading " << name << '\n';
         streams.messages.flush();
     }
-    TImportResult result = forPerson ? LoadDesignWithDialog(file, nullptr) : LoadDesign(file);
+    TImportResult result = forPerson ? LoadDesignWithDialog(file, nullptr) : ImportDesign(file);
     if (!HasDesign(result)) {
         return result.cancelled ? 0 : Fail(result.error, streams.messages);
     }
