@@ -2,6 +2,8 @@
 
 #include <graphics/TStateText.h>
 
+#include <algorithm>
+
 void TNetModel::AddNet(const QString& net, const QString& netClass, const QColor& colorSch, const QColor& colorPcb,
                        int priority)
 {
@@ -12,9 +14,22 @@ void TNetModel::AddNet(const QVector<QVariant>& row)
 {
     const QString net = row.value(Name).toString();
     if (!net.isEmpty() && !HasNet(net)) {
-        rowOf.insert(net, rows.size());
-        rows.append(row);
-        rows.last().resize(columnCount);
+        const int place = row.size() > columnCount ? row[columnCount].toInt() : rows.size();
+        const int index = std::clamp(place, 0, rows.size());
+        ShiftRows(index, 1);
+        rowOf.insert(net, index);
+        rows.insert(index, row);
+        rows[index].resize(columnCount);
+    }
+}
+
+void TNetModel::ShiftRows(int from, int by)
+{
+    if (from >= rows.size()) {
+        return;
+    }
+    for (int& row : rowOf) {
+        row += row >= from ? by : 0;
     }
 }
 
@@ -24,14 +39,9 @@ QVector<QVariant> TNetModel::DeleteNet(const QString& net)
     if (deleted < 0) {
         return {};
     }
-    const QVector<QVariant> row = rows.takeAt(deleted);
     rowOf.remove(net);
-    for (int& other : rowOf) {
-        if (other > deleted) {
-            --other;
-        }
-    }
-    return row;
+    ShiftRows(deleted, -1);
+    return rows.takeAt(deleted) << deleted;
 }
 
 QVariant TNetModel::At(int row, Column column) const

@@ -24,9 +24,11 @@ public:
     /** Adds a net. A net that is there already, or has no name, is left alone. */
     void AddNet(const QString& net, const QString& netClass, const QColor& colorSch, const QColor& colorPcb,
                 int priority);
-    /** Adds a net with the values of a whole row, such as `DeleteNet` returned. */
+    /** Adds a net with the values of a whole row. A row that `DeleteNet` returned goes back to its place, so that rows
+     *  that are given back in reverse order restore the table. */
     void AddNet(const QVector<QVariant>& row);
-    /** Removes a net and returns its row; empty if there was none. The rows after it move up. */
+    /** Removes a net and returns its row, and behind its values the place of it; empty if there was none. The rows
+     * after it move up. */
     QVector<QVariant> DeleteNet(const QString& net);
 
     /** Colours by row; invalid for none. */
@@ -50,6 +52,8 @@ private:
     QVariant At(int row, Column column) const;
     QString Text(int row, Column column) const { return At(row, column).toString(); }
     void Set(const QString& net, Column column, const QVariant& value);
+    /** Moves what is known of the rows' numbers, from a row on, by one up or down. */
+    void ShiftRows(int from, int by);
 
     QVector<QVector<QVariant>> rows;
     QHash<QString, int> rowOf;

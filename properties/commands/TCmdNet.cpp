@@ -7,6 +7,9 @@
 #include <application/TNetModel.h>
 #include <application/TSchematic.h>
 #include <objects/TGraphicsRatLineItem.h>
+#include <workspace/TWorkspace.h>
+
+#include <QHash>
 
 #include <algorithm>
 #include <iterator>
@@ -34,6 +37,32 @@ void TCmdNetClass::SetClass(const QString& ofNet, const QString& netClass)
     TSchematic* schematic = ProjectParts::Schematic(project);
     if (schematic && schematic->IsExistNetClass(netClass)) {
         schematic->NetModel()->SetNetClass(ofNet, netClass);
+    }
+}
+
+TCmdNetColorSch::TCmdNetColorSch(const QString& ofNet, const QColor& color, TSchematic* ofSchematic)
+    : schematic(ofSchematic), net(ofNet), newColor(color)
+{
+    if (schematic) {
+        const TNetModel* model = schematic->NetModel();
+        oldColor = model->ColorSch(model->NetRow(net));
+    }
+}
+
+void TCmdNetColorSch::Do()
+{
+    SetColor(newColor);
+}
+
+void TCmdNetColorSch::Undo()
+{
+    SetColor(oldColor);
+}
+
+void TCmdNetColorSch::SetColor(const QColor& color)
+{
+    if (schematic) {
+        schematic->SetNetColor(net, color);
     }
 }
 
@@ -116,3 +145,34 @@ void TCmdNetPrio::SetLevels(const QStringList& levels)
         board->RatPriority(allLevels);
     }
 }
+
+TCmdNetName::TCmdNetName(TGraphicsItem*, const QString& name, TWorkspace* ofWorkspace, TProject* ofProject)
+    : newName(name), workspace(ofWorkspace), project(ofProject)
+{}
+
+void TCmdNetName::Do()
+{
+    SetNetName(newName);
+}
+
+void TCmdNetName::Undo()
+{
+    SetNetName(oldName);
+}
+
+void TCmdNetName::SetNetName(const QString& name)
+{
+    if (workspace && workspace->Mode() != TWorkspace::SchematicMode) {
+        SetNetNameOnPcb(name);
+    } else {
+        SetNetNameOnSch(name);
+    }
+}
+
+void TCmdNetName::SetNetNameOnSch(const QString&) {}
+
+void TCmdNetName::SetNetNameOnPcb(const QString&) {}
+
+TCmdFragmName::TCmdFragmName(TGraphicsItem* item, const QString& name, TWorkspace* ofWorkspace, TProject* ofProject)
+    : TCmdNetName(item, name, ofWorkspace, ofProject)
+{}

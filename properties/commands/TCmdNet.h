@@ -5,11 +5,13 @@
 #include <properties/Export.h>
 
 #include <QColor>
-#include <QHash>
+#include <QList>
 #include <QStringList>
 
-class TNetModel;
+class TGraphicsItem;
 class TProject;
+class TSchematic;
+class TWorkspace;
 
 /** Gives a net of the project another class. A class that the schematic does not know changes nothing. */
 class PROPERTIES_EXPORT TCmdNetClass : public TReversibleCommand
@@ -29,6 +31,25 @@ private:
     QString net;
     QString newClass;
     QString oldClass;
+};
+
+/** Gives a net another colour in its schematic; an invalid one stands for the layers' colours. */
+class PROPERTIES_EXPORT TCmdNetColorSch : public TReversibleCommand
+{
+public:
+    TCmdNetColorSch(const QString& net, const QColor& color, TSchematic* schematic);
+
+protected:
+    void Do() override;
+    void Undo() override;
+
+private:
+    void SetColor(const QColor& color);
+
+    TSchematic* schematic;
+    QString net;
+    QColor newColor;
+    QColor oldColor;
 };
 
 /** Gives a net of the project another colour on the board; an invalid one stands for the layers' colours. */
@@ -69,4 +90,38 @@ private:
     QStringList nets;
     QString newLevel;
     QStringList oldLevels; ///< Parallel to `nets`.
+};
+
+/**
+ * Intended: changes nothing. It holds the place of a command that renames the net of an item, on the schematic or on
+ * the board as the mode of the workspace says.
+ */
+class PROPERTIES_EXPORT TCmdNetName : public TReversibleCommand
+{
+public:
+    TCmdNetName(TGraphicsItem* item, const QString& name, TWorkspace* workspace, TProject* project);
+
+    /** Intended: do nothing. */
+    void SetNetNameOnSch(const QString& name);
+    void SetNetNameOnPcb(const QString& name);
+
+protected:
+    void Do() override;
+    void Undo() override;
+
+    QList<TGraphicsItem*> items; ///< Intended: left empty.
+    QString oldName;             ///< Intended: left empty.
+    QString newName;
+    TWorkspace* workspace;
+    TProject* project;
+
+private:
+    void SetNetName(const QString& name);
+};
+
+/** Intended: changes nothing. It holds the place of a command that renames a fragment of a net. */
+class PROPERTIES_EXPORT TCmdFragmName : public TCmdNetName
+{
+public:
+    TCmdFragmName(TGraphicsItem* item, const QString& name, TWorkspace* workspace, TProject* project);
 };

@@ -3,7 +3,7 @@
 #include "properties/rows/TLineEdit.h"
 #include "properties/sets/RowValues.h"
 
-#include <graphics/TGraphicsItem.h>
+#include <objects/TGraphicsComponentItem.h>
 
 /** What the sets of packages and of parts have in common. */
 namespace ComponentRows {
@@ -21,11 +21,51 @@ inline void ShowReadOnly(TPropertyText& row, const TGathered<QString>& values)
     row.line->SetEditable(false);
 }
 
+/** What the sets show of the components of their items. */
+struct Values
+{
+    TGathered<QString> refDes;
+    TGathered<QString> value;
+    TGathered<QString> package;
+    TGathered<QString> id;
+    TGathered<bool> lockRefDes;
+    TGathered<bool> lockValue;
+
+    void Add(const TGraphicsComponentItem& item)
+    {
+        refDes.Add(item.RefDes());
+        value.Add(item.Value());
+        package.Add(NameWithoutQualifier(item.PackageName()));
+        id.Add(QString::number(item.ComponentNumber()));
+        lockRefDes.Add(item.LockRefDes());
+        lockValue.Add(item.LockValue());
+    }
+};
+
 /** Locks the text item of a component in place, or unlocks it; null is ignored. */
 inline void LockText(TGraphicsItem* text, bool lock)
 {
     if (text) {
         text->SetTFlag(TGraphicsItem::Lock, lock);
+    }
+}
+
+/** Write at once whether the components' designators, or values, are locked in place. */
+template <class Item>
+void LockRefDes(const QList<Item*>& items, bool lock)
+{
+    for (Item* item : items) {
+        item->SetLockRefDes(lock);
+        LockText(item->RefDesText(), lock);
+    }
+}
+
+template <class Item>
+void LockValue(const QList<Item*>& items, bool lock)
+{
+    for (Item* item : items) {
+        item->SetLockValue(lock);
+        LockText(item->ValueText(), lock);
     }
 }
 

@@ -89,6 +89,13 @@ inline void Show(TPropertyCheck2& row, const TGathered<bool>& first, const TGath
     ShowIfShared(row, second.AllEqual(), [&] { row.SetChecked2(second.First()); });
 }
 
+/** The "Show" box of a text row. */
+inline void ShowVisible(TPropertyText& row, const TGathered<bool>& values)
+{
+    row.visible->show();
+    row.visible->setChecked(values.AllEqual() && values.First());
+}
+
 /** The enable box of a number row. */
 inline void ShowCheck(TPropertyFloatSpin& row, const TGathered<bool>& values)
 {

@@ -7,29 +7,16 @@
 
 #include <QKeyEvent>
 
-struct TPropertySetForPackage::Values
+struct TPropertySetForPackage::Values : ComponentRows::Values
 {
-    TGathered<QString> refDes;
-    TGathered<QString> value;
-    TGathered<QString> package;
-    TGathered<QString> id;
-    TGathered<bool> lockRefDes;
-    TGathered<bool> lockValue;
     TGathered<Osmirel::Layer> side;
 
-    void Add(const TGraphicsPackageItem& item);
+    void Add(const TGraphicsPackageItem& item)
+    {
+        ComponentRows::Values::Add(item);
+        side.Add(item.Layer());
+    }
 };
-
-void TPropertySetForPackage::Values::Add(const TGraphicsPackageItem& item)
-{
-    refDes.Add(item.RefDes());
-    value.Add(item.Value());
-    package.Add(ComponentRows::NameWithoutQualifier(item.PackageName()));
-    id.Add(QString::number(item.ComponentNumber()));
-    lockRefDes.Add(item.LockRefDes());
-    lockValue.Add(item.LockValue());
-    side.Add(item.Layer());
-}
 
 TPropertySetForPackage::TPropertySetForPackage(QList<TGraphicsItem*> selection, QList<Osmirel::Layer> layers,
                                                TBoard* ofBoard)
@@ -95,18 +82,12 @@ void TPropertySetForPackage::SetPackage(QString newPackage)
 
 void TPropertySetForPackage::SetLockRefDes(bool on)
 {
-    for (TGraphicsPackageItem* item : qAsConst(packages)) {
-        item->SetLockRefDes(on);
-        ComponentRows::LockText(item->RefDesText(), on);
-    }
+    ComponentRows::LockRefDes(packages, on);
 }
 
 void TPropertySetForPackage::SetLockValue(bool on)
 {
-    for (TGraphicsPackageItem* item : qAsConst(packages)) {
-        item->SetLockValue(on);
-        ComponentRows::LockText(item->ValueText(), on);
-    }
+    ComponentRows::LockValue(packages, on);
 }
 
 void TPropertySetForPackage::SetSide(Osmirel::Layer layer)

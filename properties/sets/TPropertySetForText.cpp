@@ -103,9 +103,7 @@ void TPropertySetForText::MakeFontRows(const Values& values)
 void TPropertySetForText::MakePlacementRows(const Values& values, const QList<Osmirel::Layer>& layers)
 {
     alignment = NewRow<TPropertyEnum>(tr("Alignment:"));
-    alignment->AddItem(tr("Left"), Qt::AlignLeft);
-    alignment->AddItem(tr("Center"), Qt::AlignCenter);
-    alignment->AddItem(tr("Right"), Qt::AlignRight);
+    TextRows::AddAlignments(*alignment, tr("Left"), tr("Center"), tr("Right"));
     RowValues::Show(*alignment, values.alignment);
     connect(alignment, SIGNAL(sigEnumChanged(int)), this, SLOT(SetAlign(int)));
 
@@ -197,8 +195,5 @@ void TPropertySetForText::SetMirrorH(bool on)
 
 void TPropertySetForText::SetLine(double width)
 {
-    for (TGraphicsTextItem* text : qAsConst(texts)) {
-        text->SetLineWidth(static_cast<float>(width));
-        text->UpdatePath(false);
-    }
+    TextRows::WriteLineWidth(texts, width);
 }

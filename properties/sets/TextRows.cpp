@@ -1,6 +1,7 @@
 #include "properties/sets/TextRows.h"
 
 #include <application/TApplication.h>
+#include <graphics/TGraphicsTextItem.h>
 
 #include <algorithm>
 #include <iterator>
@@ -23,6 +24,21 @@ int TextRows::OfferedFontSize(int points)
 {
     const auto* next = std::lower_bound(std::begin(fontSizes), std::end(fontSizes), points);
     return next == std::end(fontSizes) ? *std::prev(next) : *next;
+}
+
+void TextRows::AddAlignments(TPropertyEnum& row, const QString& left, const QString& center, const QString& right)
+{
+    row.AddItem(left, Qt::AlignLeft);
+    row.AddItem(center, Qt::AlignCenter);
+    row.AddItem(right, Qt::AlignRight);
+}
+
+void TextRows::WriteLineWidth(const QList<TGraphicsTextItem*>& texts, double width)
+{
+    for (TGraphicsTextItem* text : texts) {
+        text->SetLineWidth(static_cast<float>(width));
+        text->UpdatePath(false);
+    }
 }
 
 void TextRows::AddFontNames(TPropertyEnum& row)

@@ -2,6 +2,10 @@
 
 #include "properties/rows/TPropertyEnum.h"
 
+#include <QList>
+
+class TGraphicsTextItem;
+
 /** What the sets of texts and of tags have in common: the choices that their rows offer. */
 namespace TextRows {
 
@@ -9,6 +13,12 @@ namespace TextRows {
 void AddFontSizes(TPropertyEnum& row);
 /** The offered size that stands for a size in points: itself, or else the next larger one. */
 int OfferedFontSize(int points);
+
+/** Adds the alignments, which are `Qt::AlignmentFlag` values, under names that the set has translated. */
+void AddAlignments(TPropertyEnum& row, const QString& left, const QString& center, const QString& right);
+
+/** Writes a stroke width, as it is, to every text at once. */
+void WriteLineWidth(const QList<TGraphicsTextItem*>& texts, double width);
 
 /** Adds the names of the application's fonts. */
 void AddFontNames(TPropertyEnum& row);

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "properties/commands/CommandIds.h"
+#include "properties/commands/TDetachedItem.h"
+#include "properties/commands/TReversibleCommand.h"
+
+#include <properties/Export.h>
+
+#include <QVector>
+
+#include <vector>
+
+class TGraphicsBusEntryItem;
+class TGraphicsBusItem;
+class TGraphicsNetItem;
+
+/**
+ * Takes bus entries off their page, cut from their buses and net wires. The entries belong to the command while they
+ * are off the page. Made by the application.
+ */
+class PROPERTIES_EXPORT TCmdBusEntryDisconnect : public TReversibleCommand
+{
+public:
+    /** Keeps the bus entries of @p selection, each once, with what they are linked to now. */
+    explicit TCmdBusEntryDisconnect(const QList<TGraphicsItem*>& selection);
+    ~TCmdBusEntryDisconnect() override;
+
+    int id() const override { return CommandId::BusEntryDisconnect; }
+    /**
+     * True for a later command of this class that holds no entries; anything else, null too, is refused.
+     *
+     * Intended: this does not override the toolkit's function of the same name, so that the undo stack never merges.
+     */
+    bool mergeWith(const TUndoCommand* other);
+    using QUndoCommand::mergeWith;
+
+protected:
+    void Do() override;
+    void Undo() override;
+
+private:
+    void LinkAgain(int index);
+
+    std::vector<TDetachedItem<TGraphicsBusEntryItem>> entries;
+    // Parallel to `entries`: what each of them was linked to; null for nothing.
+    QVector<TGraphicsBusItem*> buses;
+    QVector<TGraphicsNetItem*> nets;
+    QVector<bool> isFirstLink; ///< Whether the entry was the net wire's first linked item, else its last.
+};

@@ -1,0 +1,90 @@
+#include "properties/commands/TCmdComponent.h"
+
+#include "properties/commands/ItemsOfView.h"
+#include "properties/commands/ProjectParts.h"
+
+#include <application/TBoard.h>
+#include <application/TSchematic.h>
+#include <objects/TGraphicsPackageItem.h>
+#include <objects/TGraphicsPartItem.h>
+
+#include <QHash>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+using TItemsByNumber = QHash<unsigned short, QVector<TGraphicsComponentItem*>>;
+
+void AddParts(TSchematic& schematic, TItemsByNumber& items)
+{
+    constexpr unsigned short all = 0;
+    const QList<TGraphicsPartItem*> parts = schematic.PartItems(all);
+    for (TGraphicsPartItem* part : parts) {
+        items[part->ComponentNumber()].append(part);
+    }
+}
+
+/** The packages of the board that belong to a component, if the board follows the schematic. */
+void AddPackages(const TProject* project, TItemsByNumber& items)
+{
+    TBoard* board = ProjectParts::IsInStep(project) ? ProjectParts::Board(project) : nullptr;
+    if (!board || !board->ConnectivityEnabled()) {
+        return;
+    }
+    for (TGraphicsItem* item : ItemsOfView(board->View(), {ItemType::Package})) {
+        auto* package = static_cast<TGraphicsPackageItem*>(item);
+        if (package->ComponentNumber() != 0) {
+            items[package->ComponentNumber()].append(package);
+        }
+    }
+}
+
+} // namespace
+
+TCmdCmpValue::TCmdCmpValue(const QList<unsigned short>& ofNumbers, const QString& value, TProject* ofProject)
+    : project(ofProject), numbers(ofNumbers)
+{
+    newValues.reserve(numbers.size());
+    std::fill_n(std::back_inserter(newValues), numbers.size(), value);
+}
+
+void TCmdCmpValue::Do()
+{
+    SetValue(newValues);
+}
+
+void TCmdCmpValue::Undo()
+{
+    SetValue(oldValues);
+}
+
+void TCmdCmpValue::SetValue(const QStringList& values)
+{
+    TSchematic* schematic = ProjectParts::Schematic(project);
+    if (!schematic) {
+        return;
+    }
+    TCmpModel& model = *schematic->CmpModel();
+    const bool isFirstTime = oldValues.isEmpty();
+    const QStringList written = values; // The old values may be what is given, and what is appended to.
+    TItemsByNumber items;
+    AddParts(*schematic, items);
+    AddPackages(project, items);
+    for (int i = 0; i < numbers.size(); ++i) {
+        TCmpModelItem* component = model.CmpModelItem(numbers.at(i));
+        if (isFirstTime) {
+            oldValues.append(component ? component->value : QString());
+        }
+        if (!component) {
+            continue;
+        }
+        component->value = written.value(i);
+        const QVector<TGraphicsComponentItem*> ofComponent = items.value(numbers.at(i));
+        for (TGraphicsComponentItem* item : ofComponent) {
+            item->SetValue(written.value(i));
+        }
+    }
+    model.UpdateCount();
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "properties/commands/TReversibleCommand.h"
+#include "properties/commands/TUniqueNumbers.h"
+
+#include <properties/Export.h>
+
+#include <QVector>
+
+class TGraphicsItem;
+class TGraphicsPartItem;
+class TProject;
+
+/** Connects parts to what their pins touch. Made by the application. */
+class PROPERTIES_EXPORT TCmdPartConnect : public TReversibleCommand
+{
+public:
+    TCmdPartConnect(const QList<TGraphicsItem*>& selection, TProject* project);
+
+    /** Gives the pads of the parts' components the nets of their pins, where schematic and board are kept in step and
+     *  the board's connectivity is switched on. */
+    void UpdatePCB();
+
+protected:
+    void Do() override;
+    void Undo() override;
+
+    enum class Action { Connect, Disconnect };
+
+    /** Acts on every part with all that it touches, keeps what each of them returned, and updates the board. */
+    void ActOnAll(Action action);
+    /** Acts on every part with exactly what is kept for it, and updates the board. */
+    void ActOnSaved(Action action);
+
+private:
+    static QVector<TGraphicsItem*> Act(Action action, TGraphicsPartItem& part, const QVector<TGraphicsItem*>& items);
+
+    TProject* project;
+    QVector<TGraphicsPartItem*> parts;
+    QVector<QVector<TGraphicsItem*>> savedConnections; ///< From the last redo; parallel to `parts` from then on.
+    TUniqueNumbers components;
+};
+
+/** Cuts parts from what they are connected to. Made by the application. */
+class PROPERTIES_EXPORT TCmdPartDisconnect : public TCmdPartConnect
+{
+public:
+    TCmdPartDisconnect(const QList<TGraphicsItem*>& selection, TProject* project);
+
+protected:
+    void Do() override;
+    void Undo() override;
+};

@@ -1,0 +1,148 @@
+#include "properties/commands/TCmdPort.h"
+
+#include "properties/commands/ProjectParts.h"
+#include "properties/commands/TUniqueNumbers.h"
+
+#include <application/TBoard.h>
+#include <application/TSchematic.h>
+#include <objects/TGraphicsNetTieSchItem.h>
+#include <objects/TGraphicsPartItem.h>
+#include <objects/TGraphicsPinItem.h>
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+QColor ColorOf(const TNetModel& model, const QString& net)
+{
+    return model.ColorSch(model.NetRow(net));
+}
+
+/** The number of the component, or the net tie, whose pin an item is; nothing for other items. */
+void AddNumberOf(const TGraphicsItem& item, TUniqueNumbers& numbers)
+{
+    const QGraphicsItem* parent = item.type() == ItemType::Pin ? item.parentItem() : nullptr;
+    if (parent && parent->type() == ItemType::Part) {
+        numbers.Add(static_cast<const TGraphicsPartItem*>(parent)->ComponentNumber());
+    } else if (parent && parent->type() == ItemType::NetTieSch) {
+        numbers.Add(static_cast<const TGraphicsNetTieSchItem*>(parent)->Number());
+    }
+}
+
+} // namespace
+
+TCmdPortName::TCmdPortName(QList<TGraphicsPortItem*> ofPorts, const QString& name, TSchematic* ofSchematic)
+    : schematic(ofSchematic), ports(std::move(ofPorts)), newName(name)
+{
+    for (const TGraphicsPortItem* port : qAsConst(ports)) {
+        oldNames.append(port->Name());
+    }
+}
+
+void TCmdPortName::Do()
+{
+    if (!schematic) {
+        return;
+    }
+    TNetModel& model = *schematic->NetModel();
+    AddNewNet(model);
+    DeleteUnused(MoveToNewNet(model), model);
+    UpdateBoardInStep();
+}
+
+void TCmdPortName::AddNewNet(TNetModel& model)
+{
+    if (!model.HasNet(newName)) {
+        model.AddNet(newName, QStringLiteral("Default"), QColor(), QColor(), 0);
+        addedNet = model.HasNet(newName) ? newName : QString(); // The empty name is no net.
+    }
+}
+
+QStringList TCmdPortName::MoveToNewNet(const TNetModel& model)
+{
+    QStringList oldNets;
+    QSet<QString> known;
+    const QColor color = ColorOf(model, newName);
+    for (TGraphicsPortItem* port : qAsConst(ports)) {
+        const QString net = port->Net();
+        if (!net.isEmpty() && !known.contains(net)) {
+            known.insert(net);
+            oldNets.append(net);
+        }
+        port->SetName(newName, color);
+    }
+    return oldNets;
+}
+
+void TCmdPortName::DeleteUnused(const QStringList& nets, TNetModel& model)
+{
+    QSet<QString> unused(nets.cbegin(), nets.cend());
+    unused.remove(newName); // Ports that share a net are on the new one already when their turn comes.
+    schematic->SaveTopItemsFromWorkspace();
+    const QList<TGraphicsItem*> items = schematic->Items();
+    for (const TGraphicsItem* item : items) {
+        if (item->type() == ItemType::NetWire) {
+            unused.remove(item->Net());
+        }
+    }
+    for (const QString& net : nets) {
+        if (unused.contains(net) && model.HasNet(net)) {
+            deletedNets.append(model.DeleteNet(net));
+        }
+    }
+}
+
+void TCmdPortName::Undo()
+{
+    if (!schematic) {
+        return;
+    }
+    TNetModel& model = *schematic->NetModel();
+    if (!addedNet.isEmpty()) {
+        model.DeleteNet(addedNet);
+        addedNet.clear();
+    }
+    while (!deletedNets.isEmpty()) {
+        model.AddNet(deletedNets.takeLast());
+    }
+    for (int i = 0; i < ports.size(); ++i) {
+        ports.at(i)->SetName(oldNames.at(i), ColorOf(model, oldNames.at(i)));
+    }
+    UpdateBoardInStep();
+}
+
+void TCmdPortName::UpdateBoardInStep()
+{
+    if (ProjectParts::IsInStep(schematic->Project())) {
+        UpdatePCB();
+    }
+}
+
+void TCmdPortName::UpdatePCB()
+{
+    TBoard* board = schematic ? ProjectParts::Board(schematic->Project()) : nullptr;
+    if (board && board->ConnectivityEnabled()) {
+        board->UpdatePadNets(ConnectedNumbers());
+    }
+}
+
+QList<unsigned short> TCmdPortName::ConnectedNumbers() const
+{
+    TUniqueNumbers numbers;
+    QSet<const TGraphicsItem*> seen; // Ports that are wired together are connected to the same.
+    for (const TGraphicsPortItem* port : ports) {
+        if (seen.contains(port->Pin())) {
+            continue;
+        }
+        const QVector<TGraphicsItem*> connected = port->ConnectedItems();
+        for (const TGraphicsItem* item : connected) {
+            seen.insert(item);
+            AddNumberOf(*item, numbers);
+        }
+    }
+    return numbers.List();
+}
+
+TCmdPortNameVis::TCmdPortNameVis(QList<TGraphicsPortItem*> ports, bool visible) : TAttributeCommand(ports, visible) {}

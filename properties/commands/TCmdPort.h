@@ -1,0 +1,66 @@
+#pragma once
+
+#include "properties/commands/Attributes.h"
+#include "properties/commands/TAttributeCommand.h"
+
+#include <properties/Export.h>
+
+#include <objects/TGraphicsPortItem.h>
+
+#include <QStringList>
+#include <QVariant>
+
+class TNetModel;
+class TSchematic;
+
+namespace Attributes {
+
+struct PortNameVisible : Plain<TGraphicsPortItem, bool>
+{
+    static bool Accepts(const TGraphicsPortItem&) { return true; }
+    static bool Read(const TGraphicsPortItem& port) { return port.NameVisible(); }
+    static void Write(TGraphicsPortItem& port, bool visible) { port.SetNameVisible(visible); }
+};
+
+} // namespace Attributes
+
+/**
+ * Renames ports, and with that moves them and all that is wired to them to another net: adds that net to the net model
+ * if it is new, and deletes the nets that no net wire of any page is on any more. In a project that keeps schematic and
+ * board in step the board's pads follow.
+ */
+class PROPERTIES_EXPORT TCmdPortName : public TReversibleCommand
+{
+public:
+    TCmdPortName(QList<TGraphicsPortItem*> ports, const QString& name, TSchematic* schematic);
+
+    /** Gives the pads of all components that are connected to the ports the nets of their pins. Does nothing without a
+     *  board, and on one whose connectivity is switched off. */
+    void UpdatePCB();
+
+protected:
+    void Do() override;
+    void Undo() override;
+
+private:
+    void AddNewNet(TNetModel& model);
+    /** Renames the ports, and returns the nets that they were on, each once. */
+    QStringList MoveToNewNet(const TNetModel& model);
+    void DeleteUnused(const QStringList& nets, TNetModel& model);
+    void UpdateBoardInStep();
+    QList<unsigned short> ConnectedNumbers() const;
+
+    TSchematic* schematic;
+    QList<TGraphicsPortItem*> ports;
+    QStringList oldNames; ///< Parallel to `ports`.
+    QString newName;
+    QString addedNet;                     ///< What the last redo added to the net model; empty for nothing.
+    QList<QVector<QVariant>> deletedNets; ///< The rows that the last redo deleted from it, in that order.
+};
+
+/** Shows or hides the names of ports. */
+class PROPERTIES_EXPORT TCmdPortNameVis : public TAttributeCommand<Attributes::PortNameVisible>
+{
+public:
+    TCmdPortNameVis(QList<TGraphicsPortItem*> ports, bool visible);
+};

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "properties/commands/TReversibleCommand.h"
+
+#include <properties/Export.h>
+
+#include <QString>
+
+class QTreeWidgetItem;
+class TPart;
+class TSchPage;
+
+/** Writes a text of an entry of the project tree. */
+class PROPERTIES_EXPORT TTreeEntryCommand : public TReversibleCommand
+{
+protected:
+    /** The entry is not owned and must outlive the command; null makes a command that does nothing. */
+    TTreeEntryCommand(QTreeWidgetItem* entry, int column, const QString& text);
+
+    void Do() override;
+    void Undo() override;
+
+private:
+    void Write(const QString& text);
+
+    QTreeWidgetItem* entry;
+    int column;
+    QString newText;
+    QString oldText;
+};
+
+/** Renames a part in the project tree. Made by the application. */
+class PROPERTIES_EXPORT TCmdPartRename : public TTreeEntryCommand
+{
+public:
+    TCmdPartRename(TPart* part, const QString& name);
+};
+
+/** Renames a page in the project tree. Made by the application. */
+class PROPERTIES_EXPORT TCmdPageRename : public TTreeEntryCommand
+{
+public:
+    TCmdPageRename(TSchPage* page, const QString& name);
+};
+
+/** Asks the application to open a part: the next one after redo, the previous one after undo; null for none. */
+class PROPERTIES_EXPORT TCmdPartOpen : public TReversibleCommand
+{
+public:
+    TCmdPartOpen(TPart* previous, TPart* next);
+
+protected:
+    void Do() override;
+    void Undo() override;
+
+private:
+    TPart* nextPart;
+    TPart* previousPart;
+};
+
+/** Asks the application to open a page: the next one after redo, the previous one after undo. */
+class PROPERTIES_EXPORT TCmdPageOpen : public TReversibleCommand
+{
+public:
+    /** Pages are numbered from 1. */
+    TCmdPageOpen(unsigned char previous, unsigned char next);
+
+    /**
+     * The page that the application is to open after the last redo or undo, 0 for none. The first answer is always 0:
+     * it is asked for when the command was pushed, and the page is open by then.
+     */
+    unsigned char OpeningPageId();
+
+protected:
+    void Do() override;
+    void Undo() override;
+
+private:
+    unsigned char nextPage;
+    unsigned char previousPage;
+    bool isFirstQuery = true;
+};

@@ -1,0 +1,34 @@
+#include "properties/commands/TCmdTag.h"
+
+#include <application/TProject.h>
+#include <objects/TGraphicsTagItem.h>
+
+#include <utility>
+
+TCmdTagName::TCmdTagName(QList<TGraphicsTagItem*> ofTags, const QString& name, TProject* ofProject)
+    : tags(std::move(ofTags)), newName(name), project(ofProject)
+{
+    for (const TGraphicsTagItem* tag : qAsConst(tags)) {
+        oldNames.append(tag->Name());
+    }
+}
+
+void TCmdTagName::SetName(TGraphicsTagItem* tag, const QString& name)
+{
+    tag->SetValue(project ? project->TagValues().value(name) : QString(), false);
+    tag->SetName(name, true);
+}
+
+void TCmdTagName::Do()
+{
+    for (TGraphicsTagItem* tag : qAsConst(tags)) {
+        SetName(tag, newName);
+    }
+}
+
+void TCmdTagName::Undo()
+{
+    for (int i = 0; i < tags.size(); ++i) {
+        SetName(tags.at(i), oldNames.at(i));
+    }
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "properties/TPropertySet.h"
+
+#include <QStringList>
+
+class TPropertyColor;
+class TPropertyEnum;
+class TPropertyText;
+class TSchematic;
+
+/**
+ * Edits the nets of net wires of the schematic. The rows show the first wire's net, and class and colour are changed of
+ * that net only; the level is changed of all nets of the selection. Every edit is a command.
+ */
+class PROPERTIES_EXPORT TPropertySetForNet : public TPropertySet
+{
+    Q_OBJECT
+
+public:
+    /** Looks at the net wires of @p selection, all of them on pages of @p schematic. */
+    TPropertySetForNet(QList<TGraphicsItem*> selection, TSchematic* schematic);
+
+public slots:
+    void slotSetClass(QString newClass);
+    /** "Default", or a digit. */
+    void slotSetPrio(QString newLevel);
+    void slotSetColor(QColor newColor);
+
+private:
+    void MakeRows(bool onOneNet);
+
+    TSchematic* schematic;
+    QPointer<TPropertyText> net;
+    QPointer<TPropertyEnum> netClass;
+    QPointer<TPropertyEnum> level;
+    QPointer<TPropertyColor> color;
+    QString netName;  ///< The first wire's.
+    QStringList nets; ///< Of all wires, each once, without the empty name; in order of appearance.
+};

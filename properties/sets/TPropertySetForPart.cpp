@@ -1,0 +1,72 @@
+#include "properties/sets/TPropertySetForPart.h"
+
+#include "properties/rows/TPropertyIntSpin.h"
+#include "properties/sets/ComponentRows.h"
+
+#include <objects/TGraphicsPartItem.h>
+
+struct TPropertySetForPart::Values : ComponentRows::Values
+{
+    TGathered<QString> name;
+    TGathered<quint8> swap; ///< Shown as the first part's.
+
+    void Add(const TGraphicsPartItem& item)
+    {
+        ComponentRows::Values::Add(item);
+        name.Add(item.Name());
+        swap.Add(item.SwapNumber());
+    }
+};
+
+TPropertySetForPart::TPropertySetForPart(QList<TGraphicsItem*> selection)
+    : TPropertySet(selection.size() == 1 ? tr("Part") : tr("Parts"))
+{
+    Values values;
+    for (TGraphicsItem* item : qAsConst(selection)) {
+        if (item->type() == ItemType::Part) {
+            parts.append(static_cast<TGraphicsPartItem*>(item));
+            values.Add(*parts.last());
+        }
+    }
+    if (!parts.isEmpty()) {
+        MakeRows(values);
+    }
+}
+
+TPropertyText* TPropertySetForPart::NewDisplay(const QString& label, const TGathered<QString>& values)
+{
+    auto* row = NewRow<TPropertyText>(label, QString(), false);
+    ComponentRows::ShowReadOnly(*row, values);
+    return row;
+}
+
+void TPropertySetForPart::MakeRows(const Values& values)
+{
+    refDes = NewDisplay(tr("RefDes:"), values.refDes);
+    value = NewDisplay(tr("Value:"), values.value);
+    name = NewDisplay(tr("Name:"), values.name); // Intended: made and not shown.
+    package = NewDisplay(tr("Package:"), values.package);
+    id = NewDisplay(tr("Id:"), values.id); // Intended: made and not shown.
+
+    lock = NewRow<TPropertyCheck2>(tr("Lock:"), tr("RefDes"), tr("Value"));
+    RowValues::Show(*lock, values.lockRefDes, values.lockValue);
+    connect(lock, SIGNAL(sigChecked1(bool)), this, SLOT(SetLockRefDes(bool)));
+    connect(lock, SIGNAL(sigChecked2(bool)), this, SLOT(SetLockValue(bool)));
+
+    swap = NewRow<TPropertyIntSpin>(tr("Swap:"), 0, 8, 1);
+    swap->SetEnabled(false);
+    swap->SetCurrentValue(values.swap.First());
+
+    const bool showsSwap = parts.size() == 1 && values.swap.First() != 0;
+    AddProperties({refDes, value, package, lock, showsSwap ? swap.data() : nullptr});
+}
+
+void TPropertySetForPart::SetLockRefDes(bool on)
+{
+    ComponentRows::LockRefDes(parts, on);
+}
+
+void TPropertySetForPart::SetLockValue(bool on)
+{
+    ComponentRows::LockValue(parts, on);
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "properties/sets/TGathered.h"
+#include "properties/TPropertySet.h"
+
+class TGraphicsPartItem;
+class TPropertyCheck2;
+class TPropertyIntSpin;
+class TPropertyText;
+
+/** Shows parts, and edits which of their texts are locked in place. */
+class PROPERTIES_EXPORT TPropertySetForPart : public TPropertySet
+{
+    Q_OBJECT
+
+public:
+    /** Keeps the parts of @p selection. */
+    explicit TPropertySetForPart(QList<TGraphicsItem*> selection);
+
+public slots:
+    /** Written at once, without a command. */
+    void SetLockRefDes(bool on);
+    void SetLockValue(bool on);
+
+private:
+    struct Values;
+    void MakeRows(const Values& values);
+    /** A row that shows what all parts share and cannot be edited. */
+    TPropertyText* NewDisplay(const QString& label, const TGathered<QString>& values);
+
+    QList<TGraphicsPartItem*> parts;
+    QPointer<TPropertyText> refDes;
+    QPointer<TPropertyText> value;
+    QPointer<TPropertyText> name;
+    QPointer<TPropertyText> package;
+    QPointer<TPropertyText> id;
+    QPointer<TPropertyCheck2> lock;
+    QPointer<TPropertyIntSpin> swap;
+};

@@ -1,0 +1,44 @@
+#include "properties/sets/TPropertySetForPort.h"
+
+#include "properties/commands/TCmdPort.h"
+#include "properties/sets/RowValues.h"
+
+#include <application/TSchematic.h>
+
+TPropertySetForPort::TPropertySetForPort(QList<TGraphicsItem*> selection, TSchematic* ofSchematic)
+    : TPropertySet(selection.size() == 1 ? tr("Port") : tr("Ports")), schematic(ofSchematic)
+{
+    TGathered<QString> names;
+    TGathered<bool> visible;
+    for (TGraphicsItem* item : qAsConst(selection)) {
+        if (item->type() == ItemType::Port) {
+            ports.append(static_cast<TGraphicsPortItem*>(item));
+            names.Add(ports.last()->Name());
+            visible.Add(ports.last()->NameVisible());
+        }
+    }
+    if (ports.isEmpty()) {
+        return;
+    }
+    name = NewRow<TPropertyText>(tr("Name:"), QString(), false);
+    RowValues::Show(*name, names);
+    RowValues::ShowVisible(*name, visible);
+    connect(name, SIGNAL(sigTextChanged(QString)), this, SLOT(SetName(QString)));
+    connect(name, SIGNAL(sigVisibleChanged(bool)), this, SLOT(SetNameVis(bool)));
+    AddProperty(name);
+}
+
+void TPropertySetForPort::SetName(QString newName)
+{
+    const TNetModel* model = schematic ? schematic->NetModel() : nullptr;
+    const QColor color = model ? model->ColorSch(model->NetRow(newName)) : QColor();
+    // Intended: the direct write leaves the net model and the board as they are.
+    EditBy(
+        ports, [&] { return new TCmdPortName(ports, newName, schematic); },
+        [&](TGraphicsPortItem& port) { port.SetName(newName, color); });
+}
+
+void TPropertySetForPort::SetNameVis(bool visible)
+{
+    Edit<TCmdPortNameVis>(ports, visible);
+}
