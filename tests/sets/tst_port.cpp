@@ -302,7 +302,6 @@ private slots:
         QTest::newRow("known net, row edited") << "B" << colorOfB << true;
         QTest::newRow("new net: no colour") << "new" << QColor() << false;
         QTest::newRow("the same net: its colour") << "A" << colorOfA << false;
-        QTest::newRow("no name") << QString() << QColor() << false;
     }
 
     void directNameChangesNeitherNetsNorBoard()
