@@ -64,7 +64,7 @@ QVector<TStop> PageStops()
          {"--select", "netwire[0]", "--panel", "--set", "Level:=3", "--undo"},
          ItemType::NetWire},
         {"Rename a port: all that is wired to it moves to another net.",
-         {"--select", "port[0]", "--set", "Name:=TOUR", "--panel", "--undo"},
+         {"--select", "port[0]", "--set", "Name:=TOUR", "--panel"},
          ItemType::Port},
         {"Rename a page in the project tree, and undo that.", {"--rename-page", "1=Front page", "--tree", "--undo"}},
     };
