@@ -98,8 +98,8 @@ void FillBack(TSchematicPage& page)
     auto tie = std::make_unique<TGraphicsNetTieSchItem>();
     tie->SetNumber(7);
     tie->SetName(QStringLiteral("NT1"));
-    AddPin(tie.get(), {-30, 0}, 0, QStringLiteral("1"));
-    AddPin(tie.get(), {30, 0}, 180, QStringLiteral("2"));
+    AddPin(tie.get(), {-45, 0}, 0, QStringLiteral("1"));
+    AddPin(tie.get(), {45, 0}, 180, QStringLiteral("2"));
     Place(page, std::move(tie), {-300, 0});
     auto* text = Place(page, std::make_unique<TGraphicsTextItem>(), {-300, 500});
     text->SetLayer(Osmirel::SchematicTexts);

@@ -255,7 +255,7 @@ void TestDocuments::aClickTakes_data()
     QTest::newRow("the net wire") << "1" << QPointF(250, 0) << "netwire";
     QTest::newRow("the port beside its pin") << "2" << QPointF(308, 0) << "port";
     QTest::newRow("the net tie") << "2" << QPointF(-300, 0) << "nettiesymbol";
-    QTest::newRow("the net tie's pin") << "2" << QPointF(-328, 0) << "pin";
+    QTest::newRow("the net tie's pin") << "2" << QPointF(-340, 0) << "pin";
     QTest::newRow("the bus entry") << "2" << QPointF(215, 315) << "busentry";
     QTest::newRow("the junction") << "2" << QPointF(-200, 300) << "junction";
     QTest::newRow("the tag") << "2" << QPointF(0, 500) << "tag";
@@ -306,7 +306,7 @@ void TestDocuments::everyRowOfAPageComesBackAfterUndo_data()
     row("2", "nettiesymbol", "Symbol:=Symbol 3");
     row("2", "tag", "Name:=DATE");
     row("2", "tag", "Font size:=36");
-    row("2", "text", "Text:=Other");
+    row("2", "text", "Font size:=36");
     row("1", "rectangle", "Line width:=1.5");
 }
 
