@@ -400,6 +400,44 @@ private slots:
         QCOMPARE(ImportSheet(elements, 6).schematic->Dump().replace("U1-Pad1", "U1-IN-Pad1"), newest);
     }
 
+    void readsOrRefusesADamagedSheet_data()
+    {
+        QTest::addColumn<bool>("keepsName"); // Whether a list is emptied, or taken away.
+        QTest::newRow("lists that are missing") << false;
+        QTest::newRow("lists that are empty") << true;
+    }
+
+    void readsOrRefusesADamagedSheet()
+    {
+        QFETCH(bool, keepsName);
+        const QByteArray sheet = Sheet(
+            resistor + supply + Symbol("U1", "L:U", "50 50 0", "(mirror x) (unit 1)") + Bus("30 0", "30 50")
+            + Entry("30 8", "-3 -3") + Wire("27 5", "10 5") + Junction("20 5") + Label("label", "D1", "15 5")
+            + Label("hierarchical_label", "IN", "10 15") + Label("label", "D[0..1]", "30 0")
+            + "(bus_alias \"X\" (members \"A\"))(no_connect (at 45 50))(text \"${TITLE}\" (at 1 1 0) (effects (font "
+              "(size 1 1))))(polyline (pts (xy 1 1) (xy 2 2)) (stroke (width 0) (type dash)))(circle (center 1 1) "
+              "(radius 2))(arc (start 1 1) (mid 2 2) (end 3 1))(text_box \"T\" (at 1 1 0) (size 3 3))(title_block "
+              "(title \"T\"))(sheet_instances (path \"/\" (page \"1\")))");
+        int read = 0;
+        int refused = 0;
+        for (int open = sheet.indexOf('(', 1); open > 0; open = sheet.indexOf('(', open + 1)) {
+            int depth = 0;
+            int close = open;
+            do {
+                depth += sheet[close] == '(' ? 1 : sheet[close] == ')' ? -1 : 0;
+                ++close;
+            } while (depth > 0);
+            const QByteArray list = sheet.mid(open, close - open);
+            const QByteArray name = list.mid(1).left(list.mid(1).indexOf(' '));
+            QByteArray damaged = sheet;
+            damaged.replace(open, list.size(), keepsName ? "(" + name + ")" : QByteArray());
+            const TImportResult result = ImportSheets({{QStringLiteral("root.kicad_sch"), damaged}});
+            QCOMPARE(result.schematic == nullptr, !result.error.isEmpty());
+            (result.schematic ? read : refused) += 1;
+        }
+        QVERIFY(read > 50 && refused > 50);
+    }
+
     void countsWhatIsNotShown()
     {
         const TImportResult result = ImportSheet("(image (at 1 1) (data x))\n(image (at 2 2) (data y))\n(whatever 1)");
