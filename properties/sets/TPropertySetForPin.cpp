@@ -8,6 +8,15 @@
 
 #include <algorithm>
 
+namespace {
+
+bool IsPin(const TGraphicsItem* item)
+{
+    return item->type() == ItemType::Pin;
+}
+
+} // namespace
+
 struct TPropertySetForPin::Values
 {
     TGathered<QString> name;
@@ -34,22 +43,12 @@ void TPropertySetForPin::Values::Add(const TGraphicsPinItem& pin)
     swap.Add(Attributes::PinSwap::Read(pin));
 }
 
-namespace {
-
-auto CountPins(const QList<TGraphicsItem*>& items)
-{
-    return std::count_if(items.cbegin(), items.cend(),
-                         [](const TGraphicsItem* item) { return item->type() == ItemType::Pin; });
-}
-
-} // namespace
-
 TPropertySetForPin::TPropertySetForPin(QList<TGraphicsItem*> selection)
-    : TPropertySet(CountPins(selection) == 1 ? tr("Pin") : tr("Pins"))
+    : TPropertySet(std::count_if(selection.cbegin(), selection.cend(), IsPin) == 1 ? tr("Pin") : tr("Pins"))
 {
     Values values;
     for (TGraphicsItem* item : qAsConst(selection)) {
-        if (item->type() == ItemType::Pin) {
+        if (IsPin(item)) {
             pins.append(item);
             values.Add(static_cast<const TGraphicsPinItem&>(*item));
         }
