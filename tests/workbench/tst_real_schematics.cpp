@@ -177,6 +177,27 @@ private slots:
         }
     }
 
+    void leavesPartsNothingToConnect_data() { AddDesigns(); }
+
+    void leavesPartsNothingToConnect()
+    {
+        QFETCH(QString, file);
+        const TImportResult result = ImportDesign(file);
+        const QString before = result.schematic->Dump();
+        const QList<TGraphicsPartItem*> parts = All<TGraphicsPartItem>(result);
+        for (TGraphicsPartItem* part : parts) {
+            QVERIFY2(part->Connect({}).isEmpty(), qPrintable(part->StateLine()));
+        }
+        QCOMPARE(result.schematic->Dump(), before);
+        for (TGraphicsPartItem* part : parts) {
+            const QVector<TGraphicsItem*> cut = part->Disconnect({});
+            if (!cut.isEmpty()) {
+                QCOMPARE(part->Connect(cut).size(), cut.size());
+            }
+        }
+        QCOMPARE(result.schematic->Dump(), before);
+    }
+
     void hangsEveryEntryOnItsBus_data() { AddDesigns(); }
 
     void hangsEveryEntryOnItsBus()

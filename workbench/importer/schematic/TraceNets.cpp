@@ -178,8 +178,12 @@ private:
         }
         std::sort(named.begin(), named.end());
         QHash<int, int> netOfSet;
-        for (const auto& [name, set] : named) {
+        QHash<QString, int> timesTaken;
+        for (const auto& [plainName, set] : named) {
             netOfSet.insert(set, static_cast<int>(hierarchy.nets.size()));
+            // Symbols without a number of their own make names that are not unique.
+            const int times = bestOf.contains(set) ? 0 : timesTaken[plainName]++;
+            const QString name = times == 0 ? plainName : QStringLiteral("%1_%2").arg(plainName).arg(times);
             hierarchy.nets.push_back({name, bestOf.contains(set), PinNames::OtherNames(pinsOf.value(set), name)});
         }
         VisitConductors([&](int, int node, int& net, const TPageSymbol*, const TPagePin*) {
