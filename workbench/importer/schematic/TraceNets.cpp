@@ -66,6 +66,9 @@ private:
 
     void AddName(int page, const TPageConductors::TName& name, const QString& path)
     {
+        if (name.label->text.isEmpty()) {
+            return;
+        }
         if (name.members.isEmpty()) {
             Give(page, name.label->kind, name.label->text, path, name.node);
             return;
