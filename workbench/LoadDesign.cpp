@@ -13,6 +13,12 @@ static void InitialiseSamples()
     Q_INIT_RESOURCE(samples);
 }
 
+QString SampleProjectFile()
+{
+    InitialiseSamples();
+    return QStringLiteral(":/samples/sample.kicad_pro");
+}
+
 QString SampleBoardFile()
 {
     InitialiseSamples();

@@ -4,7 +4,8 @@
 
 class QWidget;
 
-/** The board that is compiled in. */
+/** The project that is compiled in, and its board. */
+QString SampleProjectFile();
 QString SampleBoardFile();
 
 /** Reads a project, a schematic or a board; a long load shows its progress in a dialog above @p parent, and can be

@@ -18,8 +18,8 @@ void Picking::PickSymbolsWhole(TItemScene& page)
     for (TGraphicsItem* item : items) {
         const auto* parent = dynamic_cast<const TGraphicsItem*>(item->parentItem());
         const auto* part = dynamic_cast<const TGraphicsPartItem*>(parent);
-        const bool isByItself = !parent || (part && (item->type() == ItemType::Pin || IsTextOf(*part, item)));
-        item->setFlag(QGraphicsItem::ItemIsSelectable, isByItself);
+        const bool isPin = item->type() == ItemType::Pin && parent && parent->type() != ItemType::Port;
+        item->setFlag(QGraphicsItem::ItemIsSelectable, !parent || isPin || (part && IsTextOf(*part, item)));
     }
 }
 

@@ -7,8 +7,8 @@ class TItemScene;
 namespace Picking {
 
 /**
- * Lets a click on a symbol's drawing take the part, and one on a pin's number the pin. The pins of a part are taken by
- * themselves, those of a port or a net tie are not.
+ * Lets a click on a symbol's drawing take the part, and one on a pin's number the pin. The pins of parts and net ties
+ * are taken by themselves, that of a port is not.
  */
 void PickSymbolsWhole(TItemScene& page);
 

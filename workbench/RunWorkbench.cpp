@@ -66,8 +66,8 @@ int Fail(const QString& cause, QTextStream& messages)
 /** Opens the design that the command line names, shows the window and does what else there is to do. */
 int Work(const TCommandLine& line, bool forPerson, const TStreams& streams)
 {
-    const QString file = line.file.isEmpty() ? SampleBoardFile() : line.file;
-    const QString name = line.file.isEmpty() ? QStringLiteral("sample board") : QFileInfo(file).fileName();
+    const QString file = line.file.isEmpty() ? SampleProjectFile() : line.file;
+    const QString name = line.file.isEmpty() ? QStringLiteral("sample project") : QFileInfo(file).fileName();
     QElapsedTimer timer;
     timer.start();
     if (!forPerson) {

@@ -110,6 +110,9 @@ void TNavigation::slotIndexChanged(int index)
     if (opensPart) {
         design->OpenSymbol(opensPart->PartToOpen());
     }
+    if (TPart* open = design->OpenPart(); opensPart && open) {
+        design->Tree().scrollToItem(open);
+    }
     if (isPartLast && opensPart->PartToOpen()) {
         Reveal(*opensPart->PartToOpen());
     } else if (page != 0) {

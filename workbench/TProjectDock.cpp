@@ -3,6 +3,7 @@
 #include <application/TProjectTree.h>
 
 #include <QAction>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QStyledItemDelegate>
 
@@ -60,6 +61,8 @@ void TProjectDock::SetTree(TProjectTree* newTree)
         return;
     }
     tree->setFrameShape(QFrame::NoFrame);
+    tree->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    tree->header()->setSectionResizeMode(TPart::nameColumn, QHeaderView::Stretch);
     tree->setEditTriggers(QAbstractItemView::NoEditTriggers); // Only by the action: not every column is a name.
     tree->setItemDelegate(new TNameDelegate([this](const QString& name) { Renamed(name); }, tree));
     tree->setContextMenuPolicy(Qt::ActionsContextMenu);

@@ -65,7 +65,7 @@ void TestProgram::theProgramKeepsResultsApart()
     const ProgramRun run = RunProgram({"--select", "via[0]", "--history"});
     QCOMPARE(run.code, 0);
     QCOMPARE(run.results, QString("selected: 1 via\nhistory: 0 of 0 done\n"));
-    QVERIFY(run.messages.startsWith("reading sample board\n"));
+    QVERIFY(run.messages.startsWith("reading sample project\n"));
 }
 
 void TestProgram::theProgramEndsWithTwoAfterErrors_data()

@@ -153,6 +153,10 @@ private slots:
         row("a pin with a name of its own", Symbol("N1", "L:N", "50 50 0") + resistor + Wire("55 45", "10 5"),
             "N1.1=unconnected-(N1-NAME-Pad1) N1.2=unconnected-(N1-NAME-Pad2) N1.3=Net-(N1-OTHER) "
             "R1.1=Net-(N1-OTHER) R1.2=unconnected-(R1-Pad2)");
+        row("symbols without numbers",
+            Symbol("R?", "L:R", "10 10 0") + Symbol("R?", "L:R", "20 10 0") + Wire("10 5", "0 5")
+                + Wire("20 5", "30 5"),
+            "R?.1=unconnected-(R?-Pad1) R?.1=unconnected-(R?-Pad1)_1 R?.2=unconnected-(R?-Pad2) R?.2=unconnected-(R?-Pad2)_1");
         row("a written-out slash", resistor + Local("A{slash}B", "10 5"), "R1.1=/A/B R1.2=unconnected-(R1-Pad2)");
     }
 

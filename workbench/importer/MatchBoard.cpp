@@ -66,7 +66,7 @@ void KeepApart(const TSheetHierarchy& hierarchy, QMap<int, QString>& wanted)
         }
         isDone = true;
         for (auto name = wanted.begin(); name != wanted.end();) {
-            if (taken.contains(*name)) {
+            if (!name->isEmpty() && taken.contains(*name)) {
                 name = wanted.erase(name);
                 isDone = false;
             } else {
@@ -99,10 +99,12 @@ void TakeBoardNames(TSheetHierarchy& hierarchy, const TBoardDraft& board)
 {
     const TSymbolFinder finder(hierarchy);
     QHash<QPair<QString, QString>, int> netOfPin;
+    QHash<int, int> pinsOnNet;
     for (const TSheetPage& page : hierarchy.pages) {
         for (const TPageSymbol& symbol : page.symbols) {
             for (const TPagePin& pin : symbol.pins) {
                 netOfPin.insert({PageItems::ComponentKey(symbol), pin.pin->number}, pin.net);
+                ++pinsOnNet[pin.net];
             }
         }
     }
@@ -125,7 +127,9 @@ void TakeBoardNames(TSheetHierarchy& hierarchy, const TBoardDraft& board)
     QMap<int, QString> wanted;
     for (auto names = boardNames.begin(); names != boardNames.end(); ++names) {
         const TDesignNet& net = hierarchy.nets[static_cast<std::size_t>(names.key())];
-        names->remove(QString());
+        if (pinsOnNet.value(names.key()) > 1) {
+            names->remove(QString()); // The board has not got it yet. A pin that is alone may be on no net, as there.
+        }
         const QString name = names->size() == 1 ? *names->begin() : net.name;
         if (name != net.name && (!net.isNamed || net.otherNames.contains(name))) {
             wanted.insert(names.key(), name);

@@ -162,11 +162,13 @@ TImportResult ImportDesign(const QString& fileName, const TImportProgress& progr
     const QString base = file.path() + QLatin1Char('/') + file.completeBaseName();
     TDesignFiles files{base + QLatin1String(".kicad_pcb"), base + QLatin1String(".kicad_sch"),
                        base + QLatin1String(".kicad_pro")};
-    if (file.suffix() == QLatin1String("kicad_sch")) {
+    const QString suffix = file.suffix().toLower();
+    if (suffix == QLatin1String("kicad_sch")) {
+        files.schematic = fileName;
         files.board.clear();
         return TDesignImporter(files, progress).Import();
     }
-    if (file.suffix() != QLatin1String("kicad_pro")) {
+    if (suffix != QLatin1String("kicad_pro")) {
         return ImportBoard(fileName, progress);
     }
     TImportResult failed;

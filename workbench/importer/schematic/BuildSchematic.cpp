@@ -119,6 +119,7 @@ QStringList NetNames(const TSheetHierarchy& hierarchy)
     for (const TDesignNet& net : hierarchy.nets) {
         names.append(net.name);
     }
+    names.removeAll(QString());
     names.sort();
     names.removeDuplicates();
     return names;

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int widestVector = 10'000;
+constexpr int widestBus = 10'000;
 
 /** The nets of `NAME[first..last]`; none for any other name. */
 QStringList VectorNets(const QString& name)
@@ -16,7 +16,7 @@ QStringList VectorNets(const QString& name)
     const QRegularExpressionMatch match = pattern.match(name);
     const int first = match.captured(2).toInt();
     const int last = match.captured(3).toInt();
-    if (!match.hasMatch() || std::abs(last - first) >= widestVector) {
+    if (!match.hasMatch() || std::abs(last - first) >= widestBus) {
         return {};
     }
     QStringList nets;
@@ -42,6 +42,9 @@ bool SplitGroup(const QString& name, QString& prefix, QString& content)
 void AddNets(const QString& member, const QHash<QString, QStringList>& aliases, int depth, QStringList& nets)
 {
     constexpr int deepest = 8; // Aliases may name each other.
+    if (nets.size() >= widestBus) {
+        return;
+    }
     const auto alias = aliases.constFind(member);
     if (alias != aliases.constEnd() && depth < deepest) {
         for (const QString& each : *alias) {

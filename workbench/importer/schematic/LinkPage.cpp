@@ -289,15 +289,21 @@ private:
         added->LinkToLast(other);
     }
 
-    /** Pins on one place are linked with each other; those that get no net from a wire or a port know it themselves. */
+    /** Pins on one place are linked: those of a symbol with the first one, and others each with each. Those that get no
+     *  net from a wire or a port know it themselves. */
     static void LinkPins(const TMeeting& meeting)
     {
         const bool hasPort = std::any_of(meeting.pins.begin(), meeting.pins.end(),
                                          [](const TMeeting::TPin& pin) { return pin.isOfPort; });
-        for (const TMeeting::TPin& pin : meeting.pins) {
-            meeting.pins.first().item->LinkToPin(pin.item);
+        for (int i = 0; i < meeting.pins.size(); ++i) {
+            TGraphicsPinItem* pin = meeting.pins[i].item;
+            for (int k = 0; k < i; ++k) {
+                if (k == 0 || meeting.pins[k].item->parentItem() != pin->parentItem()) {
+                    meeting.pins[k].item->LinkToPin(pin);
+                }
+            }
             if (!hasPort && meeting.ends.isEmpty()) {
-                pin.item->NameNet(pin.net);
+                pin->NameNet(meeting.pins[i].net);
             }
         }
     }

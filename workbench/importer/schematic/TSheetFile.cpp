@@ -195,7 +195,7 @@ void TSheetFile::ReadBox(const TSexpression& element)
             if (key == QLatin1String("Sheetname") || key == QLatin1String("Sheet name")) {
                 box.name = ElementParts::UserName(part.Value(1));
             } else if (key == QLatin1String("Sheetfile") || key == QLatin1String("Sheet file")) {
-                box.fileName = part.Value(1).Text();
+                box.fileName = part.Value(1).Text().replace(QLatin1Char('\\'), QLatin1Char('/'));
             }
         }
     }

@@ -54,7 +54,7 @@ struct TSheetPage
 /** A net of the whole hierarchy. */
 struct TDesignNet
 {
-    QString name;
+    QString name;           ///< Empty only for a pin that is alone and, as the board says, on no net.
     bool isNamed = false;   ///< By a label or a power symbol; else the name is made of one of its pins.
     QStringList otherNames; ///< Those of power pins whose symbol says another one.
 };

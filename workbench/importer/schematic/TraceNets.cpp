@@ -66,6 +66,9 @@ private:
 
     void AddName(int page, const TPageConductors::TName& name, const QString& path)
     {
+        if (name.label->text.isEmpty()) {
+            return;
+        }
         if (name.members.isEmpty()) {
             Give(page, name.label->kind, name.label->text, path, name.node);
             return;
@@ -178,8 +181,12 @@ private:
         }
         std::sort(named.begin(), named.end());
         QHash<int, int> netOfSet;
-        for (const auto& [name, set] : named) {
+        QHash<QString, int> timesTaken;
+        for (const auto& [plainName, set] : named) {
             netOfSet.insert(set, static_cast<int>(hierarchy.nets.size()));
+            // Symbols without a number of their own make names that are not unique.
+            const int times = bestOf.contains(set) ? 0 : timesTaken[plainName]++;
+            const QString name = times == 0 ? plainName : QStringLiteral("%1_%2").arg(plainName).arg(times);
             hierarchy.nets.push_back({name, bestOf.contains(set), PinNames::OtherNames(pinsOf.value(set), name)});
         }
         VisitConductors([&](int, int node, int& net, const TPageSymbol*, const TPagePin*) {
