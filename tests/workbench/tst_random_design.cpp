@@ -290,10 +290,11 @@ private:
         }
         for (const char* word : {"package", "wire", "part", "busentry", "nettie", "rectangle"}) {
             Items suitable = ItemsOf(design);
-            suitable.erase(
-                std::remove_if(suitable.begin(), suitable.end(),
-                               [word](const TGraphicsItem* item) { return Kinds::Word(*item) != QLatin1String(word); }),
-                suitable.end());
+            suitable.erase(std::remove_if(suitable.begin(), suitable.end(),
+                                          [word](const TGraphicsItem* item) {
+                                              return item->parentItem() || Kinds::Word(*item) != QLatin1String(word);
+                                          }),
+                           suitable.end());
             if (!suitable.isEmpty() && ActOn(action, step, {suitable[step.value % suitable.size()]})) {
                 return;
             }
@@ -383,7 +384,7 @@ private slots:
 
     void sampleHasEveryKind()
     {
-        const TDesign design(ImportDesign(SampleFile()));
+        const TDesign design(ImportDesign(SampleProjectFile()));
         const Items items = ItemsOf(design);
         for (const TKind& kind : Kinds::All()) {
             QVERIFY2(std::any_of(items.cbegin(), items.cend(),
@@ -399,7 +400,7 @@ private slots:
         const auto undoAndRedoAreExact = [&window, &used] {
             const std::vector<Step> steps = *Steps();
             const bool isBoardAlone = *rc::gen::inRange(0, 4) == 0; // Its packages can be renamed.
-            Run run(isBoardAlone ? SampleBoardFile() : SampleFile(), window, used);
+            Run run(isBoardAlone ? SampleBoardFile() : SampleProjectFile(), window, used);
             for (const Step& step : steps) {
                 run.Do(step);
                 const QString disagreement = run.Disagreement();
