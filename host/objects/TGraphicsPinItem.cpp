@@ -36,6 +36,7 @@ double StandardLength(TGraphicsPinItem::TypePinLength length)
 TGraphicsPinItem::TGraphicsPinItem(QGraphicsItem* parent)
     : TGraphicsItem(parent), numberText(new TGraphicsTextItem(this)), symbolLength(StandardLength(LengthMiddle))
 {
+    setFlag(ItemSendsGeometryChanges); // Name and number are to stay readable.
     SetLayer(Osmirel::SchematicSymbols);
     numberText->SetLayer(Osmirel::SchematicSymbols);
     numberText->SetVector(false);

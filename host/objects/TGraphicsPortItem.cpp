@@ -20,15 +20,6 @@ constexpr double pointLength = 9;
 constexpr double shownWithoutName = 12;
 constexpr double powerStem = 12;
 
-void SetNetOf(TGraphicsItem& item, const QString& net)
-{
-    if (item.type() == ItemType::Junction) {
-        static_cast<TGraphicsJunctionItem&>(item).SetNet(net);
-    } else if (auto* section = dynamic_cast<TGraphicsSectionItem*>(&item)) {
-        section->SetNet(net);
-    }
-}
-
 bool HasOwnNet(const TGraphicsItem& item)
 {
     return item.type() == ItemType::Junction || dynamic_cast<const TGraphicsSectionItem*>(&item);
@@ -38,6 +29,7 @@ bool HasOwnNet(const TGraphicsItem& item)
 
 TGraphicsPortItem::TGraphicsPortItem(QGraphicsItem* parent) : TGraphicsItem(parent), pin(new TGraphicsPinItem(this))
 {
+    setFlag(ItemSendsGeometryChanges); // The name is to stay readable.
     SetLayer(Osmirel::SchematicNets);
     pin->LinkNode().SetRole(TLinkNode::Role::Names);
     pin->SetPinLength(TGraphicsPinItem::LengthZero);
@@ -53,32 +45,76 @@ void TGraphicsPortItem::SetName(const QString& newName, const QColor& color)
 
 void TGraphicsPortItem::Carry(const QString& newName, const QColor& color)
 {
-    const QString oldName = name;
-    const bool isTakenBack =
-        newName != oldName && !carried.isEmpty() && carried.last().from == newName && carried.last().to == oldName;
-    const QSet<const TGraphicsItem*> given = isTakenBack ? carried.takeLast().items : QSet<const TGraphicsItem*>();
-    Carried now{oldName, newName, {}};
+    const bool isNew = newName != name;
+    const Items ofOldName = OfName(name);
+    const Items carried = isNew ? Renamed(newName, ofOldName) : ofOldName;
+    for (TGraphicsItem* item : carried) {
+        if (isNew) {
+            GiveName(*item, newName);
+        }
+        item->SetAltColor(color);
+    }
+    const QVector<TGraphicsItem*> items = ConnectedItems();
+    for (TGraphicsItem* item : items) {
+        if (!item->parentItem() && item->OwnNet().isEmpty()) {
+            item->SetAltColor(color);
+        }
+    }
+}
+
+TGraphicsPortItem::Items TGraphicsPortItem::OfName(const QString& wanted) const
+{
+    Items found;
     const QVector<TGraphicsItem*> items = ConnectedItems();
     for (TGraphicsItem* item : items) {
         auto* port = dynamic_cast<TGraphicsPortItem*>(item->parentItem());
-        TGraphicsItem* named = port ? port : item;
-        const QString namedNow = port ? port->name : item->OwnNet();
-        const bool isOfOldName = namedNow == oldName && (!isTakenBack || given.contains(named));
-        if ((port || HasOwnNet(*item)) && isOfOldName && newName != oldName) {
-            now.items.insert(named);
-            if (port) {
-                port->StoreName(newName);
-            } else {
-                SetNetOf(*item, newName);
-            }
-        }
-        const bool followsOnly = !item->parentItem() && item->OwnNet().isEmpty();
-        if (isOfOldName || followsOnly) {
-            named->SetAltColor(color);
+        if (port ? port->name == wanted : HasOwnNet(*item) && item->OwnNet() == wanted) {
+            found.insert(port ? port : item);
         }
     }
-    if (newName != oldName && !isTakenBack) {
-        carried.append(now);
+    return found;
+}
+
+TGraphicsPortItem::Items TGraphicsPortItem::Renamed(const QString& newName, const Items& items)
+{
+    if (lastRenaming >= 0) {
+        Renaming& last = renamings[lastRenaming];
+        if (last.from == newName && last.to == name && items.contains(last.items)) {
+            last.spared = OfName(newName);
+            lastRenaming = last.before;
+            return last.items;
+        }
+    }
+    const int repeated = Repeated(newName, items);
+    if (repeated >= 0) {
+        lastRenaming = repeated;
+        return renamings[repeated].items;
+    }
+    renamings.append({name, newName, items, {}, lastRenaming});
+    lastRenaming = renamings.size() - 1;
+    return items;
+}
+
+int TGraphicsPortItem::Repeated(const QString& newName, const Items& items) const
+{
+    for (int i = renamings.size() - 1; i >= 0; --i) {
+        const Renaming& each = renamings[i];
+        if (each.before == lastRenaming && each.from == name && each.to == newName && each.items + each.spared == items
+            && items.contains(each.items)) {
+            return i;
+        }
+    }
+    return -1;
+}
+
+void TGraphicsPortItem::GiveName(TGraphicsItem& item, const QString& newName)
+{
+    if (auto* port = dynamic_cast<TGraphicsPortItem*>(&item)) {
+        port->StoreName(newName);
+    } else if (auto* junction = dynamic_cast<TGraphicsJunctionItem*>(&item)) {
+        junction->SetNet(newName);
+    } else if (auto* section = dynamic_cast<TGraphicsSectionItem*>(&item)) {
+        section->SetNet(newName);
     }
 }
 

@@ -26,7 +26,8 @@ public:
     /**
      * Renames the port, and with it all that is wired to it and is on its net: wires get the new name, and so do other
      * ports of the old one. All of these get the colour (invalid for the layer's), and are repainted. Renaming it back
-     * gives the old name back to just those that it was taken from.
+     * gives the old name back to just those that it was taken from, if they all still have the new one; and doing it
+     * once more takes it from the same, if nothing else has come to the old one since.
      */
     void SetName(const QString& newName, const QColor& color);
 
@@ -57,14 +58,25 @@ protected:
     QVariant itemChange(GraphicsItemChange change, const QVariant& value) override;
 
 private:
+    using Items = QSet<TGraphicsItem*>;
+
     /** One renaming, and whose name it changed besides the port's own. */
-    struct Carried
+    struct Renaming
     {
         QString from;
         QString to;
-        QSet<const TGraphicsItem*> items; ///< Compared only, never followed.
+        Items items;  ///< Compared only, never followed.
+        Items spared; ///< What else was of the old name when it was last taken back; compared only.
+        int before;   ///< The renaming that it followed, -1 for none.
     };
 
+    /** The other ports, wires and junctions that links join with the port and that have a name as their own. */
+    Items OfName(const QString& wanted) const;
+    /** Those of @p items that the new name is for; notes the renaming, or finds that it takes one back or repeats one.
+     */
+    Items Renamed(const QString& newName, const Items& items);
+    int Repeated(const QString& newName, const Items& items) const;
+    static void GiveName(TGraphicsItem& item, const QString& newName);
     void StoreName(const QString& newName);
     void Carry(const QString& newName, const QColor& color);
     void ExtentChanges();
@@ -74,6 +86,7 @@ private:
     bool nameVisible = true;
     TypePortShape portShape = ShapePassive;
     TGraphicsPinItem* pin;
-    QVector<Carried> carried;      ///< The renamings that could be taken back, the last one last.
+    QVector<Renaming> renamings;
+    int lastRenaming = -1;         ///< What would be taken back next, -1 for nothing.
     mutable QPainterPath namePath; ///< Made when first asked for; empty until then.
 };

@@ -3,6 +3,7 @@
 
 #include <application/TProject.h>
 #include <application/TSchematic.h>
+#include <graphics/TGraphicsTextItem.h>
 #include <objects/TGraphicsNetItem.h>
 #include <objects/TGraphicsNetTieSchItem.h>
 #include <objects/TGraphicsPartItem.h>

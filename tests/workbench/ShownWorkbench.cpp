@@ -3,7 +3,7 @@
 #include "properties/rows/TPropertyFloatSpin.h"
 #include "properties/TPropertySet.h"
 #include "properties/TPropertyWidget.h"
-#include "workbench/LoadBoard.h"
+#include "workbench/LoadDesign.h"
 #include "workbench/session/RunSteps.h"
 #include "workbench/session/TSession.h"
 #include "workbench/TCanvas.h"
@@ -99,7 +99,7 @@ ShownWorkbench::ShownWorkbench() : window(std::make_unique<TMainWindow>())
 {
     TImportResult result;
     result.board = MakeBoard();
-    window->ShowBoard(std::move(result), "test board");
+    window->ShowDesign(std::move(result), "test board");
     Show();
 }
 
@@ -109,7 +109,7 @@ ShownWorkbench::ShownWorkbench(const QString& file) : window(std::make_unique<TM
     if (!result.board) {
         qFatal("%s", qPrintable(result.error));
     }
-    window->ShowBoard(std::move(result), file);
+    window->ShowDesign(std::move(result), file);
     Show();
 }
 

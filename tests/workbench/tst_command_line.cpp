@@ -1,6 +1,6 @@
 #include "tests/support/TestMain.h"
 #include "tests/workbench/ShownWorkbench.h"
-#include "workbench/LoadBoard.h"
+#include "workbench/LoadDesign.h"
 #include "workbench/session/CommandLine.h"
 #include "workbench/session/TSessionError.h"
 #include "workbench/TSelection.h"
@@ -252,7 +252,7 @@ void TestCommandLine::aStepThatFailsEndsTheRun_data()
         "there is no layer \"Middle\"; the board has Top, Inner 1, Inner 2, Bottom");
     row("zoom to nothing", {"--panel"}, {"--zoom", "selection"}, "nothing is selected");
     row("a name for vias", via, {"--rename", "U7"}, "select packages that are not named on the schematic first");
-    row("a lock for vias", via, {"--lock"}, "select packages first");
+    row("a lock for vias", via, {"--lock"}, "select packages or parts first");
     row("a node in a via", via, {"--add-node", "1,2"}, "select one wire first");
     row("a node between vias", via, {"--remove-node"},
         "select a wire that ends where the next one begins, or those two first");

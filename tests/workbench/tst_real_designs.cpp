@@ -4,7 +4,7 @@
 #include "tests/workbench/FreePads.h"
 #include "tests/workbench/PanelCells.h"
 #include "workbench/Kinds.h"
-#include "workbench/LoadBoard.h"
+#include "workbench/LoadDesign.h"
 #include "workbench/TDesign.h"
 
 #include <application/TNetModel.h>
@@ -189,10 +189,10 @@ private slots:
         TImportResult imported = ImportBoard(file);
         QVERIFY2(imported.board, qPrintable(imported.error));
         design = std::make_unique<TDesign>(std::move(imported));
-        QGraphicsView view(design->Board().Scene());
-        design->Board().SetView(&view);
+        QGraphicsView view(design->Board()->Scene());
+        design->Board()->SetView(&view);
         if (freePads) {
-            Test::FreePads(design->Board(), 1);
+            Test::FreePads(*design->Board(), 1);
         }
         ReadItems();
         if (items.size() > mostItems) {
@@ -203,7 +203,7 @@ private slots:
             Items ofKind;
             std::copy_if(items.cbegin(), items.cend(), std::back_inserter(ofKind),
                          [&kind](const TGraphicsItem* item) { return Kinds::Of(*item) == &kind; });
-            if (ofKind.isEmpty() || (freePads && kind.type != ItemType::Pad)) {
+            if (ofKind.isEmpty() || !kind.makeSet || (freePads && kind.type != ItemType::Pad)) {
                 continue;
             }
             for (const Items& selection : Selections(ofKind)) {
@@ -249,7 +249,7 @@ private:
     void ReadItems()
     {
         items.clear();
-        for (TGraphicsItem* item : design->Board().Items()) {
+        for (TGraphicsItem* item : design->Board()->Items()) {
             if (!item->IsDerived()) {
                 items.append(item);
             }
@@ -368,7 +368,7 @@ private:
                 expected[i] = Undone(use, expected[i], after[i]);
             } else if (IsTextOf(moved, *watched[i])) {
                 const auto* package = static_cast<TGraphicsPackageItem*>(watched[i]->parentItem());
-                const TBoard& board = design->Board();
+                const TBoard& board = *design->Board();
                 expected[i] = WithVisibility(expected[i], package->RefDesText() == watched[i] ? board.RefDesVisible()
                                                                                               : board.ValuesVisible());
             }
