@@ -11,25 +11,6 @@
 
 namespace {
 
-/** The layers of a schematic, in the usual colours. */
-void AddLayers(TLayerManager& layers)
-{
-    constexpr struct
-    {
-        Osmirel::Layer layer;
-        const char* name;
-        unsigned color;
-    } rows[] = {
-        {Osmirel::SchematicNets, "Nets", 0x009600},
-        {Osmirel::SchematicBuses, "Buses", 0x000084},
-        {Osmirel::SchematicSymbols, "Symbols", 0x840000},
-        {Osmirel::SchematicTexts, "Texts", 0x006464},
-    };
-    for (const auto& row : rows) {
-        layers.AddLayer({row.layer, QString::fromLatin1(row.name), QColor(row.color), {}});
-    }
-}
-
 /** What the elements that are not read are called. */
 const char* KindName(const TSexpression& element)
 {
@@ -145,7 +126,6 @@ QStringList NetNames(const TSheetHierarchy& hierarchy)
 
 void BuildSchematic(TSchematicDraft& draft)
 {
-    AddLayers(draft.schematic.Workspace()->Layers());
     for (auto variable = draft.variables.begin(); variable != draft.variables.end(); ++variable) {
         draft.tagValues.insert(variable.key(), variable.value());
     }
