@@ -38,17 +38,9 @@ TGraphicsPortItem::TGraphicsPortItem(QGraphicsItem* parent) : TGraphicsItem(pare
 
 void TGraphicsPortItem::SetName(const QString& newName, const QColor& color)
 {
-    Carry(newName, color);
-    StoreName(newName);
-    SetAltColor(color);
-}
-
-void TGraphicsPortItem::Carry(const QString& newName, const QColor& color)
-{
     const bool isNew = newName != name;
-    const Items ofOldName = OfName(name);
-    const Items carried = isNew ? Renamed(newName, ofOldName) : ofOldName;
-    for (TGraphicsItem* item : carried) {
+    const Items named = isNew ? Renamed(newName) : OfName(name);
+    for (TGraphicsItem* item : named) {
         if (isNew) {
             GiveName(*item, newName);
         }
@@ -65,46 +57,77 @@ void TGraphicsPortItem::Carry(const QString& newName, const QColor& color)
 TGraphicsPortItem::Items TGraphicsPortItem::OfName(const QString& wanted) const
 {
     Items found;
-    const QVector<TGraphicsItem*> items = ConnectedItems();
+    const QVector<TGraphicsItem*> items = ConnectedItems() << pin;
     for (TGraphicsItem* item : items) {
-        auto* port = dynamic_cast<TGraphicsPortItem*>(item->parentItem());
-        if (port ? port->name == wanted : HasOwnNet(*item) && item->OwnNet() == wanted) {
+        auto* port = item ? dynamic_cast<TGraphicsPortItem*>(item->parentItem()) : nullptr;
+        if (port ? port->name == wanted : item && HasOwnNet(*item) && item->OwnNet() == wanted) {
             found.insert(port ? port : item);
         }
     }
     return found;
 }
 
-TGraphicsPortItem::Items TGraphicsPortItem::Renamed(const QString& newName, const Items& items)
+TGraphicsPortItem::Items TGraphicsPortItem::Renamed(const QString& newName)
 {
-    if (lastRenaming >= 0) {
-        Renaming& last = renamings[lastRenaming];
-        if (last.from == newName && last.to == name && items.contains(last.items)) {
-            last.spared = OfName(newName);
-            lastRenaming = last.before;
-            return last.items;
-        }
+    static quint64 moment = 0;
+    ++moment;
+    Items ofOldName = OfName(name);
+    ofOldName.insert(this);
+    const std::shared_ptr<Renaming> last = done.isEmpty() ? nullptr : done.last();
+    if (last && last->from == newName && last->to == name && ofOldName.contains(last->items)) {
+        last->spared = OfName(newName);
+        last->changedAt = moment;
+        Move(last, last->items, &TGraphicsPortItem::done, &TGraphicsPortItem::undone);
+        return last->items;
     }
-    const int repeated = Repeated(newName, items);
-    if (repeated >= 0) {
-        lastRenaming = repeated;
-        return renamings[repeated].items;
+    std::shared_ptr<Renaming> renaming = Repeated(newName, ofOldName);
+    if (!renaming) {
+        renaming = std::make_shared<Renaming>(Renaming{name, newName, ofOldName, {}});
     }
-    renamings.append({name, newName, items, {}, lastRenaming});
-    lastRenaming = renamings.size() - 1;
-    return items;
+    renaming->changedAt = moment;
+    Move(renaming, renaming->items, &TGraphicsPortItem::undone, &TGraphicsPortItem::done);
+    return renaming->items;
 }
 
-int TGraphicsPortItem::Repeated(const QString& newName, const Items& items) const
+std::shared_ptr<TGraphicsPortItem::Renaming> TGraphicsPortItem::Repeated(const QString& newName,
+                                                                         const Items& ofOldName) const
 {
-    for (int i = renamings.size() - 1; i >= 0; --i) {
-        const Renaming& each = renamings[i];
-        if (each.before == lastRenaming && each.from == name && each.to == newName && each.items + each.spared == items
-            && items.contains(each.items)) {
-            return i;
+    for (int i = undone.size() - 1; i >= 0; --i) {
+        const std::shared_ptr<Renaming>& each = undone[i];
+        const bool isSame = each->from == name && each->to == newName && ofOldName.contains(each->items);
+        // What has come to the old name since, other than by renamings, is to be taken along: a new renaming.
+        if (isSame && (each->items + each->spared + ChangedSince(each->changedAt)).contains(ofOldName)) {
+            return each;
         }
     }
-    return -1;
+    return nullptr;
+}
+
+TGraphicsPortItem::Items TGraphicsPortItem::ChangedSince(quint64 moment) const
+{
+    Items changed;
+    const QVector<TGraphicsItem*> items = ConnectedItems();
+    for (const TGraphicsItem* item : items) {
+        const auto* port = dynamic_cast<const TGraphicsPortItem*>(item->parentItem());
+        const TRenamings renamings = port ? port->done + port->undone : TRenamings();
+        for (const std::shared_ptr<Renaming>& each : renamings) {
+            if (each->changedAt > moment) {
+                changed += each->items;
+            }
+        }
+    }
+    return changed;
+}
+
+void TGraphicsPortItem::Move(const std::shared_ptr<Renaming>& renaming, const Items& items,
+                             TRenamings TGraphicsPortItem::*from, TRenamings TGraphicsPortItem::*to)
+{
+    for (TGraphicsItem* item : items) {
+        if (auto* port = dynamic_cast<TGraphicsPortItem*>(item)) {
+            (port->*from).removeOne(renaming);
+            (port->*to).append(renaming);
+        }
+    }
 }
 
 void TGraphicsPortItem::GiveName(TGraphicsItem& item, const QString& newName)

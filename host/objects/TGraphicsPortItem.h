@@ -5,6 +5,8 @@
 #include <QSet>
 #include <QVector>
 
+#include <memory>
+
 class TGraphicsPinItem;
 
 /**
@@ -60,25 +62,29 @@ protected:
 private:
     using Items = QSet<TGraphicsItem*>;
 
-    /** One renaming, and whose name it changed besides the port's own. */
+    /** One renaming of a port and all that it took along. Items are compared only, never followed. */
     struct Renaming
     {
         QString from;
         QString to;
-        Items items;  ///< Compared only, never followed.
-        Items spared; ///< What else was of the old name when it was last taken back; compared only.
-        int before;   ///< The renaming that it followed, -1 for none.
+        Items items;
+        Items spared;          ///< What else was of the old name when it was last taken back.
+        quint64 changedAt = 0; ///< When it was last done or taken back.
     };
+    using TRenamings = QVector<std::shared_ptr<Renaming>>;
 
-    /** The other ports, wires and junctions that links join with the port and that have a name as their own. */
+    /** The ports, wires and junctions that links join with the port and that have a name as their own. */
     Items OfName(const QString& wanted) const;
-    /** Those of @p items that the new name is for; notes the renaming, or finds that it takes one back or repeats one.
+    /** Those that a new name is for, the port too: notes the renaming, or finds that it takes one back or repeats one.
      */
-    Items Renamed(const QString& newName, const Items& items);
-    int Repeated(const QString& newName, const Items& items) const;
+    Items Renamed(const QString& newName);
+    std::shared_ptr<Renaming> Repeated(const QString& newName, const Items& ofOldName) const;
+    Items ChangedSince(quint64 moment) const;
+    static void Move(const std::shared_ptr<Renaming>& renaming, const Items& items, TRenamings TGraphicsPortItem::*from,
+                     TRenamings TGraphicsPortItem::*to);
+
     static void GiveName(TGraphicsItem& item, const QString& newName);
     void StoreName(const QString& newName);
-    void Carry(const QString& newName, const QColor& color);
     void ExtentChanges();
     const QPainterPath& NamePath() const;
 
@@ -86,7 +92,7 @@ private:
     bool nameVisible = true;
     TypePortShape portShape = ShapePassive;
     TGraphicsPinItem* pin;
-    QVector<Renaming> renamings;
-    int lastRenaming = -1;         ///< What would be taken back next, -1 for nothing.
+    TRenamings done;               ///< What took this port along, the last one last.
+    TRenamings undone;             ///< What was taken back, the last one last.
     mutable QPainterPath namePath; ///< Made when first asked for; empty until then.
 };

@@ -152,7 +152,52 @@ private slots:
         QCOMPARE(part->Connect({}), (Items{wire, wire}));
         CheckCutAndLinkedAgain(sheet, part);
         QCOMPARE(part->Disconnect({wire}), Items{wire});
-        QCOMPARE(wire->Links(), Items{PinOf(part, 2)});
+        QCOMPARE(wire->Links(), Items{PinOf(part, 1)}); // What was linked last is cut first.
+    }
+
+    // What Connect returns is what Disconnect cuts, and not another end of the same wire, or another pin.
+    void onlyWhatWasLinkedIsCutAgain()
+    {
+        Sheet sheet;
+        TGraphicsPartItem* part = sheet.Part({0, 0}, 1, {{0, 0}, {0, 50}, {0, 50}});
+        TGraphicsPinItem* other = PinOf(sheet.Part({0, 50}, 2, {{0, 0}}), 1);
+        TGraphicsNetItem* wire = sheet.Wire({0, 0}, {0, 50});
+        TGraphicsNetItem* back = sheet.Wire({0, 50}, {0, 0});
+        TGraphicsNetItem* loop = sheet.Wire({0, 0}, {0, 0});
+        wire->LinkToFirst(PinOf(part, 1));
+        back->LinkToFirst(PinOf(part, 3));
+        loop->LinkToFirst(PinOf(part, 1));
+        other->LinkToPin(PinOf(part, 2));
+        const QString before = sheet.DumpWithOwnNets();
+        for (int round = 0; round < 2; ++round) {
+            const Items linked = part->Connect({});
+            QCOMPARE(linked.size(), 4);
+            const QString all = sheet.DumpWithOwnNets();
+            CheckCutAndLinkedAgain(sheet, part); // In between, and taken back.
+            const Items cut = part->Disconnect({});
+            part->Connect(cut);
+            QCOMPARE(sheet.DumpWithOwnNets(), all);
+            part->Disconnect(linked);
+            QCOMPARE(sheet.DumpWithOwnNets(), before);
+        }
+    }
+
+    // What lies in the past of another end, or another pin, is not mistaken for what was cut last.
+    void onlyWhatWasCutIsLinkedAgain()
+    {
+        Sheet sheet;
+        TGraphicsPartItem* part = sheet.Part({0, 0}, 1, {{0, 0}, {0, 0}, {0, 50}});
+        TGraphicsPinItem* other = PinOf(sheet.Part({0, 0}, 2, {{0, 0}}), 1);
+        TGraphicsNetItem* wire = sheet.Wire({0, 0}, {0, 50});
+        part->Disconnect(part->Connect({})); // Once linked with everything.
+        wire->LinkToLast(PinOf(part, 3));
+        other->LinkToPin(PinOf(part, 2));
+        CheckCutAndLinkedAgain(sheet, part);
+        const QString before = sheet.DumpWithOwnNets();
+        const Items cut = part->Disconnect({});
+        part->Disconnect(part->Connect({}));
+        part->Connect(cut);
+        QCOMPARE(sheet.DumpWithOwnNets(), before);
     }
 
     void aPartWithoutPinsOrPageConnectsNothing()
