@@ -36,9 +36,9 @@ public:
     /** The component key; empty if there is none. */
     QString Key(const QString& path, const QString& designator) const
     {
-        const QString byPath = keyOfPath.value(path);
-        if (!byPath.isEmpty()) {
-            return byPath;
+        const auto byPath = keyOfPath.constFind(path);
+        if (byPath != keyOfPath.constEnd()) {
+            return *byPath;
         }
         // The sheets may have moved within the hierarchy; a symbol that is used once is the same one still.
         const QStringList byUuid = keysOfUuid.value(path.section(QLatin1Char('/'), -1));
@@ -77,6 +77,49 @@ void KeepApart(const TSheetHierarchy& hierarchy, QMap<int, QString>& wanted)
     }
 }
 
+struct TPinsOfNets
+{
+    explicit TPinsOfNets(const TSheetHierarchy& hierarchy)
+    {
+        for (const TSheetPage& page : hierarchy.pages) {
+            for (const TPageSymbol& symbol : page.symbols) {
+                const QString key = PageItems::ComponentKey(symbol);
+                for (const TPagePin& pin : symbol.pins) {
+                    netOf.insert({key, pin.pin->number}, pin.net);
+                    ++count[pin.net];
+                }
+            }
+        }
+    }
+
+    QHash<QPair<QString, QString>, int> netOf; ///< By the component's key and the pin's number.
+    QHash<int, int> count;                     ///< By the net.
+};
+
+/** What the pads are on whose pins are on each net; empty for no net. */
+QHash<int, QSet<QString>> NamesOnBoard(const TPinsOfNets& pins, const TSheetHierarchy& hierarchy,
+                                       const TBoardDraft& board)
+{
+    const TSymbolFinder finder(hierarchy);
+    QHash<int, QSet<QString>> names;
+    const QList<TGraphicsItem*> items = board.board->Scene()->DesignItems();
+    for (TGraphicsItem* item : items) {
+        const auto* package = dynamic_cast<const TGraphicsPackageItem*>(item);
+        if (!package) {
+            continue;
+        }
+        const QString key = finder.Key(board.paths.value(item), package->RefDes());
+        const QVector<TGraphicsItem*> pads = key.isEmpty() ? QVector<TGraphicsItem*>() : package->Pads();
+        for (const TGraphicsItem* pad : pads) {
+            const int net = pins.netOf.value({key, static_cast<const TGraphicsPadItem*>(pad)->Number()}, -1);
+            if (net >= 0) {
+                names[net].insert(pad->Net());
+            }
+        }
+    }
+    return names;
+}
+
 } // namespace
 
 void MatchNumbers(TBoardDraft& board, const TSheetHierarchy& hierarchy, const QHash<QString, quint16>& numbers)
@@ -97,37 +140,12 @@ void MatchNumbers(TBoardDraft& board, const TSheetHierarchy& hierarchy, const QH
 
 void TakeBoardNames(TSheetHierarchy& hierarchy, const TBoardDraft& board)
 {
-    const TSymbolFinder finder(hierarchy);
-    QHash<QPair<QString, QString>, int> netOfPin;
-    QHash<int, int> pinsOnNet;
-    for (const TSheetPage& page : hierarchy.pages) {
-        for (const TPageSymbol& symbol : page.symbols) {
-            for (const TPagePin& pin : symbol.pins) {
-                netOfPin.insert({PageItems::ComponentKey(symbol), pin.pin->number}, pin.net);
-                ++pinsOnNet[pin.net];
-            }
-        }
-    }
-    QHash<int, QSet<QString>> boardNames;
-    const QList<TGraphicsItem*> items = board.board->Scene()->DesignItems();
-    for (TGraphicsItem* item : items) {
-        const auto* package = dynamic_cast<const TGraphicsPackageItem*>(item);
-        const QString key = package ? finder.Key(board.paths.value(item), package->RefDes()) : QString();
-        if (key.isEmpty()) {
-            continue;
-        }
-        const QVector<TGraphicsItem*> pads = package->Pads();
-        for (const TGraphicsItem* pad : pads) {
-            const int net = netOfPin.value({key, static_cast<const TGraphicsPadItem*>(pad)->Number()}, -1);
-            if (net >= 0) {
-                boardNames[net].insert(pad->Net());
-            }
-        }
-    }
+    const TPinsOfNets pins(hierarchy);
+    QHash<int, QSet<QString>> boardNames = NamesOnBoard(pins, hierarchy, board);
     QMap<int, QString> wanted;
     for (auto names = boardNames.begin(); names != boardNames.end(); ++names) {
         const TDesignNet& net = hierarchy.nets[static_cast<std::size_t>(names.key())];
-        if (pinsOnNet.value(names.key()) > 1) {
+        if (pins.count.value(names.key()) > 1) {
             names->remove(QString()); // The board has not got it yet. A pin that is alone may be on no net, as there.
         }
         const QString name = names->size() == 1 ? *names->begin() : net.name;

@@ -52,7 +52,7 @@ void ReadBody(const TSexpression& body, TLibrarySymbol& symbol)
         if (piece.Name() == "pin") {
             symbol.pins.push_back(ReadPin(piece, unit, bodyStyle));
         } else if (piece.IsList() && piece.Name() != "unit_name") {
-            symbol.shapes.push_back({piece, unit, bodyStyle});
+            symbol.shapes.emplace_back(piece, unit, bodyStyle);
         }
     }
 }

@@ -34,6 +34,10 @@ struct TLibraryPin
 /** A drawing or a text of a symbol's body. */
 struct TLibraryShape
 {
+    TLibraryShape(const TSexpression& ofElement, int ofUnit, int ofBodyStyle)
+        : element(ofElement), unit(ofUnit), bodyStyle(ofBodyStyle)
+    {}
+
     TSexpression element;
     int unit = 0;
     int bodyStyle = 0;

@@ -14,7 +14,7 @@ void AddLines(const TSexpression& element, std::vector<TSheetLine>& lines)
     for (const TSexpression point : element.Get("pts")) {
         const TGridPoint place = GridPoint(point);
         if (last && *last != place) {
-            lines.push_back({element, *last, place});
+            lines.emplace_back(element, *last, place);
         }
         last = place;
     }
@@ -166,17 +166,17 @@ void TSheetFile::ReadEntry(const TSexpression& element)
 {
     const TGridPoint start = GridPoint(element.Get("at"));
     const TGridPoint size = GridPoint(element.Get("size"));
-    entries.push_back({element, start, {start.x + size.x, start.y + size.y}});
+    entries.emplace_back(element, start, TGridPoint{start.x + size.x, start.y + size.y});
 }
 
 void TSheetFile::ReadJunction(const TSexpression& element)
 {
-    junctions.push_back({element, GridPoint(element.Get("at"))});
+    junctions.emplace_back(element);
 }
 
 void TSheetFile::ReadNoConnect(const TSexpression& element)
 {
-    noConnects.push_back({element, GridPoint(element.Get("at"))});
+    noConnects.emplace_back(element);
 }
 
 void TSheetFile::ReadLabel(const TSexpression& element)

@@ -13,6 +13,10 @@
 /** A wire, a bus, or an entry from one into the other. */
 struct TSheetLine
 {
+    TSheetLine(const TSexpression& ofElement, const TGridPoint& from, const TGridPoint& to)
+        : element(ofElement), start(from), end(to)
+    {}
+
     TSexpression element;
     TGridPoint start;
     TGridPoint end;
@@ -21,6 +25,8 @@ struct TSheetLine
 /** A junction, or a mark that nothing is to be connected. */
 struct TSheetPoint
 {
+    explicit TSheetPoint(const TSexpression& ofElement) : element(ofElement), place(GridPoint(element.Get("at"))) {}
+
     TSexpression element;
     TGridPoint place;
 };
