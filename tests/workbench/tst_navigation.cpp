@@ -76,6 +76,8 @@ private slots:
     void aDoubleClickOpensASymbol();
     void anotherSymbolClosesTheOne();
     void aSymbolThatIsOpenIsOnlyShown();
+    void aSymbolIsSeenWhole_data();
+    void aSymbolIsSeenWhole();
     void aSymbolIsClosed();
     void pinsOfAnOpenSymbolHaveALength();
     void aJumpInTheHistoryOpensWhatTheLastCommandDid_data();
@@ -174,6 +176,29 @@ void TestNavigation::aSymbolThatIsOpenIsOnlyShown()
     QCOMPARE(project.Results({"--open-part", "R2"}), QString("symbol open already\n"));
     QCOMPARE(project.Page(), 2);
     QCOMPARE(project.Stack().count(), 1);
+}
+
+void TestNavigation::aSymbolIsSeenWhole_data()
+{
+    QTest::addColumn<double>("zoom");
+
+    QTest::newRow("from far away") << 0.02;
+    QTest::newRow("from anywhere") << 1.0;
+    QTest::newRow("from too near") << 100.0;
+}
+
+void TestNavigation::aSymbolIsSeenWhole()
+{
+    QFETCH(double, zoom);
+    Project project;
+    project.Results({"--page", "1"});
+    TCanvas& canvas = project.window->Canvas();
+    canvas.setTransform(QTransform::fromScale(zoom, zoom));
+    canvas.centerOn(500, 300);
+    project.Results({"--open-part", "R1"});
+    const QRectF part = project.window->Design()->Schematic().PartItems(1).first()->sceneBoundingRect();
+    QVERIFY(canvas.mapToScene(canvas.viewport()->rect()).boundingRect().contains(part));
+    QVERIFY(canvas.mapFromScene(part).boundingRect().width() >= 60);
 }
 
 void TestNavigation::aSymbolIsClosed()
