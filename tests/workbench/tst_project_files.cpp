@@ -1,6 +1,7 @@
 #include "tests/support/TestMain.h"
 #include "tests/workbench/SheetFiles.h"
 
+#include <graphics/TGraphicsTextItem.h>
 #include <objects/TGraphicsNetTiePcbItem.h>
 #include <objects/TGraphicsNetTieSchItem.h>
 #include <objects/TGraphicsPackageItem.h>
@@ -88,14 +89,29 @@ private slots:
 
     void leavesPinsAloneThatAreOnNoNetOfTheBoard()
     {
-        const QByteArray board =
-            BoardText(BoardFootprint("R1", "/sym-R1", Pad("1", "0 \"\"") + Pad("2", "0 \"\"")));
+        const QByteArray board = BoardText(BoardFootprint("R1", "/sym-R1", Pad("1", "0 \"\"") + Pad("2", "0 \"\"")));
         const TFolder folder({{"d.kicad_sch", Sheet(resistor + second + Wire("10 5", "20 5"))},
                               {"d.kicad_pcb", board},
                               {"d.kicad_pro", project}});
         // What is wired has a net in the schematic, though the board has not got it yet.
         QCOMPARE(NetsOfParts(ImportDesign(folder.Path("d.kicad_pro"))),
                  QStringLiteral("R1.1=Net-(R1-Pad1) R1.2= R2.1=Net-(R1-Pad1) R2.2=unconnected-(R2-Pad2)"));
+    }
+
+    void showsTextsOfTheProjectOnTheBoard()
+    {
+        const TFolder folder(
+            {{"d.kicad_pcb",
+              BoardText("(title_block (title \"Amplifier\"))\n(gr_text \"${TITLE} by ${MAKER}\" (at 0 0) "
+                        "(layer \"F.SilkS\") (effects (font (size 1 1))))")},
+             {"d.kicad_sch", Sheet(resistor)},
+             {"d.kicad_pro", project}});
+        for (const char* file : {"d.kicad_pro", "d.kicad_pcb"}) {
+            const TImportResult result = ImportDesign(folder.Path(file));
+            const QList<TGraphicsItem*> items = result.board->Items();
+            QCOMPARE(items.size(), 1);
+            QCOMPARE(static_cast<TGraphicsTextItem*>(items.first())->Text(), QStringLiteral("Amplifier by Works"));
+        }
     }
 
     void pairsNetTies()

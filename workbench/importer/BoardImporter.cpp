@@ -48,6 +48,7 @@ TImportResult ImportBoardText(const TImportSource& source, const TImportProgress
         const TSexpressionTree tree(source.text, ImportFiles::Part(0, 50, progress));
         TBoardDraft draft;
         if (!source.projectText.isEmpty()) {
+            draft.textVariables = TextVariables::OfProject(source.projectText);
             const QString cause = draft.netSettings.ReadProject(source.projectText);
             if (!cause.isEmpty()) {
                 result.warnings.append(QStringLiteral("%1:%2; nets have no classes and colours from there")

@@ -75,6 +75,7 @@ private:
                                        .arg(QDir::toNativeSeparators(files.project), cause));
         }
         variables = TextVariables::OfProject(json);
+        draft.textVariables = variables;
     }
 
     void ReadSchematic()
