@@ -46,17 +46,25 @@ public:
         QTest::mouseDClick(Tree().viewport(), Qt::LeftButton, {}, place);
     }
 
-    /** Types into the name of a row and ends that with a key. */
-    void Retype(QTreeWidgetItem* row, const QString& name, Qt::Key end) const
+    /** Types into the name of a row. */
+    QLineEdit* Type(QTreeWidgetItem* row, const QString& name) const
     {
         Tree().setCurrentItem(row);
         Tree().setFocus();
         QTest::keyClick(&Tree(), Qt::Key_F2);
         auto* edit = Tree().viewport()->findChild<QLineEdit*>();
-        QVERIFY(edit);
+        if (!edit) {
+            qFatal("The name cannot be edited");
+        }
         edit->selectAll();
         QTest::keyClicks(edit, name);
-        QTest::keyClick(edit, end);
+        return edit;
+    }
+
+    /** Types into the name of a row and ends that with a key. */
+    void Retype(QTreeWidgetItem* row, const QString& name, Qt::Key end) const
+    {
+        QTest::keyClick(Type(row, name), end);
         Test::SettleWorkbench();
     }
 };
@@ -87,6 +95,8 @@ private slots:
     void aPageIsRenamedInItsRow();
     void aPartIsRenamedInItsRow();
     void anEscapedOrEmptyNameChangesNothing();
+    void anotherDesignIsShownWhileANameIsEdited();
+    void theWindowIsClosedWhileANameIsEdited();
     void stepsOfACommandLine_data();
     void stepsOfACommandLine();
     void aNameOfSeveralPagesIsAskedFor();
@@ -322,6 +332,29 @@ void TestNavigation::anEscapedOrEmptyNameChangesNothing()
     project.window->Navigation().RenamePage(*project.Tree().Page(1), QString());
     QCOMPARE(project.Tree().Page(1)->Name(), QString("Front"));
     QCOMPARE(project.Stack().count(), 0);
+}
+
+void TestNavigation::anotherDesignIsShownWhileANameIsEdited()
+{
+    Project project;
+    project.Results({"--rename-part", "R1=X"});
+    project.Type(project.Tree().Page(1), "half");
+    TImportResult other = Test::MakeProject();
+    project.window->ShowDesign(std::move(other), "other");
+    Test::SettleWorkbench();
+    QCOMPARE(project.Tree().Page(1)->Name(), QString("Front"));
+    QCOMPARE(project.Stack().count(), 0);
+    project.Retype(project.Tree().Page(1), "First", Qt::Key_Return);
+    QCOMPARE(project.window->Tabs().tabText(1), QString("First"));
+}
+
+void TestNavigation::theWindowIsClosedWhileANameIsEdited()
+{
+    Project project;
+    const QPointer<QLineEdit> edit = project.Type(project.Tree().Part(1), "half");
+    project.window.reset();
+    Test::SettleWorkbench();
+    QVERIFY(!edit);
 }
 
 void TestNavigation::stepsOfACommandLine_data()
