@@ -109,11 +109,12 @@ void TCanvas::Reveal(const QGraphicsItem& item)
     constexpr double fewestPixels = 60;
     constexpr double partOfView = 0.25;
     const QRectF area = item.sceneBoundingRect();
-    const double side = std::max(area.width(), area.height());
-    const double factor =
-        partOfView * std::min(viewport()->width(), viewport()->height()) / std::max(side * transform().m11(), 1.0);
-    if (side * transform().m11() < fewestPixels) {
-        ZoomBy(factor, viewport()->rect().center());
+    const QRectF view = mapToScene(viewport()->rect()).boundingRect();
+    const double pixels = std::max(area.width(), area.height()) * transform().m11();
+    const bool isTooLarge = area.width() > view.width() || area.height() > view.height();
+    if (pixels < fewestPixels || isTooLarge) {
+        const double wanted = partOfView * std::min(viewport()->width(), viewport()->height());
+        ZoomBy(wanted / std::max(pixels, 1.0), viewport()->rect().center());
     }
     if (!mapToScene(viewport()->rect()).boundingRect().contains(area)) {
         centerOn(area.center());

@@ -51,6 +51,7 @@ TProjectDock::TProjectDock(QWidget* parent)
 
 void TProjectDock::SetTree(TProjectTree* newTree)
 {
+    edited = nullptr; // A name that is half typed ends with its tree.
     if (tree) {
         tree->disconnect(this);
         tree->hide();

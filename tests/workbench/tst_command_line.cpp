@@ -139,10 +139,12 @@ void TestCommandLine::tellsEveryOption()
 {
     QVERIFY(TCommandLine::Parse({"--help"}).help);
     const QString usage = TCommandLine::Usage();
-    for (const QString& option :
-         Words("--select --panel --set --key --bypass --rename --revalue --lock --unlock --connect --disconnect "
-               "--add-node --remove-node --designators --values --show-layers --hide-layers --zoom "
-               "--undo --redo --history --dump --screenshot --timing --help")) {
+    for (
+        const QString& option : Words(
+            "--select --panel --set --key --bypass --rename --revalue --lock --unlock --connect --disconnect "
+            "--disconnect-entries --add-node --remove-node --priority --tie-width --resize --page --board --tree "
+            "--open-page --open-part --close-symbol --rename-page --rename-part --designators --values --show-layers --hide-layers --zoom "
+            "--undo --redo --history --dump --screenshot --timing --help")) {
         QVERIFY2(usage.contains("  " + option + ' '), qPrintable(option));
     }
 }

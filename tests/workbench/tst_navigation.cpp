@@ -46,17 +46,25 @@ public:
         QTest::mouseDClick(Tree().viewport(), Qt::LeftButton, {}, place);
     }
 
-    /** Types into the name of a row and ends that with a key. */
-    void Retype(QTreeWidgetItem* row, const QString& name, Qt::Key end) const
+    /** Types into the name of a row. */
+    QLineEdit* Type(QTreeWidgetItem* row, const QString& name) const
     {
         Tree().setCurrentItem(row);
         Tree().setFocus();
         QTest::keyClick(&Tree(), Qt::Key_F2);
         auto* edit = Tree().viewport()->findChild<QLineEdit*>();
-        QVERIFY(edit);
+        if (!edit) {
+            qFatal("The name cannot be edited");
+        }
         edit->selectAll();
         QTest::keyClicks(edit, name);
-        QTest::keyClick(edit, end);
+        return edit;
+    }
+
+    /** Types into the name of a row and ends that with a key. */
+    void Retype(QTreeWidgetItem* row, const QString& name, Qt::Key end) const
+    {
+        QTest::keyClick(Type(row, name), end);
         Test::SettleWorkbench();
     }
 };
@@ -76,6 +84,8 @@ private slots:
     void aDoubleClickOpensASymbol();
     void anotherSymbolClosesTheOne();
     void aSymbolThatIsOpenIsOnlyShown();
+    void aSymbolIsSeenWhole_data();
+    void aSymbolIsSeenWhole();
     void aSymbolIsClosed();
     void pinsOfAnOpenSymbolHaveALength();
     void aJumpInTheHistoryOpensWhatTheLastCommandDid_data();
@@ -85,6 +95,8 @@ private slots:
     void aPageIsRenamedInItsRow();
     void aPartIsRenamedInItsRow();
     void anEscapedOrEmptyNameChangesNothing();
+    void anotherDesignIsShownWhileANameIsEdited();
+    void theWindowIsClosedWhileANameIsEdited();
     void stepsOfACommandLine_data();
     void stepsOfACommandLine();
     void aNameOfSeveralPagesIsAskedFor();
@@ -174,6 +186,29 @@ void TestNavigation::aSymbolThatIsOpenIsOnlyShown()
     QCOMPARE(project.Results({"--open-part", "R2"}), QString("symbol open already\n"));
     QCOMPARE(project.Page(), 2);
     QCOMPARE(project.Stack().count(), 1);
+}
+
+void TestNavigation::aSymbolIsSeenWhole_data()
+{
+    QTest::addColumn<double>("zoom");
+
+    QTest::newRow("from far away") << 0.02;
+    QTest::newRow("from anywhere") << 1.0;
+    QTest::newRow("from too near") << 100.0;
+}
+
+void TestNavigation::aSymbolIsSeenWhole()
+{
+    QFETCH(double, zoom);
+    Project project;
+    project.Results({"--page", "1"});
+    TCanvas& canvas = project.window->Canvas();
+    canvas.setTransform(QTransform::fromScale(zoom, zoom));
+    canvas.centerOn(500, 300);
+    project.Results({"--open-part", "R1"});
+    const QRectF part = project.window->Design()->Schematic().PartItems(1).first()->sceneBoundingRect();
+    QVERIFY(canvas.mapToScene(canvas.viewport()->rect()).boundingRect().contains(part));
+    QVERIFY(canvas.mapFromScene(part).boundingRect().width() >= 60);
 }
 
 void TestNavigation::aSymbolIsClosed()
@@ -297,6 +332,29 @@ void TestNavigation::anEscapedOrEmptyNameChangesNothing()
     project.window->Navigation().RenamePage(*project.Tree().Page(1), QString());
     QCOMPARE(project.Tree().Page(1)->Name(), QString("Front"));
     QCOMPARE(project.Stack().count(), 0);
+}
+
+void TestNavigation::anotherDesignIsShownWhileANameIsEdited()
+{
+    Project project;
+    project.Results({"--rename-part", "R1=X"});
+    project.Type(project.Tree().Page(1), "half");
+    TImportResult other = Test::MakeProject();
+    project.window->ShowDesign(std::move(other), "other");
+    Test::SettleWorkbench();
+    QCOMPARE(project.Tree().Page(1)->Name(), QString("Front"));
+    QCOMPARE(project.Stack().count(), 0);
+    project.Retype(project.Tree().Page(1), "First", Qt::Key_Return);
+    QCOMPARE(project.window->Tabs().tabText(1), QString("First"));
+}
+
+void TestNavigation::theWindowIsClosedWhileANameIsEdited()
+{
+    Project project;
+    const QPointer<QLineEdit> edit = project.Type(project.Tree().Part(1), "half");
+    project.window.reset();
+    Test::SettleWorkbench();
+    QVERIFY(!edit);
 }
 
 void TestNavigation::stepsOfACommandLine_data()
