@@ -4,6 +4,7 @@
 #include "workbench/DesignActions.h"
 #include "workbench/Kinds.h"
 #include "workbench/LoadDesign.h"
+#include "workbench/Picking.h"
 #include "workbench/TCanvas.h"
 #include "workbench/TDesign.h"
 #include "workbench/TDocumentTabs.h"
@@ -182,7 +183,7 @@ void TMainWindow::slotDocumentShown()
     selection->SetScene(document.scene);
     SelectOnlyVisible();
     editing->ShowSelection();
-    statusLine->ShowContent(Kinds::Summary(ShownItems()));
+    statusLine->ShowContent(Kinds::Summary(Picking::Selectable(ShownItems())));
 }
 
 TBoard* TMainWindow::Board() const
