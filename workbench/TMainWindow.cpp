@@ -113,7 +113,7 @@ void TMainWindow::ConnectMenus()
     connect(menus, &TMenus::sigOpen, this, &TMainWindow::slotOpen);
     connect(menus, &TMenus::sigQuit, this, &QWidget::close);
     connect(menus, &TMenus::sigSelect, this, &TMainWindow::slotSelect);
-    connect(menus, &TMenus::sigEditMenuOpens, this, [this] { menus->OfferKindsOf(ShownItems()); });
+    connect(menus, &TMenus::sigEditMenuOpens, this, [this] { menus->OfferKindsOf(Picking::Selectable(ShownItems())); });
     connect(menus, &TMenus::sigAction, this, &TMainWindow::slotAction);
     connect(menus, &TMenus::sigCloseSymbol, navigation.get(), &TNavigation::CloseSymbol);
     connect(menus, &TMenus::sigDesignators, this, &TMainWindow::slotDesignators);
