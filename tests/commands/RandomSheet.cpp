@@ -332,7 +332,7 @@ QString RandomSheet::ClearAt(int index)
 QString RandomSheet::State() const
 {
     static const QRegularExpression color(QStringLiteral(" color=\\S+"));
-    QString state = design.sheet.Dump().remove(color) + QLatin1Char('\n') + tree.Dump();
+    QString state = design.sheet.DumpWithOwnNets().remove(color) + QLatin1Char('\n') + tree.Dump();
     for (const TGraphicsItem* item : design.board.Items()) {
         state += item->type() == ItemType::Package ? item->StateLine() + QLatin1Char('\n') : QString();
     }
