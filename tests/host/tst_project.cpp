@@ -3,6 +3,7 @@
 
 #include <application/TProject.h>
 #include <application/TSchematic.h>
+#include <graphics/TGraphicsTextItem.h>
 #include <objects/TGraphicsNetItem.h>
 #include <objects/TGraphicsNetTieSchItem.h>
 #include <objects/TGraphicsPartItem.h>
@@ -49,20 +50,38 @@ private slots:
         QCOMPARE(model.DeleteNet("none"), QVector<QVariant>());
     }
 
-    void aDeletedNetComesBackWithItsRow()
+    void aDeletedNetComesBackToItsRow()
     {
         TNetModel model;
         for (const char* net : {"A", "B", "C"}) {
             model.AddNet(net, "Default", Qt::red, Qt::blue, 2);
         }
         const QVector<QVariant> row = model.DeleteNet("A");
-        QCOMPARE(row.size(), int(TNetModel::columnCount));
         QCOMPARE(model.NetRow("C"), 1);
         QCOMPARE(model.NetName(0), QString("B"));
         model.AddNet(row);
-        QCOMPARE(model.NetRow("A"), 2);
-        QCOMPARE(model.ColorPcb(2), QColor(Qt::blue));
+        QCOMPARE(model.NetRow("A"), 0);
+        QCOMPARE(model.NetRow("C"), 2);
+        QCOMPARE(model.ColorPcb(0), QColor(Qt::blue));
         QCOMPARE(model.Priority("A"), QString("2"));
+    }
+
+    void rowsGivenBackInReverseOrderRestoreTheTable()
+    {
+        TNetModel model;
+        for (const char* net : {"A", "B", "C", "D"}) {
+            model.AddNet(net, "Default", QColor(), QColor(), 0);
+        }
+        const QString before = model.Dump();
+        QList<QVector<QVariant>> deleted;
+        for (const char* net : {"C", "A", "D"}) {
+            deleted.append(model.DeleteNet(net));
+        }
+        QCOMPARE(model.RowCount(), 1);
+        while (!deleted.isEmpty()) {
+            model.AddNet(deleted.takeLast());
+        }
+        QCOMPARE(model.Dump(), before);
     }
 
     void netClasses()
