@@ -73,6 +73,9 @@ TGraphicsPortItem::Items TGraphicsPortItem::Renamed(const QString& newName)
     ++moment;
     Items ofOldName = OfName(name);
     ofOldName.insert(this);
+    if (name.isEmpty() && ConnectedItems().isEmpty() && done.isEmpty() && undone.isEmpty()) {
+        return ofOldName; // The first name of a new port is nothing that later renamings take back.
+    }
     const std::shared_ptr<Renaming> last = done.isEmpty() ? nullptr : done.last();
     if (last && last->from == newName && last->to == name && ofOldName.contains(last->items)) {
         last->spared = OfName(newName);

@@ -27,9 +27,12 @@ public:
     const QString& Name() const { return name; }
     /**
      * Renames the port, and with it all that is wired to it and is on its net: wires get the new name, and so do other
-     * ports of the old one. All of these get the colour (invalid for the layer's), and are repainted. Renaming it back
-     * gives the old name back to just those that it was taken from, if they all still have the new one; and doing it
-     * once more takes it from the same, if nothing else has come to the old one since.
+     * ports of the old one. All of these get the colour (invalid for the layer's), and are repainted.
+     *
+     * Renaming it back gives the old name back to just those that it was taken from, if they all still have the new
+     * one, whichever of their ports has its turn first; and doing it once more takes it from the same, if nothing else
+     * has come to the old name since. Where wired ports of several names are renamed back and forth one by one, a new
+     * renaming may look just like one that is taken back.
      */
     void SetName(const QString& newName, const QColor& color);
 

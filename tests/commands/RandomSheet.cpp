@@ -34,6 +34,13 @@ auto At(const List& list, int number)
     return list[number % list.size()];
 }
 
+/** What ports are renamed to: more often than not a name that is new, as names that come and go tell renamings from
+ *  those that take them back only as long as ports do not take each other along both ways. */
+QString NewName(const PlannedEdit& edit)
+{
+    return edit.value % 3 == 0 ? At(names, edit.value / 3) : QStringLiteral("N%1").arg(edit.value);
+}
+
 /** The lines in which two states differ. */
 QString Difference(const QString& is, const QString& was)
 {
@@ -195,8 +202,7 @@ std::unique_ptr<QUndoCommand> RandomSheet::Command(const PlannedEdit& edit)
     case 1:
     case 2: {
         commandName = "port name";
-        return std::make_unique<TCmdPortName>(Some<TGraphicsPortItem>(ItemType::Port, edit), At(names, edit.value),
-                                              &sheet);
+        return std::make_unique<TCmdPortName>(Some<TGraphicsPortItem>(ItemType::Port, edit), NewName(edit), &sheet);
     }
     case 3: commandName = "connect"; return std::make_unique<TCmdPartConnect>(ofKind(ItemType::Part), &design.project);
     case 4: {
@@ -332,7 +338,7 @@ QString RandomSheet::ClearAt(int index)
 QString RandomSheet::State() const
 {
     static const QRegularExpression color(QStringLiteral(" color=\\S+"));
-    QString state = design.sheet.Dump().remove(color) + QLatin1Char('\n') + tree.Dump();
+    QString state = design.sheet.DumpWithOwnNets().remove(color) + QLatin1Char('\n') + tree.Dump();
     for (const TGraphicsItem* item : design.board.Items()) {
         state += item->type() == ItemType::Package ? item->StateLine() + QLatin1Char('\n') : QString();
     }

@@ -147,6 +147,16 @@ private slots:
         }
     }
 
+    void theEmptyNameGoesToAllLikeAnyOther()
+    {
+        Wired design;
+        const QString before = design.sheet.DumpWithOwnNets();
+        design.port->SetName(QString(), {});
+        QCOMPARE(design.wire->Net() + design.further->OwnNet() + design.second->Name(), QString());
+        design.port->SetName("A", {});
+        QCOMPARE(design.sheet.DumpWithOwnNets(), before);
+    }
+
     void whatComesToTheOldNameIsRenamedTheNextTime()
     {
         Wired design;
