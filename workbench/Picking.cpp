@@ -32,3 +32,14 @@ void Picking::PickDrawings(TGraphicsPartItem& part, bool on)
         }
     }
 }
+
+QList<TGraphicsItem*> Picking::Selectable(const QList<TGraphicsItem*>& items)
+{
+    QList<TGraphicsItem*> selectable;
+    for (TGraphicsItem* item : items) {
+        if (item->QGraphicsItem::flags() & QGraphicsItem::ItemIsSelectable) {
+            selectable.append(item);
+        }
+    }
+    return selectable;
+}

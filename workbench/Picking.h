@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QList>
+
+class TGraphicsItem;
 class TGraphicsPartItem;
 class TItemScene;
 
@@ -14,5 +17,8 @@ void PickSymbolsWhole(TItemScene& page);
 
 /** Lets a click take the drawings of a part by themselves, as long as its symbol is open for editing. */
 void PickDrawings(TGraphicsPartItem& part, bool on);
+
+/** Those of the items that can be selected, in their order. */
+QList<TGraphicsItem*> Selectable(const QList<TGraphicsItem*>& items);
 
 } // namespace Picking

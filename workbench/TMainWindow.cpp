@@ -4,6 +4,7 @@
 #include "workbench/DesignActions.h"
 #include "workbench/Kinds.h"
 #include "workbench/LoadDesign.h"
+#include "workbench/Picking.h"
 #include "workbench/TCanvas.h"
 #include "workbench/TDesign.h"
 #include "workbench/TDocumentTabs.h"
@@ -112,7 +113,7 @@ void TMainWindow::ConnectMenus()
     connect(menus, &TMenus::sigOpen, this, &TMainWindow::slotOpen);
     connect(menus, &TMenus::sigQuit, this, &QWidget::close);
     connect(menus, &TMenus::sigSelect, this, &TMainWindow::slotSelect);
-    connect(menus, &TMenus::sigEditMenuOpens, this, [this] { menus->OfferKindsOf(ShownItems()); });
+    connect(menus, &TMenus::sigEditMenuOpens, this, [this] { menus->OfferKindsOf(Picking::Selectable(ShownItems())); });
     connect(menus, &TMenus::sigAction, this, &TMainWindow::slotAction);
     connect(menus, &TMenus::sigCloseSymbol, navigation.get(), &TNavigation::CloseSymbol);
     connect(menus, &TMenus::sigDesignators, this, &TMainWindow::slotDesignators);
@@ -182,7 +183,7 @@ void TMainWindow::slotDocumentShown()
     selection->SetScene(document.scene);
     SelectOnlyVisible();
     editing->ShowSelection();
-    statusLine->ShowContent(Kinds::Summary(ShownItems()));
+    statusLine->ShowContent(Kinds::Summary(Picking::Selectable(ShownItems())));
 }
 
 TBoard* TMainWindow::Board() const

@@ -63,6 +63,9 @@ void TProjectDock::SetTree(TProjectTree* newTree)
     }
     tree->setFrameShape(QFrame::NoFrame);
     tree->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    tree->setIndentation(14);
+    tree->setHeaderHidden(false); // A hidden one would not follow the width of the tree.
+    tree->header()->setFixedHeight(0);
     tree->header()->setSectionResizeMode(TPart::nameColumn, QHeaderView::Stretch);
     tree->setEditTriggers(QAbstractItemView::NoEditTriggers); // Only by the action: not every column is a name.
     tree->setItemDelegate(new TNameDelegate([this](const QString& name) { Renamed(name); }, tree));

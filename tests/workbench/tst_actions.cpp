@@ -15,8 +15,43 @@
 #include <objects/TGraphicsPartItem.h>
 #include <objects/TGraphicsPinItem.h>
 
+#include <QAction>
+#include <QApplication>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QTimer>
 #include <QtTest>
 #include <QUndoStack>
+
+namespace {
+
+/** Answers the dialogs that come up while it lives. */
+class DialogUser : public QObject
+{
+public:
+    /** Accepts what asks for input with this text, or rejects it for none. */
+    explicit DialogUser(const QString& answer)
+    {
+        connect(&timer, &QTimer::timeout, this, [this, answer] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            if (auto* input = qobject_cast<QInputDialog*>(dialog)) {
+                input->setTextValue(answer);
+                answer.isNull() ? input->reject() : input->accept();
+            } else if (auto* box = qobject_cast<QMessageBox*>(dialog)) {
+                complaint = box->text();
+                box->accept();
+            }
+        });
+        timer.start(5);
+    }
+
+    QString complaint;
+
+private:
+    QTimer timer;
+};
+
+} // namespace
 
 class TestActions : public QObject
 {
@@ -36,6 +71,8 @@ private slots:
     void partsAreConnectedAndDisconnected();
     void busEntriesAreTakenOff();
     void numbersAreMillimetres();
+    void aDialogAsks_data();
+    void aDialogAsks();
 };
 
 void TestActions::areUndoneAndRedone_data()
@@ -249,6 +286,44 @@ void TestActions::numbersAreMillimetres()
     const auto* frame = static_cast<TGraphicsRectItem*>(workbench.Items(ItemType::Rectangle).last());
     QCOMPARE(frame->Size().width(), static_cast<double>(static_cast<float>(20 * unitsPerMillimetre)));
     QCOMPARE(frame->Size().height(), static_cast<double>(static_cast<float>(10.5 * unitsPerMillimetre)));
+}
+
+void TestActions::aDialogAsks_data()
+{
+    QTest::addColumn<QString>("items");
+    QTest::addColumn<QString>("entry");
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<QString>("undoText");
+    QTest::addColumn<QString>("complaint");
+
+    const auto row = [](const char* name, const char* items, const char* entry, const QString& answer,
+                        const char* undoText, const char* complaint = "") {
+        QTest::newRow(name) << items << QString(entry) << answer << QString(undoText) << QString(complaint);
+    };
+    row("a size", "rectangle", "Change &size of rectangles…", "20,10", "Change size of 1 rectangle");
+    row("a size that is none", "rectangle", "Change &size of rectangles…", "20", "",
+        "\"20\" is not understood: Width,height in millimetres");
+    row("a size of nothing", "netwire", "Change &size of rectangles…", "20,10", "");
+    row("a level", "netwire", "Change &priority of nets…", "4", "Change net priority of 1 net wire");
+    row("a value", "part", "Change &value of components and packages…", "2k", "Change value of 2 parts");
+    row("a cancelled value", "part", "Change &value of components and packages…", {}, "");
+}
+
+void TestActions::aDialogAsks()
+{
+    QFETCH(QString, items);
+    QFETCH(QString, entry);
+    QFETCH(QString, answer);
+    Test::ShownWorkbench workbench(Test::MakeProject());
+    workbench.Results({"--page", "1", "--select", items});
+    const DialogUser user(answer);
+    const QList<QAction*> actions = workbench.window->findChildren<QAction*>();
+    const auto action = std::find_if(actions.cbegin(), actions.cend(),
+                                     [&entry](const QAction* candidate) { return candidate->text() == entry; });
+    QVERIFY(action != actions.cend());
+    (*action)->trigger();
+    QTEST(workbench.window->UndoStack().undoText(), "undoText");
+    QTEST(user.complaint, "complaint");
 }
 
 PROPERTIES_TEST_MAIN(TestActions)

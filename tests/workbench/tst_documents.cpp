@@ -18,6 +18,8 @@
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QSet>
 #include <QTabBar>
 #include <QtTest>
@@ -50,6 +52,7 @@ private slots:
     void aTabKeepsItsSelectionAndItsOrder();
     void aTabKeepsItsZoom();
     void layersFollowTheTab();
+    void theEditMenuOffersTheKindsThatAreThere();
     void aHiddenLayerOfOnePageIsDeselectedOnTheOther();
     void anEditOfTextEndsWithTheTab();
     void boardCommandsFindTheirBoardBehindAPage();
@@ -157,6 +160,32 @@ void TestDocuments::layersFollowTheTab()
     QVERIFY(workbench.Run({"--hide-layers", "Top"}).messages.contains("there is no layer \"Top\"; page 1 has Nets, "));
     workbench.Results({"--select", "netwire", "--hide-layers", "Nets"});
     QVERIFY(workbench.window->Selection().Items().isEmpty());
+}
+
+void TestDocuments::theEditMenuOffersTheKindsThatAreThere()
+{
+    Test::ShownWorkbench workbench(Test::MakeProject());
+    const auto offered = [&workbench] {
+        const QList<QMenu*> menus = workbench.window->menuBar()->findChildren<QMenu*>();
+        QStringList texts;
+        for (QMenu* menu : menus) {
+            if (menu->title() == "&Edit") {
+                emit menu->aboutToShow();
+                for (const QAction* action : menu->actions()) {
+                    if (action->isVisible() && action->text().startsWith("Select all ")) {
+                        texts.append(action->text().mid(11));
+                    }
+                }
+            }
+        }
+        return texts;
+    };
+    QCOMPARE(offered(), (QStringList{"vias", "pads", "holes", "packages"}));
+    workbench.Results({"--page", "1"});
+    QCOMPARE(offered(), (QStringList{"parts", "pins", "net wires", "texts", "rectangles"}));
+    workbench.Results({"--page", "2"}); // The only rectangle is a part's.
+    QCOMPARE(offered(), (QStringList{"parts", "pins", "net wires", "ports", "buses", "bus entries", "net tie symbols",
+                                     "tags", "junctions", "texts"}));
 }
 
 void TestDocuments::aHiddenLayerOfOnePageIsDeselectedOnTheOther()

@@ -39,16 +39,18 @@ QByteArray BoardText(const QByteArray& elements)
            + elements + ")\n";
 }
 
-TGraphicsPackageItem* Package(const TImportResult& result, const QString& refDes)
+/** The numbers of the packages with that designator. */
+QList<int> Numbers(const TImportResult& result, const QString& refDes)
 {
+    QList<int> numbers;
     const QList<TGraphicsItem*> items = result.board->Items();
-    for (TGraphicsItem* item : items) {
-        auto* package = dynamic_cast<TGraphicsPackageItem*>(item);
+    for (const TGraphicsItem* item : items) {
+        const auto* package = dynamic_cast<const TGraphicsPackageItem*>(item);
         if (package && package->RefDes() == refDes) {
-            return package;
+            numbers.append(package->ComponentNumber());
         }
     }
-    return nullptr;
+    return numbers;
 }
 
 } // namespace
@@ -65,15 +67,16 @@ private slots:
         const QByteArray board = BoardText(
             BoardFootprint("R1", "/sym-R1", Pad("1", "3 \"spare\"") + Pad("2", "1 \"GND\""))
             + BoardFootprint("X9", "/moved/sym-R2", Pad("1", "3 \"spare\"") + Pad("2", "2 \"Net-(R1-Pad1)\""))
-            + BoardFootprint("R3", "/nowhere", Pad("1", "4 \"old\"")) + BoardFootprint("M1", "", Pad("1", "0 \"\"")));
+            + BoardFootprint("R3", "/nowhere", Pad("1", "4 \"old\"")) + BoardFootprint("M1", "", Pad("1", "0 \"\""))
+            + BoardFootprint("R1", "/elsewhere", Pad("1", "1 \"GND\"")));
         const TFolder folder({{"d.kicad_sch", sheet}, {"d.kicad_pcb", board}, {"d.kicad_pro", project}});
         const TImportResult result = ImportDesign(folder.Path("d.kicad_pro"));
         QVERIFY2(result.error.isEmpty(), qPrintable(result.error));
         QCOMPARE(result.warnings, QStringList());
-        QCOMPARE(Package(result, "R1")->ComponentNumber(), quint16(1)); // By its path,
-        QCOMPARE(Package(result, "X9")->ComponentNumber(), quint16(2)); // by the end of its path,
-        QCOMPARE(Package(result, "R3")->ComponentNumber(), quint16(3)); // and by its designator.
-        QCOMPARE(Package(result, "M1")->ComponentNumber(), quint16(0));
+        QCOMPARE(Numbers(result, "R1"), (QList<int>{1, 0})); // By its path, which counts more than a designator,
+        QCOMPARE(Numbers(result, "X9"), QList<int>{2});      // by the end of its path,
+        QCOMPARE(Numbers(result, "R3"), QList<int>{3});      // and by its designator.
+        QCOMPARE(Numbers(result, "M1"), QList<int>{0});
         // Nets without a name take that of the board, also one that another net would have had; others keep theirs.
         QCOMPARE(NetsOfParts(result), QStringLiteral("R1.1=spare R1.2=GND R2.1=spare R2.2=Net-(R1-Pad1) R3.1=/new "
                                                      "R3.2=unconnected-(R3-Pad2)"));

@@ -1,8 +1,10 @@
 #include "tests/support/TestMain.h"
 #include "tests/workbench/SheetFiles.h"
 
+#include "properties/commands/TCmdPort.h"
 #include "workbench/importer/ImportFiles.h"
 
+#include <application/TProject.h>
 #include <objects/TGraphicsBusEntryItem.h>
 #include <objects/TGraphicsBusItem.h>
 #include <objects/TGraphicsJunctionItem.h>
@@ -196,6 +198,28 @@ private slots:
             }
         }
         QCOMPARE(result.schematic->Dump(), before);
+    }
+
+    void takesBackTheRenamingOfPorts_data() { AddDesigns(); }
+
+    void takesBackTheRenamingOfPorts()
+    {
+        QFETCH(QString, file);
+        const TImportResult result = ImportDesign(file);
+        TProject project;
+        project.SetSchematic(result.schematic.get());
+        const QString before = result.schematic->Dump();
+        const QList<TGraphicsPortItem*> ports = All<TGraphicsPortItem>(result);
+        constexpr int step = 29; // Not all, for the sake of time.
+        for (int i = 0; i < ports.size(); i += step) {
+            TCmdPortName command({ports[i]}, QStringLiteral("renamed"), result.schematic.get());
+            command.redo();
+            QCOMPARE(ports[i]->Net(), QStringLiteral("renamed"));
+            QVERIFY(result.schematic->Dump() != before);
+            command.undo();
+            QCOMPARE(result.schematic->Dump(), before);
+        }
+        project.SetSchematic(nullptr);
     }
 
     void hangsEveryEntryOnItsBus_data() { AddDesigns(); }

@@ -356,6 +356,8 @@ private slots:
             "root.kicad_sch:12: sheet 'Me' contains itself");
         row("a sheet in itself by way of another", Sheet(box), Sheet(Box("Up", "root.kicad_sch", "up")),
             "below.kicad_sch:12: sheet 'Up' contains itself");
+        row("more pages than a schematic can have", Sheet(box.repeated(255)), Sheet({}),
+            "root.kicad_sch:266: more than 255 sheets");
         row("a symbol at a slant", Sheet(Symbol("R1", "L:R", "10 10 45")), {},
             "root.kicad_sch:12: '45' where only an angle of whole quarters can be");
         row("a unit without number", Sheet({}).replace("R_1_1", "R_one"), {},

@@ -34,7 +34,7 @@ QByteArray ImportFiles::Read(const QString& fileName)
     if (file.size() > largestFile) {
         fail(QStringLiteral("larger than 1 GB"));
     }
-    const QByteArray text = file.readAll();
+    QByteArray text = file.readAll();
     if (file.error() != QFileDevice::NoError) {
         fail(file.errorString());
     }

@@ -16,7 +16,7 @@ namespace {
 class TSymbolFinder
 {
 public:
-    explicit TSymbolFinder(const TSheetHierarchy& hierarchy)
+    TSymbolFinder(const TSheetHierarchy& hierarchy, const TBoardDraft& board)
     {
         for (const TSheetPage& page : hierarchy.pages) {
             for (const TPageSymbol& symbol : page.symbols) {
@@ -31,9 +31,13 @@ public:
                 }
             }
         }
+        for (const QString& path : board.paths) {
+            found.insert(keyOfPath.value(path));
+        }
     }
 
-    /** The component key; empty if there is none. */
+    /** The component key; empty if there is none. A designator counts only where the path of no other item leads to
+     * that component. */
     QString Key(const QString& path, const QString& designator) const
     {
         const auto byPath = keyOfPath.constFind(path);
@@ -45,13 +49,14 @@ public:
         if (byUuid.size() == 1) {
             return byUuid.first();
         }
-        return keys.contains(designator) ? designator : QString();
+        return keys.contains(designator) && !found.contains(designator) ? designator : QString();
     }
 
 private:
     QHash<QString, QString> keyOfPath;
     QHash<QString, QStringList> keysOfUuid;
     QSet<QString> keys;
+    QSet<QString> found; ///< Those that paths of the board lead to.
 };
 
 /** Drops names that would make one net of two; what nets are called that get another one is free to be taken. */
@@ -100,7 +105,7 @@ struct TPinsOfNets
 QHash<int, QSet<QString>> NamesOnBoard(const TPinsOfNets& pins, const TSheetHierarchy& hierarchy,
                                        const TBoardDraft& board)
 {
-    const TSymbolFinder finder(hierarchy);
+    const TSymbolFinder finder(hierarchy, board);
     QHash<int, QSet<QString>> names;
     const QList<TGraphicsItem*> items = board.board->Scene()->DesignItems();
     for (TGraphicsItem* item : items) {
@@ -124,7 +129,7 @@ QHash<int, QSet<QString>> NamesOnBoard(const TPinsOfNets& pins, const TSheetHier
 
 void MatchNumbers(TBoardDraft& board, const TSheetHierarchy& hierarchy, const QHash<QString, quint16>& numbers)
 {
-    const TSymbolFinder finder(hierarchy);
+    const TSymbolFinder finder(hierarchy, board);
     const QList<TGraphicsItem*> items = board.board->Scene()->DesignItems();
     // Ties that no symbol belongs to keep clear of the numbers of those that have one.
     int nextFree = numbers.size() + 1;

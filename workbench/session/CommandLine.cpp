@@ -193,8 +193,8 @@ std::vector<TStepOption> MakeStepOptions()
         {"--board", Argument::None, "", "show the board, and select there", ParseNothing<&TSession::ShowBoard>},
         {"--tree", Argument::None, "", "print the pages and parts of the project", ParseTree},
         {"--select", Argument::Required, "WHAT",
-         "select items: wire, via, pad, part, pin, netwire and the like, several with commas, or all;\n"
-         "with [i] or [i..j] for positions in the design's order among that kind, from 0",
+         "select items: wire, via, pad, part, pin, netwire and the like, several with commas, or\n"
+         "all; with [i] or [i..j] for positions in the design's order among that kind, from 0",
          ParseSelect},
         {"--panel", Argument::None, "", "print the panel: its title, then each row's label and value", ParsePanel},
         {"--set", Argument::Required, "LABEL=VALUE",
@@ -212,7 +212,8 @@ std::vector<TStepOption> MakeStepOptions()
         {"--open-page", Argument::Required, "PAGE", "open a page from the project tree",
          ParseText<&TSession::OpenPage>},
         {"--open-part", Argument::Required, "PART",
-         "open the symbol of a part, by its designator or the number of its component, for editing",
+         "open the symbol of a part for editing; the part is given by its designator, or by the number\n"
+         "of its component",
          ParseText<&TSession::OpenPart>},
         {"--close-symbol", Argument::None, "", "close the symbol that is open", ParseNothing<&TSession::CloseSymbol>},
         {"--rename-page", Argument::Required, "PAGE=NAME", "rename a page in the project tree",
@@ -328,7 +329,7 @@ TCommandLine TCommandLine::Parse(const QStringList& arguments)
 
 QString TCommandLine::Usage()
 {
-    constexpr int helpColumn = 23;
+    constexpr int helpColumn = 27;
     const auto entry = [](const QString& option, QString text) {
         text.replace(QLatin1Char('\n'), QLatin1Char('\n') + QString(helpColumn, QLatin1Char(' ')));
         return QStringLiteral("  %1").arg(option).leftJustified(helpColumn) + text + QLatin1Char('\n');

@@ -1,6 +1,7 @@
 #include "workbench/session/TItemQuery.h"
 
 #include "workbench/Kinds.h"
+#include "workbench/Picking.h"
 #include "workbench/session/TSessionError.h"
 
 #include <QRegularExpression>
@@ -8,17 +9,6 @@
 #include <QStringList>
 
 namespace {
-
-QList<TGraphicsItem*> Selectable(const QList<TGraphicsItem*>& items)
-{
-    QList<TGraphicsItem*> selectable;
-    for (TGraphicsItem* item : items) {
-        if (item->QGraphicsItem::flags() & QGraphicsItem::ItemIsSelectable) {
-            selectable.append(item);
-        }
-    }
-    return selectable;
-}
 
 QString KindsOf(const QList<TGraphicsItem*>& items)
 {
@@ -79,7 +69,7 @@ TItemQuery TItemQuery::Parse(const QString& text)
 
 QList<TGraphicsItem*> TItemQuery::Find(const QList<TGraphicsItem*>& items, const QString& place) const
 {
-    const QList<TGraphicsItem*> all = Selectable(items);
+    const QList<TGraphicsItem*> all = Picking::Selectable(items);
     QList<TGraphicsItem*> found;
     QSet<TGraphicsItem*> seen;
     for (const TPart& part : parts) {

@@ -1,5 +1,6 @@
 #include "workbench/session/Tour.h"
 
+#include "workbench/Picking.h"
 #include "workbench/session/TSession.h"
 #include "workbench/TDesign.h"
 #include "workbench/TMainWindow.h"
@@ -82,11 +83,9 @@ QVector<TStop> LastStops()
 QSet<int> KindsIn(const TDesign& design, const TDocument& document)
 {
     QSet<int> kinds{0};
-    const QList<TGraphicsItem*> items = design.ItemsOf(document);
+    const QList<TGraphicsItem*> items = Picking::Selectable(design.ItemsOf(document));
     for (const TGraphicsItem* item : items) {
-        if (item->QGraphicsItem::flags() & QGraphicsItem::ItemIsSelectable) {
-            kinds.insert(item->type());
-        }
+        kinds.insert(item->type());
     }
     return kinds;
 }

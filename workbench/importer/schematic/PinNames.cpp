@@ -18,8 +18,8 @@ bool HasNameAlone(const PinNames::TPinOnNet& on)
 /** The pin as the net's name shows it. */
 QString ShownPin(const PinNames::TPinOnNet& on, bool isAlone)
 {
-    const QString pad = QStringLiteral("Pad") + on.pin->pin->number;
-    const QString name = on.pin->pin->name;
+    QString pad = QStringLiteral("Pad") + on.pin->pin->number;
+    QString name = on.pin->pin->name;
     if (on.version < valueNamesNet || name.isEmpty() || name == on.pin->pin->number) {
         return pad;
     }

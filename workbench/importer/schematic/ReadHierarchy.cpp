@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr std::size_t mostPages = 1000;
+constexpr std::size_t mostPages = 255; // As many as a schematic can have.
 
 class THierarchyReader
 {
