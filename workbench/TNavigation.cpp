@@ -91,7 +91,8 @@ void TNavigation::slotIndexChanged(int index)
     int page = 0;
     bool isPartLast = false;
     for (int i = lastIndex; i != index; i += step) {
-        // Not a constant command: the question for the page changes the answer to the next one.
+        // The question for the page changes the answer to the next one, and the stack gives out constants only.
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
         auto* command = const_cast<QUndoCommand*>(undoStack.command(step > 0 ? i : i - 1));
         if (auto* opensPage = dynamic_cast<TCmdPageOpen*>(command)) {
             if (const int asked = opensPage->OpeningPageId()) {

@@ -57,6 +57,7 @@ void TGraphicsBusEntryItem::UnlinkFromNet()
 {
     if (TGraphicsNetItem* net = NetLink()) {
         net->UnlinkFrom(this);
+        net->UnlinkFrom(this); // It may be linked with both ends.
         SetNetLink(nullptr);
     }
 }

@@ -120,9 +120,7 @@ private slots:
         TGraphicsNetItem* wire = sheet.Wire({0, 0}, {100, 0});
         TGraphicsItem* target = Linkable(sheet, kind);
         wire->LinkToLast(target);
-        if (kind != "bus entry") {
-            wire->LinkToFirst(target); // With both ends, or with itself from tail to head.
-        }
+        wire->LinkToFirst(target); // With both ends, or with itself from tail to head.
         delete (target->parentItem() ? target->parentItem() : target);
         QCOMPARE(wire->Links(), Items());
         QVERIFY(!wire->Island());
@@ -244,6 +242,21 @@ private slots:
         entry->UnlinkFromNet();
         entry->UnlinkFromNet();
         QCOMPARE(next->Links() + entry->Links(), Items());
+    }
+
+    void aWireWithBothEndsAtAnEntryIsCutAtBoth()
+    {
+        Sheet sheet;
+        TGraphicsBusEntryItem* entry = sheet.Entry({10, 0});
+        TGraphicsNetItem* loop = sheet.Wire({20, 10}, {20, 10});
+        loop->LinkToFirst(entry);
+        loop->LinkToLast(entry);
+        loop->Unlink(TGraphicsItem::LinkEnd::First);
+        QCOMPARE(entry->NetLink(), loop); // Still held by the other end.
+        loop->LinkToFirst(entry);
+        entry->UnlinkFromNet();
+        QCOMPARE(entry->Links() + loop->Links(), Items());
+        QVERIFY(!loop->Island());
     }
 
     void linksOfEntriesThatAreStoredAreOneSided()
