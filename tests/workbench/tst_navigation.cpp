@@ -370,13 +370,13 @@ void TestNavigation::stepsOfACommandLine_data()
     row("a page by its name", {"--page", "Back"}, "shown: page 2 \"Back\"\n");
     row("the board", {"--page", "2", "--board"}, "shown: page 2 \"Back\"\nshown: the board\n");
     row("a page that is none", {"--page", "Side"}, "",
-        "there is no page \"Side\"; the project has 1 \"Front\", 2 \"Back\"");
+        R"(there is no page "Side"; the project has 1 "Front", 2 "Back")");
     row("a number that is none", {"--page", "0"}, "", "there is no page \"0\"");
     row("open a page", {"--open-page", "Back"}, "Open page Back\n");
     row("open the page that is open", {"--open-page", "Front"}, "page open already\n");
     row("open a part by its component's number", {"--open-part", "3"}, "Open symbol of R2\n");
     row("open a part that is none", {"--open-part", "R3"}, "",
-        "there is no part \"R3\"; the project has 1 \"R1\", 3 \"R2\", 2 \"R10\"");
+        R"(there is no part "R3"; the project has 1 "R1", 3 "R2", 2 "R10")");
     row("rename a page", {"--rename-page", "Back=Rear=side", "--tree"},
         "Rename page Back\ntreepage number=1 name=\"Front\"\ntreepage number=2 name=\"Rear=side\"\n"
         "treepart number=1 refDes=\"R1\" name=\"RESISTOR\"\ntreepart number=3 refDes=\"R2\" name=\"RESISTOR\"\n"
