@@ -156,8 +156,8 @@ private:
     }
 };
 
-template <class NamedCommand, const QString& (TGraphicsPackageItem::*get)() const,
-          void (TGraphicsPackageItem::*set)(const QString&)>
+template <class NamedCommand, const QString& (TGraphicsComponentItem::*get)() const,
+          void (TGraphicsComponentItem::*set)(const QString&)>
 class Renaming : public PackagesEdit
 {
 public:
@@ -190,8 +190,9 @@ private:
     QStringList oldTexts;
 };
 
-using ChangingRefDes = Renaming<TCmdPackageRefDes, &TGraphicsPackageItem::RefDes, &TGraphicsPackageItem::SetRefDes>;
-using ChangingValue = Renaming<TCmdPackageValue, &TGraphicsPackageItem::Value, &TGraphicsPackageItem::SetValue>;
+using ChangingRefDes =
+    Renaming<TCmdPackageRefDes, &TGraphicsComponentItem::RefDes, &TGraphicsComponentItem::SetRefDes>;
+using ChangingValue = Renaming<TCmdPackageValue, &TGraphicsComponentItem::Value, &TGraphicsComponentItem::SetValue>;
 
 /** Connects packages that are not connected. */
 class Connecting : public PackagesEdit
