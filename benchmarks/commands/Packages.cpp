@@ -1,5 +1,6 @@
 #include "benchmarks/commands/Families.h"
 #include "benchmarks/support/AttributeEdits.h"
+#include "benchmarks/support/BenchItems.h"
 
 #include "properties/commands/TCmdLock.h"
 #include "properties/commands/TCmdPackage.h"
@@ -63,14 +64,6 @@ private:
             ->LinkToFirst(static_cast<TGraphicsPadItem*>(placed->Pads().first()));
         PlaceWire(at + QPointF(arm, 0), Osmirel::CopperBottom);
         return placed;
-    }
-
-    static TGraphicsTextItem* NewText()
-    {
-        auto* text = new TGraphicsTextItem;
-        text->SetLayer(Osmirel::SilkTop);
-        text->Font().setPixelSize(8);
-        return text;
     }
 
     TGraphicsWireItem* PlaceWire(const QPointF& from, Osmirel::Layer layer)
@@ -190,8 +183,7 @@ private:
     QStringList oldTexts;
 };
 
-using ChangingRefDes =
-    Renaming<TCmdPackageRefDes, &TGraphicsComponentItem::RefDes, &TGraphicsComponentItem::SetRefDes>;
+using ChangingRefDes = Renaming<TCmdPackageRefDes, &TGraphicsComponentItem::RefDes, &TGraphicsComponentItem::SetRefDes>;
 using ChangingValue = Renaming<TCmdPackageValue, &TGraphicsComponentItem::Value, &TGraphicsComponentItem::SetValue>;
 
 /** Connects packages that are not connected. */

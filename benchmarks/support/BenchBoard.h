@@ -26,6 +26,13 @@ enum class Kind {
     NetTie,
     NetTieSymbol, ///< Those of a schematic; that they lie on a board makes no difference to a set.
     Package,      ///< Without children.
+    // Kinds of the schematic. That they lie on a board makes no difference to what edits them.
+    NetWire, ///< Of a hundred nets by turns.
+    Bus,
+    Pin, ///< Of no symbol.
+    Port,
+    Part, ///< Without children.
+    Tag,
 };
 
 /** A two-layer board that is shown by a view. */
