@@ -51,11 +51,23 @@ void TGraphicsPortItem::SetName(const QString& newName, const QColor& color)
     SetAltColor(color);
 }
 
+void TGraphicsPortItem::SetAltColor(const QColor& color)
+{
+    if (pin && color != AltColor()) {
+        pin->LinkNode().ColorChanges();
+    }
+    TGraphicsItem::SetAltColor(color);
+}
+
 void TGraphicsPortItem::Carry(const QString& newName, const QColor& color)
 {
     const QString oldName = name;
+    const bool onlyColors = newName == oldName;
+    if (onlyColors && pin && pin->LinkNode().IsColored(newName, color)) {
+        return; // As when all ports of a net are renamed: the first one has done it.
+    }
     const bool isTakenBack =
-        newName != oldName && !carried.isEmpty() && carried.last().from == newName && carried.last().to == oldName;
+        !onlyColors && !carried.isEmpty() && carried.last().from == newName && carried.last().to == oldName;
     const QSet<const TGraphicsItem*> given = isTakenBack ? carried.takeLast().items : QSet<const TGraphicsItem*>();
     Carried now{oldName, newName, {}};
     const QVector<TGraphicsItem*> items = ConnectedItems();
@@ -64,7 +76,7 @@ void TGraphicsPortItem::Carry(const QString& newName, const QColor& color)
         TGraphicsItem* named = port ? port : item;
         const QString namedNow = port ? port->name : item->OwnNet();
         const bool isOfOldName = namedNow == oldName && (!isTakenBack || given.contains(named));
-        if ((port || HasOwnNet(*item)) && isOfOldName && newName != oldName) {
+        if ((port || HasOwnNet(*item)) && isOfOldName && !onlyColors) {
             now.items.insert(named);
             if (port) {
                 port->StoreName(newName);
@@ -77,7 +89,9 @@ void TGraphicsPortItem::Carry(const QString& newName, const QColor& color)
             named->SetAltColor(color);
         }
     }
-    if (newName != oldName && !isTakenBack) {
+    if (onlyColors && pin) {
+        pin->LinkNode().NoteColored(newName, color);
+    } else if (!onlyColors && !isTakenBack) {
         carried.append(now);
     }
 }
