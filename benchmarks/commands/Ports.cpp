@@ -17,8 +17,9 @@ namespace Bench {
 namespace {
 
 /**
- * Ports that are each wired to a part with a single pin, and to the next port of their net, by net wires. The parts'
- * packages have a pad each. Parts above 60 000 share numbers, and packages with them.
+ * Ports without a visible name, each wired to a part with a single pin, and to the next port of its net, by net wires.
+ * Packages of a pad each stand on the board for the first thousand parts: the rat lines of more would take long, though
+ * they are in no figure. Parts above 60 000 share numbers.
  */
 class PortSheet : public ProjectInStep
 {
@@ -26,6 +27,7 @@ public:
     PortSheet(int count, int portsOnANet)
     {
         constexpr int mostComponents = 60'000;
+        constexpr int mostPackages = 1'000;
         for (int number = 0; number < count; ++number) {
             const bool isFirstOfNet = number % portsOnANet == 0;
             if (isFirstOfNet) {
@@ -36,7 +38,7 @@ public:
             TGraphicsPinItem* pin = PlacePart(number, component);
             PlacePort(number, pin, isFirstOfNet ? nullptr : ports.last());
             components.Add(component);
-            if (number < mostComponents) {
+            if (number < mostPackages) {
                 PlacePackage(number, component);
             }
         }
@@ -62,6 +64,7 @@ private:
     {
         const QPointF at = GridPoint(number, pitch) + QPointF(0, pitch / 2);
         auto* port = schematic.Place<TGraphicsPortItem>(at);
+        port->SetNameVisible(false);
         port->SetName(nets.last(), {});
         TGraphicsNetItem* wire = schematic.PlaceWire(at, pin->scenePos(), nets.last());
         wire->LinkToFirst(port->Pin());
