@@ -16,6 +16,9 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+#include <cmath>
+
 namespace Bench {
 
 namespace {
@@ -33,7 +36,7 @@ quint16 ComponentOf(int number, int components)
 class PartSheet : public ProjectInStep
 {
 public:
-    explicit PartSheet(int count)
+    explicit PartSheet(int count) : pairsInARow(1 + static_cast<int>(std::sqrt(count / 2)))
     {
         for (int number = 0; number < count; ++number) {
             const quint16 component = ComponentOf(number, mostComponents);
@@ -43,6 +46,7 @@ public:
                 PlacePackage(number, component);
             }
         }
+        Settle(); // What is new in a scene is found slowly until it has been taken in.
         for (TGraphicsItem* item : qAsConst(parts)) {
             static_cast<TGraphicsPartItem*>(item)->Connect({});
         }
@@ -58,7 +62,7 @@ private:
     {
         constexpr double arm = 30;
         const int side = number % 2 == 0 ? -1 : 1; // Where the wire is.
-        const QPointF at = GridPoint(number / 2, 8 * arm) + QPointF(side * arm, 0);
+        const QPointF at = GridPoint(number / 2, 8 * arm, pairsInARow) + QPointF(side * arm, 0);
         auto* part = schematic.Place<TGraphicsPartItem>(at);
         part->SetComponentNumber(component);
         for (const int end : {1, 2}) {
@@ -81,6 +85,7 @@ private:
     }
 
     static constexpr int mostComponents = 60'000;
+    int pairsInARow; ///< So that the sheet is as high as wide: a scene is searched more slowly along long rows.
 };
 
 /** Connects or disconnects all parts of a sheet. */

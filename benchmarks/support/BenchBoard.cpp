@@ -32,9 +32,8 @@ BenchBoard::BenchBoard(Kind kind, int count)
     Settle();
 }
 
-QPointF GridPoint(int number, double pitch)
+QPointF GridPoint(int number, double pitch, int itemsInARow)
 {
-    constexpr int itemsInARow = 1000;
     return {pitch * (number % itemsInARow), pitch * (number / itemsInARow)}; // NOLINT: a whole row.
 }
 

@@ -73,7 +73,7 @@ private:
 };
 
 /** Where the item of a number lies in a grid. */
-QPointF GridPoint(int number, double pitch = 50);
+QPointF GridPoint(int number, double pitch = 50, int itemsInARow = 1000);
 
 /** The most items of a kind that a board is made of. */
 int MostOf(Kind kind);
