@@ -1,20 +1,28 @@
 #include "workbench/Kinds.h"
 
+#include "properties/sets/TPropertySetForBus.h"
 #include "properties/sets/TPropertySetForHole.h"
 #include "properties/sets/TPropertySetForKeepout.h"
 #include "properties/sets/TPropertySetForMilling.h"
+#include "properties/sets/TPropertySetForNet.h"
 #include "properties/sets/TPropertySetForNetTiePcb.h"
+#include "properties/sets/TPropertySetForNetTieSch.h"
 #include "properties/sets/TPropertySetForOutline.h"
 #include "properties/sets/TPropertySetForPackage.h"
 #include "properties/sets/TPropertySetForPad.h"
+#include "properties/sets/TPropertySetForPart.h"
+#include "properties/sets/TPropertySetForPin.h"
+#include "properties/sets/TPropertySetForPort.h"
 #include "properties/sets/TPropertySetForPour.h"
 #include "properties/sets/TPropertySetForPrimitives.h"
+#include "properties/sets/TPropertySetForTag.h"
 #include "properties/sets/TPropertySetForText.h"
 #include "properties/sets/TPropertySetForVia.h"
 #include "properties/sets/TPropertySetForWire.h"
 #include "workbench/TDesign.h"
 
 #include <application/TBoard.h>
+#include <workspace/TWorkspace.h>
 
 #include <QCoreApplication>
 #include <QHash>
@@ -32,14 +40,18 @@ TLayers OfBoard(const TLayers& layers, TDesign& design)
 {
     TLayers existing;
     std::copy_if(layers.cbegin(), layers.cend(), std::back_inserter(existing),
-                 [&design](Osmirel::Layer layer) { return design.Board().LayerManager()->HasLayer(layer); });
+                 [&design](Osmirel::Layer layer) { return design.Board()->LayerManager()->HasLayer(layer); });
     return existing;
 }
 
-/** The layers that texts and drawings can be moved to: all but those of packages and of the board's edge. */
-TLayers DrawingLayers(TDesign& design)
+/** The layers that texts and drawings can be moved to: all but those of packages and of the board's edge, or the one of
+ *  a page. */
+TLayers DrawingLayers(const TItems& selection, TDesign& design)
 {
-    TLayers layers = design.Board().LayerManager()->Layers();
+    if (selection.first()->Workspace()->Mode() == TWorkspace::SchematicMode) {
+        return {Osmirel::SchematicTexts};
+    }
+    TLayers layers = design.Board()->LayerManager()->Layers();
     for (const Osmirel::Layer other : {Osmirel::PackagesTop, Osmirel::PackagesBottom, Osmirel::BoardOutline}) {
         layers.removeAll(other);
     }
@@ -64,12 +76,19 @@ std::unique_ptr<TPropertySet> MakeProjectSet(const TItems& selection, TDesign& d
 template <class Set>
 std::unique_ptr<TPropertySet> MakeDrawingSet(const TItems& selection, TDesign& design)
 {
-    return std::make_unique<Set>(selection, DrawingLayers(design));
+    return std::make_unique<Set>(selection, DrawingLayers(selection, design));
+}
+
+/** A set that is made of the selection and the schematic. */
+template <class Set>
+std::unique_ptr<TPropertySet> MakeSchematicSet(const TItems& selection, TDesign& design)
+{
+    return std::make_unique<Set>(selection, &design.Schematic());
 }
 
 std::unique_ptr<TPropertySet> MakeSetForVia(const TItems& selection, TDesign& design)
 {
-    return std::make_unique<TPropertySetForVia>(selection, design.Board().ViaGroups());
+    return std::make_unique<TPropertySetForVia>(selection, design.Board()->ViaGroups());
 }
 
 std::unique_ptr<TPropertySet> MakeSetForPad(const TItems& selection, TDesign& design)
@@ -82,12 +101,12 @@ std::unique_ptr<TPropertySet> MakeSetForPad(const TItems& selection, TDesign& de
 std::unique_ptr<TPropertySet> MakeSetForPackage(const TItems& selection, TDesign& design)
 {
     return std::make_unique<TPropertySetForPackage>(
-        selection, OfBoard({Osmirel::PackagesTop, Osmirel::PackagesBottom}, design), &design.Board());
+        selection, OfBoard({Osmirel::PackagesTop, Osmirel::PackagesBottom}, design), design.Board());
 }
 
 std::unique_ptr<TPropertySet> MakeSetForPour(const TItems& selection, TDesign& design)
 {
-    return std::make_unique<TPropertySetForPour>(selection, design.Board().LayerManager()->CopperLayers());
+    return std::make_unique<TPropertySetForPour>(selection, design.Board()->LayerManager()->CopperLayers());
 }
 
 QString Translated(const char* word)
@@ -110,6 +129,7 @@ QString TKind::Plural() const
 const QVector<TKind>& Kinds::All()
 {
     constexpr auto makeSetForPrimitives = MakeDrawingSet<TPropertySetForPrimitives>;
+    constexpr Osmirel::Layer anyLayer = Osmirel::NoLayer;
     // An item is of the first kind that holds it.
     static const QVector<TKind> kinds{
         {ItemType::Wire, QT_TRANSLATE_NOOP("Kinds", "wire"), QT_TRANSLATE_NOOP("Kinds", "wires"),
@@ -129,6 +149,23 @@ const QVector<TKind>& Kinds::All()
          MakeSet<TPropertySetForOutline>},
         {ItemType::Polyline, QT_TRANSLATE_NOOP("Kinds", "milling"), QT_TRANSLATE_NOOP("Kinds", "millings"),
          MakeSet<TPropertySetForMilling>, Osmirel::Milling},
+        {ItemType::Part, QT_TRANSLATE_NOOP("Kinds", "part"), QT_TRANSLATE_NOOP("Kinds", "parts"),
+         MakeSet<TPropertySetForPart>, anyLayer, true},
+        {ItemType::Pin, QT_TRANSLATE_NOOP("Kinds", "pin"), QT_TRANSLATE_NOOP("Kinds", "pins"),
+         MakeSet<TPropertySetForPin>, anyLayer, true},
+        {ItemType::NetWire, QT_TRANSLATE_NOOP("Kinds", "net wire"), QT_TRANSLATE_NOOP("Kinds", "net wires"),
+         MakeSchematicSet<TPropertySetForNet>, anyLayer, true},
+        {ItemType::Port, QT_TRANSLATE_NOOP("Kinds", "port"), QT_TRANSLATE_NOOP("Kinds", "ports"),
+         MakeSchematicSet<TPropertySetForPort>, anyLayer, true},
+        {ItemType::Bus, QT_TRANSLATE_NOOP("Kinds", "bus"), QT_TRANSLATE_NOOP("Kinds", "buses"),
+         MakeSet<TPropertySetForBus>, anyLayer, true},
+        {ItemType::BusEntry, QT_TRANSLATE_NOOP("Kinds", "bus entry"), QT_TRANSLATE_NOOP("Kinds", "bus entries"),
+         nullptr, anyLayer, true},
+        {ItemType::NetTieSch, QT_TRANSLATE_NOOP("Kinds", "net tie symbol"),
+         QT_TRANSLATE_NOOP("Kinds", "net tie symbols"), MakeProjectSet<TPropertySetForNetTieSch>, anyLayer, true},
+        {ItemType::Tag, QT_TRANSLATE_NOOP("Kinds", "tag"), QT_TRANSLATE_NOOP("Kinds", "tags"),
+         MakeProjectSet<TPropertySetForTag>, anyLayer, true},
+        {ItemType::Junction, QT_TRANSLATE_NOOP("Kinds", "junction"), QT_TRANSLATE_NOOP("Kinds", "junctions"), nullptr},
         {ItemType::Text, QT_TRANSLATE_NOOP("Kinds", "text"), QT_TRANSLATE_NOOP("Kinds", "texts"),
          MakeDrawingSet<TPropertySetForText>},
         {ItemType::Line, QT_TRANSLATE_NOOP("Kinds", "line"), QT_TRANSLATE_NOOP("Kinds", "lines"), makeSetForPrimitives},
@@ -174,7 +211,7 @@ const TKind* Kinds::OfFirst(const QList<TGraphicsItem*>& selection)
 std::unique_ptr<TPropertySet> Kinds::MakePropertySet(const QList<TGraphicsItem*>& selection, TDesign& design)
 {
     const TKind* kind = OfFirst(selection);
-    return kind ? kind->makeSet(selection, design) : nullptr;
+    return kind && kind->makeSet ? kind->makeSet(selection, design) : nullptr;
 }
 
 QString Kinds::Summary(const QList<TGraphicsItem*>& items)

@@ -10,7 +10,7 @@
 class TDesign;
 class TPropertySet;
 
-/** What the workbench knows of a kind of items: what users call it, and the set that edits it. */
+/** What the workbench knows of a kind of items: what users call it, and the set that edits it, null for none. */
 struct TKind
 {
     ItemType::Number type = ItemType::Line;
@@ -18,6 +18,7 @@ struct TKind
     const char* many = "";
     std::unique_ptr<TPropertySet> (*makeSet)(const QList<TGraphicsItem*>& selection, TDesign& design) = nullptr;
     Osmirel::Layer only = Osmirel::NoLayer; ///< The layer that makes the kind what it is, if one does.
+    bool isOfPages = false;                 ///< Found on pages only, and not on a board.
 
     bool Holds(const TGraphicsItem& item) const;
     /** The kind's word for more than one, translated. */
@@ -26,10 +27,10 @@ struct TKind
 
 namespace Kinds {
 
-/** The kinds that can be edited, in the order of menus and counts. */
+/** The kinds that can be selected, in the order of menus and counts. */
 const QVector<TKind>& All();
 
-/** The kind of an item; null if it has no set. */
+/** The kind of an item; null for one that nobody selects as such. */
 const TKind* Of(const TGraphicsItem& item);
 
 /** The word for an item on a command line: that of its kind, in one word. */
@@ -38,7 +39,7 @@ QString Word(const TGraphicsItem& item);
 /** Such as "784 vias"; items of several kinds are just "items". */
 QString Counted(int count, const TKind* kind);
 
-/** The kind of the first item, null if there is no item or its kind has no set. */
+/** The kind of the first item, null if there is none. */
 const TKind* OfFirst(const QList<TGraphicsItem*>& selection);
 
 /** The set for the kind of the first item, made with the whole selection; null if there is none. */

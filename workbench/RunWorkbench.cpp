@@ -1,6 +1,7 @@
 #include "workbench/RunWorkbench.h"
 
-#include "workbench/LoadBoard.h"
+#include "workbench/importer/ProjectImporter.h"
+#include "workbench/LoadDesign.h"
 #include "workbench/session/RunSteps.h"
 #include "workbench/session/Tour.h"
 #include "workbench/session/TSession.h"
@@ -62,19 +63,19 @@ int Fail(const QString& cause, QTextStream& messages)
     return exitCodeOfErrors;
 }
 
-/** Opens the board that the command line names, shows the window and does what else there is to do. */
+/** Opens the design that the command line names, shows the window and does what else there is to do. */
 int Work(const TCommandLine& line, bool forPerson, const TStreams& streams)
 {
-    const QString file = line.file.isEmpty() ? SampleBoardFile() : line.file;
-    const QString name = line.file.isEmpty() ? QStringLiteral("sample board") : QFileInfo(file).fileName();
+    const QString file = line.file.isEmpty() ? SampleProjectFile() : line.file;
+    const QString name = line.file.isEmpty() ? QStringLiteral("sample project") : QFileInfo(file).fileName();
     QElapsedTimer timer;
     timer.start();
     if (!forPerson) {
         streams.messages << "reading " << name << '\n';
         streams.messages.flush();
     }
-    TImportResult result = forPerson ? LoadBoardWithDialog(file, nullptr) : ImportBoard(file);
-    if (!result.board) {
+    TImportResult result = forPerson ? LoadDesignWithDialog(file, nullptr) : ImportDesign(file);
+    if (!HasDesign(result)) {
         return result.cancelled ? 0 : Fail(result.error, streams.messages);
     }
     for (const QString& notice : Notices(result)) {
@@ -84,7 +85,7 @@ int Work(const TCommandLine& line, bool forPerson, const TStreams& streams)
 
     TMainWindow window;
     window.resize(1400, 900);
-    window.ShowBoard(std::move(result), name);
+    window.ShowDesign(std::move(result), name);
     window.show();
     if (forPerson) {
         return QApplication::exec();

@@ -69,7 +69,7 @@ void TCanvas::Show(QGraphicsScene* newScene)
 {
     setScene(newScene);
     content = newScene ? newScene->itemsBoundingRect() : QRectF();
-    // Room on all sides, so that every point of the board can be brought to every point of the view.
+    // Room on all sides, so that every point of the document can be brought to every point of the view.
     const double room = std::max(content.width(), content.height()) + 100;
     setSceneRect(content.adjusted(-room, -room, room, room));
     FitAll();
@@ -102,6 +102,24 @@ void TCanvas::FitSelection()
         Fit(area);
         showsAll = false;
     }
+}
+
+void TCanvas::Reveal(const QGraphicsItem& item)
+{
+    constexpr double fewestPixels = 60;
+    constexpr double partOfView = 0.25;
+    const QRectF area = item.sceneBoundingRect();
+    const QRectF view = mapToScene(viewport()->rect()).boundingRect();
+    const double pixels = std::max(area.width(), area.height()) * transform().m11();
+    const bool isTooLarge = area.width() > view.width() || area.height() > view.height();
+    if (pixels < fewestPixels || isTooLarge) {
+        const double wanted = partOfView * std::min(viewport()->width(), viewport()->height());
+        ZoomBy(wanted / std::max(pixels, 1.0), viewport()->rect().center());
+    }
+    if (!mapToScene(viewport()->rect()).boundingRect().contains(area)) {
+        centerOn(area.center());
+    }
+    showsAll = false;
 }
 
 void TCanvas::ZoomIn()

@@ -3,8 +3,8 @@
 #include <QGraphicsView>
 
 /**
- * Shows a board on a dark ground with a grid of millimetres. The wheel zooms around the cursor, the middle button
- * pans, the left one selects.
+ * Shows a board or a page on a dark ground with a grid of millimetres. The wheel zooms around the cursor, the middle
+ * button pans, the left one selects.
  */
 class TCanvas : public QGraphicsView
 {
@@ -15,6 +15,9 @@ public:
 
     /** Shows a scene, all of it, or nothing. */
     void Show(QGraphicsScene* newScene);
+
+    /** Brings an item into view, near enough to be seen. */
+    void Reveal(const QGraphicsItem& item);
 
 public slots:
     /** Zooms so that everything, or what is selected, can be seen. */

@@ -3,22 +3,50 @@
 #include "workbench/importer/BoardImporter.h"
 
 #include <application/TProject.h>
+#include <application/TProjectTree.h>
 #include <application/TSchematic.h>
 
-/** The design that is edited: a board, the nets that go with it, and the project that they make. */
+/** What one tab shows: the board, or a page of the schematic. A plain value; what it points to is the design's. */
+struct TDocument
+{
+    int page = 0; ///< The page's number, 0 for the board.
+    TItemScene* scene = nullptr;
+    TWorkspace* workspace = nullptr;
+
+    bool IsBoard() const { return page == 0; }
+};
+
+/** The design that is edited: a board, a schematic, or both, the project that they make, and the tree that shows it. */
 class TDesign
 {
 public:
-    /** Takes over what was read; there must be a board. Without a schematic the nets are empty. */
+    /** Takes over what was read: a board, a schematic with pages, or both. Without a schematic the nets are empty. */
     explicit TDesign(TImportResult result);
     ~TDesign();
     TDesign(const TDesign&) = delete;
     TDesign& operator=(const TDesign&) = delete;
 
-    TBoard& Board() const { return *board; }
+    /** Null if only a schematic was read. */
+    TBoard* Board() const { return board.get(); }
+    TSchematic& Schematic() { return *schematic; }
     TProject& Project() { return project; }
+    /** Owned by the design, whatever widget shows it. */
+    TProjectTree& Tree() const { return *tree; }
 
-    /** The state of every item of the board, then of every net, one line each. */
+    /** The board, if there is one, then the pages in the order of their numbers. */
+    QVector<TDocument> Documents() const;
+    /** What the user calls a document: a page as the tree does. */
+    QString NameOf(const TDocument& document) const;
+    /** All items that stand in a document now. */
+    QList<TGraphicsItem*> ItemsOf(const TDocument& document) const;
+
+    /** Opens the symbol of a component for editing, in place of the one that is open; null closes that. */
+    void OpenSymbol(TPart* part);
+    /** The part whose symbol is open, null if none is. */
+    TPart* OpenPart() const { return openPart; }
+
+    /** The state of every item of the board, of the pages, of every net and component, of the tree and of the values
+     *  that tags show, one line each. */
     QString Dump() const;
 
     /** Shows or hides the designators, or the values, of all packages. */
@@ -26,7 +54,11 @@ public:
     void ShowValues(bool on);
 
 private:
+    void FillTree(const QStringList& pageNames);
+
     std::unique_ptr<TSchematic> schematic;
     std::unique_ptr<TBoard> board;
     TProject project; // Points to both.
+    std::unique_ptr<TProjectTree> tree;
+    TPart* openPart = nullptr;
 };

@@ -3,61 +3,58 @@
 #include "properties/TPropertyWidget.h"
 #include "workbench/DesignActions.h"
 #include "workbench/Kinds.h"
-#include "workbench/LoadBoard.h"
+#include "workbench/LoadDesign.h"
+#include "workbench/Picking.h"
 #include "workbench/TCanvas.h"
 #include "workbench/TDesign.h"
+#include "workbench/TDocumentTabs.h"
 #include "workbench/Theme.h"
 #include "workbench/TLayerList.h"
+#include "workbench/TMenus.h"
+#include "workbench/TNavigation.h"
+#include "workbench/TProjectDock.h"
 #include "workbench/TPropertyEditing.h"
 #include "workbench/TSelection.h"
+#include "workbench/TStatusLine.h"
 #include "workbench/TUndoKeys.h"
 
 #include <application/TBoard.h>
 #include <application/TUndoCommand.h>
 
-#include <QActionGroup>
 #include <QApplication>
 #include <QDockWidget>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QStatusBar>
 #include <QUndoStack>
 #include <QUndoView>
 
-namespace {
-
-/** Shows as much of a text as the status bar has room for, and all of it as a tool tip. */
-void ShowShortened(QLabel& label, const QString& text)
-{
-    constexpr int widest = 460;
-    label.setText(label.fontMetrics().elidedText(text, Qt::ElideRight, widest));
-    label.setToolTip(text);
-}
-
-} // namespace
-
 TMainWindow::TMainWindow(QWidget* parent)
-    : QMainWindow(parent), undoStack(new QUndoStack(this)), selection(new TSelection(this)), canvas(new TCanvas(this))
+    : QMainWindow(parent),
+      undoStack(new QUndoStack(this)),
+      selection(new TSelection(this)),
+      tabs(new TDocumentTabs(this)),
+      statusLine(new TStatusLine(*statusBar()))
 {
     setWindowTitle(tr("Workbench"));
-    setCentralWidget(canvas);
+    setCentralWidget(tabs);
     MakeDocks();
+    // Made first, it has opened what a command asks for when the panel is brought up to date.
+    navigation = std::make_unique<TNavigation>(*tabs, *undoStack);
     editing = std::make_unique<TPropertyEditing>(*panel, *selection, *undoStack);
-    MakeMenus();
-    MakeStatusBar();
+    menus = new TMenus(*menuBar(), *undoStack, docks);
     Connect();
+    ConnectMenus();
     qApp->installEventFilter(new TUndoKeys(this));
-    canvas->setFocus();
 }
 
 TMainWindow::~TMainWindow()
 {
-    DropBoard();
+    DropDesign();
 }
 
 void TMainWindow::MakeDocks()
@@ -71,6 +68,11 @@ void TMainWindow::MakeDocks()
     };
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+
+    projectDock = new TProjectDock(this);
+    projectDock->setObjectName(QStringLiteral("project"));
+    addDockWidget(Qt::LeftDockWidgetArea, projectDock);
+    docks.append(projectDock);
 
     QDockWidget* layersDock = addDock(Qt::LeftDockWidgetArea, tr("Layers"), "layers");
     layerList = new TLayerList(layersDock);
@@ -92,154 +94,111 @@ void TMainWindow::MakeDocks()
     resizeDocks({panelDock, historyDock}, {460, 300}, Qt::Vertical);
 }
 
-void TMainWindow::MakeMenus()
-{
-    MakeFileMenu();
-    MakeEditMenu();
-    MakeDesignMenu();
-    MakeViewMenu();
-    MakeLanguageMenu();
-}
-
-void TMainWindow::MakeFileMenu()
-{
-    QMenu* menu = menuBar()->addMenu(tr("&File"));
-    menu->addAction(tr("&Open…"), this, &TMainWindow::slotOpen, QKeySequence::Open);
-    menu->addSeparator();
-    menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
-}
-
-void TMainWindow::MakeEditMenu()
-{
-    QMenu* menu = menuBar()->addMenu(tr("&Edit"));
-    QAction* undo = undoStack->createUndoAction(this);
-    undo->setShortcuts(QKeySequence::Undo);
-    QAction* redo = undoStack->createRedoAction(this);
-    redo->setShortcuts(QKeySequence::Redo);
-    menu->addActions({undo, redo});
-    menu->addSeparator();
-    QAction* all = menu->addAction(tr("Select &all"), this, &TMainWindow::slotSelectAll, QKeySequence::SelectAll);
-    all->setShortcutContext(Qt::WidgetShortcut); // In an editor the key selects its text.
-    canvas->addAction(all);
-    for (const TKind& kind : Kinds::All()) {
-        menu->addAction(tr("Select all %1").arg(kind.Plural()), this, [this, &kind] { slotSelectKind(kind); });
-    }
-}
-
-void TMainWindow::MakeDesignMenu()
-{
-    QMenu* menu = menuBar()->addMenu(tr("&Design"));
-    for (const TDesignAction& action : DesignActions::All()) {
-        QAction* entry = menu->addAction(action.MenuText(), this, [this, &action] { slotAction(action); });
-        entry->setShortcut(QString::fromLatin1(action.key));
-        entry->setShortcutContext(Qt::WidgetShortcut);
-        canvas->addAction(entry);
-    }
-    menu->addSeparator();
-    designators = menu->addAction(tr("Show d&esignators"));
-    values = menu->addAction(tr("Show v&alues"));
-    for (QAction* shown : {designators, values}) {
-        shown->setCheckable(true);
-    }
-    connect(designators, &QAction::toggled, this, &TMainWindow::slotDesignators);
-    connect(values, &QAction::toggled, this, &TMainWindow::slotValues);
-}
-
-void TMainWindow::MakeViewMenu()
-{
-    QMenu* menu = menuBar()->addMenu(tr("&View"));
-    // These keys belong to the canvas: in an editor they mean something else.
-    const auto add = [this, menu](const QString& text, void (TCanvas::*slot)(), const QList<QKeySequence>& keys) {
-        QAction* action = menu->addAction(text, canvas, slot);
-        action->setShortcuts(keys);
-        action->setShortcutContext(Qt::WidgetShortcut);
-        canvas->addAction(action);
-    };
-    add(tr("Zoom to &fit"), &TCanvas::FitAll, {Qt::Key_F, Qt::Key_Home});
-    add(tr("Zoom to &selection"), &TCanvas::FitSelection, {QKeySequence(QStringLiteral("Shift+F"))});
-    add(tr("Zoom &in"), &TCanvas::ZoomIn, {Qt::Key_Plus, QKeySequence(QKeySequence::ZoomIn)});
-    add(tr("Zoom &out"), &TCanvas::ZoomOut, {Qt::Key_Minus, QKeySequence(QKeySequence::ZoomOut)});
-    menu->addSeparator();
-    for (const QDockWidget* dock : qAsConst(docks)) {
-        menu->addAction(dock->toggleViewAction());
-    }
-}
-
-void TMainWindow::MakeLanguageMenu()
-{
-    QMenu* menu = menuBar()->addMenu(tr("&Language"));
-    auto* group = new QActionGroup(menu);
-    for (const QString& code : TLanguages::Available()) {
-        QAction* action =
-            menu->addAction(TLanguages::NameOf(code), &languages, [this, code] { languages.Switch(code); });
-        action->setCheckable(true);
-        action->setChecked(code == languages.Current());
-        group->addAction(action);
-    }
-}
-
-void TMainWindow::MakeStatusBar()
-{
-    const auto add = [this](bool permanent) {
-        auto* label = new QLabel(this);
-        label->setContentsMargins(6, 0, 6, 0);
-        permanent ? statusBar()->addPermanentWidget(label) : statusBar()->addWidget(label);
-        return label;
-    };
-    content = add(false);
-    notice = add(false);
-    selected = add(true);
-    position = add(true);
-    position->setMinimumWidth(position->fontMetrics().horizontalAdvance(QStringLiteral("-0000.000, -0000.000 mm"))
-                              + 12);
-    position->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-}
-
 void TMainWindow::Connect()
 {
-    connect(canvas, &TCanvas::sigGestureBegun, selection, &TSelection::BeginGesture);
-    connect(canvas, &TCanvas::sigGestureEnded, selection, &TSelection::EndGesture);
-    connect(canvas, &TCanvas::sigKey, editing.get(), &TPropertyEditing::ForwardKey);
-    connect(canvas, &TCanvas::sigCursorMoved, this, &TMainWindow::slotCursorMoved);
     connect(editing.get(), &TPropertyEditing::sigSetShown, this, &TMainWindow::slotSetShown);
     connect(layerList, &TLayerList::sigVisibilityChanged, this, &TMainWindow::slotLayerVisibility);
-    connect(&languages, &TLanguages::sigSwitched, this, &TMainWindow::slotLanguage);
+    connect(&menus->Languages(), &TLanguages::sigSwitched, this, &TMainWindow::slotLanguage);
+    connect(tabs, &TDocumentTabs::sigShown, this, &TMainWindow::slotDocumentShown);
+    TNavigation* user = navigation.get();
+    connect(projectDock, &TProjectDock::sigOpenPage, user, &TNavigation::OpenPage);
+    connect(projectDock, &TProjectDock::sigOpenPart, user, &TNavigation::OpenPart);
+    connect(projectDock, &TProjectDock::sigCloseSymbol, user, &TNavigation::CloseSymbol);
+    connect(projectDock, &TProjectDock::sigRenamePage, user, &TNavigation::RenamePage);
+    connect(projectDock, &TProjectDock::sigRenamePart, user, &TNavigation::RenamePart);
 }
 
-void TMainWindow::DropBoard()
+void TMainWindow::ConnectMenus()
 {
-    // From the top down: the set's rows and the commands point to items, the items to the board.
+    connect(menus, &TMenus::sigOpen, this, &TMainWindow::slotOpen);
+    connect(menus, &TMenus::sigQuit, this, &QWidget::close);
+    connect(menus, &TMenus::sigSelect, this, &TMainWindow::slotSelect);
+    connect(menus, &TMenus::sigEditMenuOpens, this, [this] { menus->OfferKindsOf(Picking::Selectable(ShownItems())); });
+    connect(menus, &TMenus::sigAction, this, &TMainWindow::slotAction);
+    connect(menus, &TMenus::sigCloseSymbol, navigation.get(), &TNavigation::CloseSymbol);
+    connect(menus, &TMenus::sigDesignators, this, &TMainWindow::slotDesignators);
+    connect(menus, &TMenus::sigValues, this, &TMainWindow::slotValues);
+    connect(menus, &TMenus::sigView, this, [this](TMenus::TViewChange change) {
+        if (design) {
+            (Canvas().*change)();
+        }
+    });
+}
+
+void TMainWindow::ConnectCanvas(const TCanvas& canvas)
+{
+    connect(&canvas, &TCanvas::sigGestureBegun, selection, &TSelection::BeginGesture);
+    connect(&canvas, &TCanvas::sigGestureEnded, selection, &TSelection::EndGesture);
+    connect(&canvas, &TCanvas::sigKey, editing.get(), &TPropertyEditing::ForwardKey);
+    connect(&canvas, &TCanvas::sigCursorMoved, this, &TMainWindow::slotCursorMoved);
+}
+
+void TMainWindow::DropDesign()
+{
+    // From the top down: the set's rows and the commands point to items, the items to their document.
     editing->SetDesign(nullptr);
     selection->SetScene(nullptr);
     undoStack->clear();
+    navigation->SetDesign(nullptr);
     layerList->SetLayers(nullptr);
-    canvas->Show(nullptr);
+    projectDock->SetTree(nullptr);
+    tabs->SetDesign(nullptr);
     design.reset();
 }
 
-void TMainWindow::ShowBoard(TImportResult result, const QString& name)
+void TMainWindow::ShowDesign(TImportResult result, const QString& name)
 {
-    DropBoard();
+    DropDesign();
     const QStringList notices = Notices(result);
     design = std::make_unique<TDesign>(std::move(result));
-    TBoard& board = design->Board();
-    board.SetView(canvas);
-    canvas->Show(board.Scene());
-    layerList->SetLayers(board.LayerManager());
-    selection->SetScene(board.Scene());
+    tabs->SetDesign(design.get());
+    const QList<TCanvas*> canvases = tabs->Canvases();
+    for (TCanvas* canvas : canvases) {
+        ConnectCanvas(*canvas);
+        canvas->addActions(menus->CanvasActions());
+    }
+    projectDock->SetTree(&design->Tree());
+    projectDock->setVisible(!design->Tree().Pages().isEmpty());
+    connect(&design->Tree(), &QTreeWidget::itemChanged, tabs, &TDocumentTabs::UpdateNames);
+    navigation->SetDesign(design.get());
     editing->SetDesign(design.get());
-    const QSignalBlocker designatorsBlocker(designators);
-    const QSignalBlocker valuesBlocker(values);
-    designators->setChecked(board.RefDesVisible());
-    values->setChecked(board.ValuesVisible());
+
+    menus->TakeBoard(design->Board());
     setWindowTitle(tr("%1 – Workbench").arg(name));
-    ShowShortened(*content, Kinds::Summary(board.Items()));
-    ShowShortened(*notice, notices.join(QStringLiteral("; ")));
+    statusLine->ShowNotices(notices);
+    slotDocumentShown();
+    Canvas().setFocus();
+}
+
+void TMainWindow::slotDocumentShown()
+{
+    if (!design) {
+        return;
+    }
+    if (panel->isAncestorOf(QApplication::focusWidget())) {
+        Canvas().setFocus(); // What is half typed belongs to the document that was shown.
+    }
+    const TDocument& document = tabs->Document();
+    layerList->SetLayers(&document.workspace->Layers());
+    selection->SetScene(document.scene);
+    SelectOnlyVisible();
+    editing->ShowSelection();
+    statusLine->ShowContent(Kinds::Summary(Picking::Selectable(ShownItems())));
 }
 
 TBoard* TMainWindow::Board() const
 {
-    return design ? &design->Board() : nullptr;
+    return design ? design->Board() : nullptr;
+}
+
+TCanvas& TMainWindow::Canvas() const
+{
+    return tabs->Canvas();
+}
+
+QList<TGraphicsItem*> TMainWindow::ShownItems() const
+{
+    return design ? design->ItemsOf(tabs->Document()) : QList<TGraphicsItem*>();
 }
 
 bool TMainWindow::Do(const TDesignAction& action, const QString& text, const QPointF& point)
@@ -257,28 +216,44 @@ bool TMainWindow::Do(const TDesignAction& action, const QString& text, const QPo
 
 void TMainWindow::slotAction(const TDesignAction& action)
 {
+    constexpr int shownForMilliseconds = 5000;
     QString text;
-    if (action.asks == TDesignAction::Asks::Text) {
-        bool accepted = false;
-        text = QInputDialog::getText(this, tr("Design"), action.Question(), QLineEdit::Normal, QString(), &accepted);
-        if (!accepted) {
-            return;
-        }
-    }
-    if (!Do(action, text, cursor)) {
-        constexpr int shownForMilliseconds = 5000;
+    QPointF point = cursor;
+    if (AskFor(action, text, point) && !Do(action, text, point)) {
         statusBar()->showMessage(tr("Select %1 first").arg(action.Needs()), shownForMilliseconds);
     }
 }
 
+bool TMainWindow::AskFor(const TDesignAction& action, QString& text, QPointF& point)
+{
+    using Asks = TDesignAction::Asks;
+    if (action.asks == Asks::Nothing || action.asks == Asks::Point) {
+        return true;
+    }
+    bool accepted = false;
+    text =
+        action.asks == Asks::Level
+            ? QInputDialog::getItem(this, tr("Design"), action.Question(), DesignActions::Levels(), 0, false, &accepted)
+            : QInputDialog::getText(this, tr("Design"), action.Question(), QLineEdit::Normal, QString(), &accepted);
+    if (accepted && action.AsksForNumbers()) {
+        const std::optional<QPointF> numbers = DesignActions::ParseNumbers(action.asks, text);
+        if (!numbers) {
+            QMessageBox::warning(this, tr("Design"), tr("\"%1\" is not understood: %2").arg(text, action.Question()));
+        }
+        point = numbers.value_or(point);
+        accepted = numbers.has_value();
+    }
+    return accepted;
+}
+
 void TMainWindow::ShowDesignators(bool on)
 {
-    designators->setChecked(on);
+    menus->TickDesignators(on);
 }
 
 void TMainWindow::ShowValues(bool on)
 {
-    values->setChecked(on);
+    menus->TickValues(on);
 }
 
 void TMainWindow::slotDesignators(bool on)
@@ -297,9 +272,9 @@ void TMainWindow::slotValues(bool on)
 
 void TMainWindow::OpenFile(const QString& file)
 {
-    TImportResult result = LoadBoardWithDialog(file, this);
-    if (result.board) {
-        ShowBoard(std::move(result), QFileInfo(file).fileName());
+    TImportResult result = LoadDesignWithDialog(file, this);
+    if (HasDesign(result)) {
+        ShowDesign(std::move(result), QFileInfo(file).fileName());
     } else if (!result.cancelled) {
         QMessageBox::warning(this, tr("Open"), result.error);
     }
@@ -307,26 +282,20 @@ void TMainWindow::OpenFile(const QString& file)
 
 void TMainWindow::slotOpen()
 {
-    const QString file = QFileDialog::getOpenFileName(this, tr("Open"), QString(), tr("Boards (*.kicad_pcb)"));
+    const QString file = QFileDialog::getOpenFileName(
+        this, tr("Open"), QString(),
+        tr("Designs (*.kicad_pro *.kicad_sch *.kicad_pcb);;Projects (*.kicad_pro);;Schematics (*.kicad_sch);;"
+           "Boards (*.kicad_pcb)"));
     if (!file.isEmpty()) {
         OpenFile(file);
     }
 }
 
-void TMainWindow::slotSelectKind(const TKind& kind)
-{
-    SelectVisible(&kind);
-}
-
-void TMainWindow::slotSelectAll()
-{
-    SelectVisible(nullptr);
-}
-
-void TMainWindow::SelectVisible(const TKind* kind)
+void TMainWindow::slotSelect(const TKind* kind)
 {
     QList<TGraphicsItem*> items;
-    for (TGraphicsItem* item : design ? design->Board().Items() : QList<TGraphicsItem*>()) {
+    const QList<TGraphicsItem*> shown = ShownItems();
+    for (TGraphicsItem* item : shown) {
         if ((!kind || kind->Holds(*item)) && item->IsOnVisibleLayer()) {
             items.append(item);
         }
@@ -334,7 +303,7 @@ void TMainWindow::SelectVisible(const TKind* kind)
     selection->Select(items);
 }
 
-void TMainWindow::slotLayerVisibility()
+void TMainWindow::SelectOnlyVisible()
 {
     QList<TGraphicsItem*> visible;
     for (TGraphicsItem* item : selection->Items()) {
@@ -345,7 +314,15 @@ void TMainWindow::slotLayerVisibility()
     if (visible.size() != selection->Items().size()) {
         selection->Select(visible);
     }
-    canvas->viewport()->update();
+}
+
+void TMainWindow::slotLayerVisibility()
+{
+    SelectOnlyVisible();
+    const QList<TCanvas*> canvases = tabs->Canvases(); // Pages have their layers in common.
+    for (const TCanvas* canvas : canvases) {
+        canvas->viewport()->update();
+    }
 }
 
 void TMainWindow::slotLanguage()
@@ -356,18 +333,13 @@ void TMainWindow::slotLanguage()
 
 void TMainWindow::slotSetShown()
 {
-    const QString summary = Kinds::Summary(selection->Items());
-    selected->setText(summary.isEmpty() ? tr("Nothing selected") : tr("Selected: %1").arg(summary));
+    statusLine->ShowSelected(Kinds::Summary(selection->Items()));
 }
 
 void TMainWindow::slotCursorMoved(const QPointF& scenePoint)
 {
     cursor = scenePoint;
     if (design) {
-        const TWorkspace& workspace = *design->Board().Workspace();
-        position->setText(QStringLiteral("%1, %2 %3")
-                              .arg(workspace.ValueFromScene(scenePoint.x()), 0, 'f', 3)
-                              .arg(workspace.ValueFromScene(scenePoint.y()), 0, 'f', 3)
-                              .arg(workspace.CurrentUnitStr()));
+        statusLine->ShowPosition(scenePoint, *tabs->Document().workspace);
     }
 }

@@ -1,27 +1,30 @@
 #pragma once
 
-#include "workbench/TLanguages.h"
-
 #include <QMainWindow>
 #include <QPointF>
 
 #include <memory>
 
-class QLabel;
 class QUndoStack;
 class TBoard;
 class TCanvas;
 class TDesign;
+class TDocumentTabs;
 class TGraphicsItem;
 class TLayerList;
+class TMenus;
+class TNavigation;
+class TProjectDock;
 class TPropertyEditing;
 class TPropertyWidget;
 class TSelection;
+class TStatusLine;
 struct TDesignAction;
 struct TImportResult;
 struct TKind;
 
-/** The workbench's window: a board on a canvas, and around it the panel, the undo history and the layers. */
+/** The workbench's window: a design on its tabs, and around it the project, the panel, the undo history and the layers.
+ */
 class TMainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -30,17 +33,22 @@ public:
     explicit TMainWindow(QWidget* parent = nullptr);
     ~TMainWindow() override;
 
-    /** Shows the board of @p result, which must have one; the board shown before, its panel and its history go. */
-    void ShowBoard(TImportResult result, const QString& name);
+    /** Shows what was read, a board or pages at least; the design shown before, its panel and its history go. */
+    void ShowDesign(TImportResult result, const QString& name);
 
     /** Null before the first one is shown. */
-    TBoard* Board() const;
     TDesign* Design() const { return design.get(); }
+    /** The design's board, null if it has none. */
+    TBoard* Board() const;
+    TDocumentTabs& Tabs() const { return *tabs; }
+    TNavigation& Navigation() const { return *navigation; }
+    /** What is selected in the document that is shown. */
     TSelection& Selection() const { return *selection; }
     QUndoStack& UndoStack() const { return *undoStack; }
     TPropertyEditing& Editing() const { return *editing; }
     TPropertyWidget& Panel() const { return *panel; }
-    TCanvas& Canvas() const { return *canvas; }
+    /** The canvas of the document that is shown; only with a design. */
+    TCanvas& Canvas() const;
     TLayerList& Layers() const { return *layerList; }
 
     /** Does something with what is selected; false if the selection does not suit it, or nothing is shown. The point
@@ -57,8 +65,8 @@ public slots:
 
 private slots:
     void slotOpen();
-    void slotSelectKind(const TKind& kind);
-    void slotSelectAll();
+    void slotDocumentShown();
+    void slotSelect(const TKind* kind);
     void slotLayerVisibility();
     void slotLanguage();
     void slotSetShown();
@@ -69,34 +77,28 @@ private slots:
 
 private:
     void MakeDocks();
-    void MakeMenus();
-    void MakeFileMenu();
-    void MakeEditMenu();
-    void MakeDesignMenu();
-    void MakeViewMenu();
-    void MakeLanguageMenu();
-    void MakeStatusBar();
     void Connect();
-    void DropBoard();
-    void SelectVisible(const TKind* kind);
+    void ConnectMenus();
+    void ConnectCanvas(const TCanvas& canvas);
+    void DropDesign();
+    QList<TGraphicsItem*> ShownItems() const;
+    void SelectOnlyVisible();
+    bool AskFor(const TDesignAction& action, QString& text, QPointF& point);
 
     std::unique_ptr<TDesign> design;
-    TLanguages languages;
 
     // Owned by their parents, this window or one of its docks.
     QUndoStack* undoStack;
     TSelection* selection;
-    TCanvas* canvas;
+    TDocumentTabs* tabs;
+    TStatusLine* statusLine;
+    TMenus* menus = nullptr;
     TPropertyWidget* panel = nullptr;
     TLayerList* layerList = nullptr;
+    TProjectDock* projectDock = nullptr;
     QList<QDockWidget*> docks;
-    QAction* designators = nullptr;
-    QAction* values = nullptr;
-    QLabel* content = nullptr;
-    QLabel* notice = nullptr;
-    QLabel* selected = nullptr;
-    QLabel* position = nullptr;
 
+    std::unique_ptr<TNavigation> navigation;
     std::unique_ptr<TPropertyEditing> editing;
-    QPointF cursor; ///< Where it was last above the canvas, in scene units.
+    QPointF cursor; ///< Where it was last above a canvas, in scene units.
 };

@@ -18,14 +18,18 @@ TSelection::TSelection(QObject* parent) : QObject(parent)
 void TSelection::SetScene(QGraphicsScene* newScene)
 {
     if (scene) {
+        ofOthers.insert(scene, Items());
         scene->disconnect(this);
+    }
+    if (!newScene) {
+        ofOthers.clear();
     }
     scene = newScene;
     if (scene) {
         connect(scene, &QGraphicsScene::selectionChanged, this, &TSelection::slotSceneChanged);
     }
     timer.stop();
-    ordered.clear();
+    ordered = ofOthers.take(scene);
     outdated = true;
     unreported = false;
     inGesture = false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -21,7 +22,8 @@ class TSelection : public QObject
 public:
     explicit TSelection(QObject* parent = nullptr);
 
-    /** Follows another scene, or none; what it has selected is not reported. */
+    /** Follows another scene; what it has selected is not reported. A scene that is left keeps its selection, in its
+     *  order, until none is followed. */
     void SetScene(QGraphicsScene* newScene);
 
     /** The items that are selected now, those of a gesture that goes on too. None of them is deleted. */
@@ -48,6 +50,7 @@ private:
     QPointer<QGraphicsScene> scene;
     QTimer timer;
     QList<TGraphicsItem*> ordered;
+    QHash<const QGraphicsScene*, QList<TGraphicsItem*>> ofOthers; ///< The order in scenes that were left.
     bool outdated = false; ///< The scene has changed since the items were put in order.
     bool unreported = false;
     bool inGesture = false;

@@ -85,7 +85,10 @@ void TBoard::UpdatePadNets(const QList<unsigned short>& componentNumbers)
     for (TGraphicsItem* item : items) {
         auto* pad = dynamic_cast<TGraphicsPadItem*>(item);
         const auto* package = pad ? dynamic_cast<TGraphicsPackageItem*>(pad->parentItem()) : nullptr;
-        const auto net = package ? nets.constFind({package->ComponentNumber(), pad->Number()}) : nets.cend();
+        if (!package) {
+            continue;
+        }
+        const auto net = nets.constFind({package->ComponentNumber(), pad->Number()});
         if (net != nets.cend()) {
             pad->SetNet(*net);
         }

@@ -36,6 +36,7 @@ double StandardLength(TGraphicsPinItem::TypePinLength length)
 TGraphicsPinItem::TGraphicsPinItem(QGraphicsItem* parent)
     : TGraphicsItem(parent), numberText(new TGraphicsTextItem(this)), symbolLength(StandardLength(LengthMiddle))
 {
+    setFlag(ItemSendsGeometryChanges); // Name and number are to stay readable.
     SetLayer(Osmirel::SchematicSymbols);
     numberText->SetLayer(Osmirel::SchematicSymbols);
     numberText->SetVector(false);
@@ -95,7 +96,13 @@ void TGraphicsPinItem::UpdateNumberPos()
     }
     const bool turned = Shapes::IsOnItsHead(rotation());
     numberText->setPos(LineLength() / 2, turned ? numberAboveLine : -numberAboveLine);
-    numberText->setRotation(turned ? 180 : 0);
+}
+
+void TGraphicsPinItem::KeepNumberUpright()
+{
+    if (numberText) {
+        numberText->setRotation(Shapes::IsOnItsHead(rotation()) ? 180 : 0);
+    }
 }
 
 void TGraphicsPinItem::ExtentChanges()
@@ -181,6 +188,7 @@ void TGraphicsPinItem::Draw(QPainter& painter, double) const
 QVariant TGraphicsPinItem::itemChange(GraphicsItemChange change, const QVariant& value)
 {
     if (change == ItemRotationHasChanged) {
+        KeepNumberUpright();
         UpdatePath();
     } else if (change == ItemChildRemovedChange && value.value<QGraphicsItem*>() == numberText) {
         numberText = nullptr;

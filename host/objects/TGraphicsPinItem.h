@@ -99,6 +99,8 @@ protected:
 private:
     /** Repaints with a new extent, which the parent's depends on. */
     void ExtentChanges();
+    /** Turns the number as the pin is turned now; it may be turned otherwise later. */
+    void KeepNumberUpright();
     const QPainterPath& NamePath() const;
 
     QString name;

@@ -20,15 +20,6 @@ constexpr double pointLength = 9;
 constexpr double shownWithoutName = 12;
 constexpr double powerStem = 12;
 
-void SetNetOf(TGraphicsItem& item, const QString& net)
-{
-    if (item.type() == ItemType::Junction) {
-        static_cast<TGraphicsJunctionItem&>(item).SetNet(net);
-    } else if (auto* section = dynamic_cast<TGraphicsSectionItem*>(&item)) {
-        section->SetNet(net);
-    }
-}
-
 bool HasOwnNet(const TGraphicsItem& item)
 {
     return item.type() == ItemType::Junction || dynamic_cast<const TGraphicsSectionItem*>(&item);
@@ -38,6 +29,7 @@ bool HasOwnNet(const TGraphicsItem& item)
 
 TGraphicsPortItem::TGraphicsPortItem(QGraphicsItem* parent) : TGraphicsItem(parent), pin(new TGraphicsPinItem(this))
 {
+    setFlag(ItemSendsGeometryChanges); // The name is to stay readable.
     SetLayer(Osmirel::SchematicNets);
     pin->LinkNode().SetRole(TLinkNode::Role::Names);
     pin->SetPinLength(TGraphicsPinItem::LengthZero);
@@ -46,9 +38,26 @@ TGraphicsPortItem::TGraphicsPortItem(QGraphicsItem* parent) : TGraphicsItem(pare
 
 void TGraphicsPortItem::SetName(const QString& newName, const QColor& color)
 {
-    Carry(newName, color);
-    StoreName(newName);
-    SetAltColor(color);
+    const bool isNew = newName != name;
+    if (!isNew && pin && pin->LinkNode().IsColored(name, color)) {
+        return; // As when all ports of a net are renamed: the first of them has done it.
+    }
+    const Items named = isNew ? Renamed(newName) : OfName(name);
+    for (TGraphicsItem* item : named) {
+        if (isNew) {
+            GiveName(*item, newName);
+        }
+        item->SetAltColor(color);
+    }
+    const QVector<TGraphicsItem*> items = ConnectedItems();
+    for (TGraphicsItem* item : items) {
+        if (!item->parentItem() && item->OwnNet().isEmpty()) {
+            item->SetAltColor(color);
+        }
+    }
+    if (!isNew && pin) {
+        pin->LinkNode().NoteColored(name, color);
+    }
 }
 
 void TGraphicsPortItem::SetAltColor(const QColor& color)
@@ -59,40 +68,93 @@ void TGraphicsPortItem::SetAltColor(const QColor& color)
     TGraphicsItem::SetAltColor(color);
 }
 
-void TGraphicsPortItem::Carry(const QString& newName, const QColor& color)
+TGraphicsPortItem::Items TGraphicsPortItem::OfName(const QString& wanted) const
 {
-    const QString oldName = name;
-    const bool onlyColors = newName == oldName;
-    if (onlyColors && pin && pin->LinkNode().IsColored(newName, color)) {
-        return; // As when all ports of a net are renamed: the first one has done it.
-    }
-    const bool isTakenBack =
-        !onlyColors && !carried.isEmpty() && carried.last().from == newName && carried.last().to == oldName;
-    const QSet<const TGraphicsItem*> given = isTakenBack ? carried.takeLast().items : QSet<const TGraphicsItem*>();
-    Carried now{oldName, newName, {}};
-    const QVector<TGraphicsItem*> items = ConnectedItems();
+    Items found;
+    const QVector<TGraphicsItem*> items = ConnectedItems() << pin;
     for (TGraphicsItem* item : items) {
-        auto* port = dynamic_cast<TGraphicsPortItem*>(item->parentItem());
-        TGraphicsItem* named = port ? port : item;
-        const QString namedNow = port ? port->name : item->OwnNet();
-        const bool isOfOldName = namedNow == oldName && (!isTakenBack || given.contains(named));
-        if ((port || HasOwnNet(*item)) && isOfOldName && !onlyColors) {
-            now.items.insert(named);
-            if (port) {
-                port->StoreName(newName);
-            } else {
-                SetNetOf(*item, newName);
+        auto* port = item ? dynamic_cast<TGraphicsPortItem*>(item->parentItem()) : nullptr;
+        if (port ? port->name == wanted : item && HasOwnNet(*item) && item->OwnNet() == wanted) {
+            found.insert(port ? port : item);
+        }
+    }
+    return found;
+}
+
+TGraphicsPortItem::Items TGraphicsPortItem::Renamed(const QString& newName)
+{
+    static quint64 moment = 0;
+    ++moment;
+    Items ofOldName = OfName(name);
+    ofOldName.insert(this);
+    if (name.isEmpty() && ConnectedItems().isEmpty() && done.isEmpty() && undone.isEmpty()) {
+        return ofOldName; // The first name of a new port is nothing that later renamings take back.
+    }
+    const std::shared_ptr<Renaming> last = done.isEmpty() ? nullptr : done.last();
+    if (last && last->from == newName && last->to == name && ofOldName.contains(last->items)) {
+        last->spared = OfName(newName);
+        last->changedAt = moment;
+        Move(last, last->items, &TGraphicsPortItem::done, &TGraphicsPortItem::undone);
+        return last->items;
+    }
+    std::shared_ptr<Renaming> renaming = Repeated(newName, ofOldName);
+    if (!renaming) {
+        renaming = std::make_shared<Renaming>(Renaming{name, newName, ofOldName, {}});
+    }
+    renaming->changedAt = moment;
+    Move(renaming, renaming->items, &TGraphicsPortItem::undone, &TGraphicsPortItem::done);
+    return renaming->items;
+}
+
+std::shared_ptr<TGraphicsPortItem::Renaming> TGraphicsPortItem::Repeated(const QString& newName,
+                                                                         const Items& ofOldName) const
+{
+    for (int i = undone.size() - 1; i >= 0; --i) {
+        const std::shared_ptr<Renaming>& each = undone[i];
+        const bool isSame = each->from == name && each->to == newName && ofOldName.contains(each->items);
+        // What has come to the old name since, other than by renamings, is to be taken along: a new renaming.
+        if (isSame && (each->items + each->spared + ChangedSince(each->changedAt)).contains(ofOldName)) {
+            return each;
+        }
+    }
+    return nullptr;
+}
+
+TGraphicsPortItem::Items TGraphicsPortItem::ChangedSince(quint64 moment) const
+{
+    Items changed;
+    const QVector<TGraphicsItem*> items = ConnectedItems();
+    for (const TGraphicsItem* item : items) {
+        const auto* port = dynamic_cast<const TGraphicsPortItem*>(item->parentItem());
+        const TRenamings renamings = port ? port->done + port->undone : TRenamings();
+        for (const std::shared_ptr<Renaming>& each : renamings) {
+            if (each->changedAt > moment) {
+                changed += each->items;
             }
         }
-        const bool followsOnly = !item->parentItem() && item->OwnNet().isEmpty();
-        if (isOfOldName || followsOnly) {
-            named->SetAltColor(color);
+    }
+    return changed;
+}
+
+void TGraphicsPortItem::Move(const std::shared_ptr<Renaming>& renaming, const Items& items,
+                             TRenamings TGraphicsPortItem::*from, TRenamings TGraphicsPortItem::*to)
+{
+    for (TGraphicsItem* item : items) {
+        if (auto* port = dynamic_cast<TGraphicsPortItem*>(item)) {
+            (port->*from).removeOne(renaming);
+            (port->*to).append(renaming);
         }
     }
-    if (onlyColors && pin) {
-        pin->LinkNode().NoteColored(newName, color);
-    } else if (!onlyColors && !isTakenBack) {
-        carried.append(now);
+}
+
+void TGraphicsPortItem::GiveName(TGraphicsItem& item, const QString& newName)
+{
+    if (auto* port = dynamic_cast<TGraphicsPortItem*>(&item)) {
+        port->StoreName(newName);
+    } else if (auto* junction = dynamic_cast<TGraphicsJunctionItem*>(&item)) {
+        junction->SetNet(newName);
+    } else if (auto* section = dynamic_cast<TGraphicsSectionItem*>(&item)) {
+        section->SetNet(newName);
     }
 }
 

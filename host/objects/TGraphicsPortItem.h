@@ -5,6 +5,8 @@
 #include <QSet>
 #include <QVector>
 
+#include <memory>
+
 class TGraphicsPinItem;
 
 /**
@@ -25,8 +27,12 @@ public:
     const QString& Name() const { return name; }
     /**
      * Renames the port, and with it all that is wired to it and is on its net: wires get the new name, and so do other
-     * ports of the old one. All of these get the colour (invalid for the layer's), and are repainted. Renaming it back
-     * gives the old name back to just those that it was taken from.
+     * ports of the old one. All of these get the colour (invalid for the layer's), and are repainted.
+     *
+     * Renaming it back gives the old name back to just those that it was taken from, if they all still have the new
+     * one, whichever of their ports has its turn first; and doing it once more takes it from the same, if nothing else
+     * has come to the old name since. Where wired ports of several names are renamed back and forth one by one, a new
+     * renaming may look just like one that is taken back.
      */
     void SetName(const QString& newName, const QColor& color);
 
@@ -60,16 +66,31 @@ protected:
     QVariant itemChange(GraphicsItemChange change, const QVariant& value) override;
 
 private:
-    /** One renaming, and whose name it changed besides the port's own. */
-    struct Carried
+    using Items = QSet<TGraphicsItem*>;
+
+    /** One renaming of a port and all that it took along. Items are compared only, never followed. */
+    struct Renaming
     {
         QString from;
         QString to;
-        QSet<const TGraphicsItem*> items; ///< Compared only, never followed.
+        Items items;
+        Items spared;          ///< What else was of the old name when it was last taken back.
+        quint64 changedAt = 0; ///< When it was last done or taken back.
     };
+    using TRenamings = QVector<std::shared_ptr<Renaming>>;
 
+    /** The ports, wires and junctions that links join with the port and that have a name as their own. */
+    Items OfName(const QString& wanted) const;
+    /** Those that a new name is for, the port too: notes the renaming, or finds that it takes one back or repeats one.
+     */
+    Items Renamed(const QString& newName);
+    std::shared_ptr<Renaming> Repeated(const QString& newName, const Items& ofOldName) const;
+    Items ChangedSince(quint64 moment) const;
+    static void Move(const std::shared_ptr<Renaming>& renaming, const Items& items, TRenamings TGraphicsPortItem::*from,
+                     TRenamings TGraphicsPortItem::*to);
+
+    static void GiveName(TGraphicsItem& item, const QString& newName);
     void StoreName(const QString& newName);
-    void Carry(const QString& newName, const QColor& color);
     void ExtentChanges();
     const QPainterPath& NamePath() const;
 
@@ -77,6 +98,7 @@ private:
     bool nameVisible = true;
     TypePortShape portShape = ShapePassive;
     TGraphicsPinItem* pin;
-    QVector<Carried> carried;      ///< The renamings that could be taken back, the last one last.
+    TRenamings done;               ///< What took this port along, the last one last.
+    TRenamings undone;             ///< What was taken back, the last one last.
     mutable QPainterPath namePath; ///< Made when first asked for; empty until then.
 };

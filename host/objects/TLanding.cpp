@@ -3,6 +3,7 @@
 #include <graphics/TItemScene.h>
 #include <objects/TGraphicsSectionItem.h>
 
+#include <QHash>
 #include <QSet>
 
 #include <algorithm>
@@ -13,7 +14,10 @@ namespace {
 
 using LinkEnd = TGraphicsItem::LinkEnd;
 
-QPair<const TGraphicsItem*, int> KeyOf(const TGraphicsItem* wire, LinkEnd end)
+/** A wire and one of its ends. */
+using End = QPair<const TGraphicsItem*, int>;
+
+End KeyOf(const TGraphicsItem* wire, LinkEnd end)
 {
     return {wire, static_cast<int>(end)};
 }
@@ -89,6 +93,7 @@ QVector<TGraphicsItem*> TLanding::ConnectTouching(const QVector<TGraphicsItem*>&
     QVector<TGraphicsItem*> linked;
     for (const Touch& touch : qAsConst(touches)) {
         touch.wire->LinkTo(touch.end, touch.target);
+        memory.Note(touch.wire, TConnectionMemory::Change::Linked, {touch.end, touch.target});
         linked.append(touch.wire);
     }
     return linked;
@@ -100,9 +105,14 @@ QVector<TGraphicsItem*> TLanding::ConnectAgain(const QVector<TGraphicsItem*>& ta
     QVector<TGraphicsItem*> linked;
     for (TGraphicsItem* item : wires) {
         auto* wire = dynamic_cast<TGraphicsSectionItem*>(item);
-        const std::optional<Place> place = wire ? PlaceFor(wire, targets) : std::nullopt;
+        std::optional<Place> place = wire ? PlaceItWasCutFrom(wire, targets) : std::nullopt;
+        if (wire && !place) {
+            place = PlaceItTouches(wire, targets);
+            if (place) {
+                memory.Note(wire, TConnectionMemory::Change::Linked, {place->end, place->target});
+            }
+        }
         if (place) {
-            cutFrom.remove(KeyOf(wire, place->end));
             wire->LinkTo(place->end, place->target);
             linked.append(wire);
         }
@@ -110,57 +120,64 @@ QVector<TGraphicsItem*> TLanding::ConnectAgain(const QVector<TGraphicsItem*>& ta
     return linked;
 }
 
-std::optional<TLanding::Place> TLanding::PlaceFor(TGraphicsSectionItem* wire,
-                                                  const QVector<TGraphicsItem*>& targets) const
+std::optional<TLanding::Place> TLanding::PlaceItWasCutFrom(TGraphicsSectionItem* wire,
+                                                           const QVector<TGraphicsItem*>& targets)
 {
-    // The copper that the end was cut from and still lies on; else that it was cut from; else the nearest it lies on.
-    // What it was cut from gets it back even if it has been linked elsewhere since, but a free end comes first.
-    enum Rank { CutAndTouching, CutAndTouchingButTaken, Cut, CutButTaken, Touching, Unsuitable };
-    std::optional<Place> best;
-    auto bestRank = std::make_pair(Unsuitable, 0.0);
+    // What it was cut from gets it back even if it has been linked elsewhere since, or does not touch any more; but
+    // what touches comes first, and then a free end.
+    struct Rank
+    {
+        bool touches;
+        bool isFree;
+    };
+    for (const Rank& wanted : {Rank{true, true}, Rank{true, false}, Rank{false, true}, Rank{false, false}}) {
+        TGraphicsItem* target = nullptr;
+        const auto suits = [&](const TConnectionMemory::Place& cut) {
+            const auto found = std::find(targets.cbegin(), targets.cend(), cut.target);
+            target = found == targets.cend() || wire->Link(cut.end) == *found ? nullptr : *found;
+            return target && (wire->Link(cut.end) == nullptr) == wanted.isFree
+                   && TouchOf(wire, cut.end, target).has_value() == wanted.touches;
+        };
+        const auto cut = memory.Take(wire, TConnectionMemory::Change::Cut, suits);
+        if (cut) {
+            return Place{cut->end, target};
+        }
+    }
+    return {};
+}
+
+std::optional<TLanding::Place> TLanding::PlaceItTouches(TGraphicsSectionItem* wire,
+                                                        const QVector<TGraphicsItem*>& targets)
+{
+    std::optional<Touch> nearest;
     for (const LinkEnd end : bothEnds) {
-        const bool isTaken = wire->Link(end) != nullptr;
-        const QVector<const TGraphicsItem*> remembered = cutFrom.value(KeyOf(wire, end));
         for (TGraphicsItem* target : targets) {
-            const std::optional<Touch> touch = TouchOf(wire, end, target);
-            const bool wasCut = remembered.contains(target);
-            Rank kind = Unsuitable;
-            if (wasCut && touch) {
-                kind = isTaken ? CutAndTouchingButTaken : CutAndTouching;
-            } else if (wasCut) {
-                kind = isTaken ? CutButTaken : Cut;
-            } else if (touch && !isTaken) {
-                kind = Touching;
-            }
-            const auto rank = std::make_pair(kind, touch ? touch->squareDistance : 0.0);
-            if (rank < bestRank && kind != Unsuitable) {
-                best = Place{end, target};
-                bestRank = rank;
+            const std::optional<Touch> touch = wire->Link(end) ? std::nullopt : TouchOf(wire, end, target);
+            if (touch && (!nearest || touch->squareDistance < nearest->squareDistance)) {
+                nearest = touch;
             }
         }
     }
-    return best;
+    return nearest ? std::make_optional(Place{nearest->end, nearest->target}) : std::nullopt;
+}
+
+void TLanding::Cut(TGraphicsSectionItem* wire, LinkEnd end)
+{
+    memory.Note(wire, TConnectionMemory::Change::Cut, {end, wire->Link(end)});
+    wire->Unlink(end);
 }
 
 QVector<TGraphicsItem*> TLanding::Disconnect(const QVector<TGraphicsItem*>& targets,
                                              const QVector<TGraphicsItem*>& wires)
 {
     QVector<TGraphicsItem*> cut;
-    const auto cutOne = [&](TGraphicsSectionItem* wire, TGraphicsItem* target) {
-        const LinkEnd end = wire->FirstLink() == target ? LinkEnd::First : LinkEnd::Last;
-        QVector<const TGraphicsItem*>& remembered = cutFrom[KeyOf(wire, end)];
-        if (!remembered.contains(target)) {
-            remembered.append(target);
-        }
-        wire->Unlink(end);
-        cut.append(wire);
-    };
     if (wires.isEmpty()) {
         for (TGraphicsItem* target : targets) {
             const QVector<TGraphicsItem*> links = target->Links();
             for (TGraphicsItem* link : links) {
                 if (auto* wire = dynamic_cast<TGraphicsSectionItem*>(link)) {
-                    cutOne(wire, target);
+                    Cut(wire, wire->FirstLink() == target ? LinkEnd::First : LinkEnd::Last);
+                    cut.append(wire);
                 }
             }
         }
@@ -169,11 +186,22 @@ QVector<TGraphicsItem*> TLanding::Disconnect(const QVector<TGraphicsItem*>& targ
     const QSet<TGraphicsItem*> landings(targets.cbegin(), targets.cend());
     for (TGraphicsItem* item : wires) {
         auto* wire = dynamic_cast<TGraphicsSectionItem*>(item);
-        if (wire && landings.contains(wire->FirstLink())) {
-            cutOne(wire, wire->FirstLink());
-        } else if (wire && landings.contains(wire->LastLink())) {
-            cutOne(wire, wire->LastLink());
+        const auto isLinked = [&](const TConnectionMemory::Place& linked) {
+            return wire->Link(linked.end) == linked.target && landings.contains(wire->Link(linked.end));
+        };
+        if (!wire) {
+            continue;
         }
+        if (const auto linked = memory.Take(wire, TConnectionMemory::Change::Linked, isLinked)) {
+            wire->Unlink(linked->end);
+        } else if (landings.contains(wire->FirstLink())) {
+            Cut(wire, LinkEnd::First);
+        } else if (landings.contains(wire->LastLink())) {
+            Cut(wire, LinkEnd::Last);
+        } else {
+            continue;
+        }
+        cut.append(wire);
     }
     return cut;
 }

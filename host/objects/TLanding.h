@@ -1,8 +1,7 @@
 #pragma once
 
-#include <graphics/TGraphicsItem.h>
+#include <objects/TConnectionMemory.h>
 
-#include <QHash>
 #include <QVector>
 
 #include <optional>
@@ -14,7 +13,7 @@ class TGraphicsSectionItem;
  * with its pads, and a net tie with itself. A part of that item.
  *
  * It remembers from which copper a wire's end was cut, so that linking the same wires again gives each end the copper
- * that it had, even where several pads lie there.
+ * that it had, even where several pads lie there; and which end it linked, so that just that one is cut again.
  */
 class TLanding
 {
@@ -27,12 +26,11 @@ public:
     QVector<TGraphicsItem*> Connect(const QVector<TGraphicsItem*>& targets, const QVector<TGraphicsItem*>& wires);
 
     /** Cuts all wires, or exactly the given ones with one end for each occurrence, from the targets, and returns them
-     *  once for each end, in the order of the targets and their links. */
+     *  once for each end, in the order of the targets and their links. Of a given wire the end that was linked here
+     * last is cut, or else the first end before the last. */
     QVector<TGraphicsItem*> Disconnect(const QVector<TGraphicsItem*>& targets, const QVector<TGraphicsItem*>& wires);
 
 private:
-    using End = QPair<const TGraphicsItem*, int>; ///< A wire and one of its ends.
-
     struct Place
     {
         TGraphicsItem::LinkEnd end;
@@ -41,7 +39,9 @@ private:
 
     QVector<TGraphicsItem*> ConnectTouching(const QVector<TGraphicsItem*>& targets);
     QVector<TGraphicsItem*> ConnectAgain(const QVector<TGraphicsItem*>& targets, const QVector<TGraphicsItem*>& wires);
-    std::optional<Place> PlaceFor(TGraphicsSectionItem* wire, const QVector<TGraphicsItem*>& targets) const;
+    std::optional<Place> PlaceItWasCutFrom(TGraphicsSectionItem* wire, const QVector<TGraphicsItem*>& targets);
+    static std::optional<Place> PlaceItTouches(TGraphicsSectionItem* wire, const QVector<TGraphicsItem*>& targets);
+    void Cut(TGraphicsSectionItem* wire, TGraphicsItem::LinkEnd end);
 
-    QHash<End, QVector<const TGraphicsItem*>> cutFrom; ///< Compared only, never followed.
+    TConnectionMemory memory;
 };

@@ -10,6 +10,11 @@ namespace {
 /** How far apart the points of two pins may lie that touch: less than any drawing grid. */
 constexpr double tolerance = 0.5;
 
+using Change = TConnectionMemory::Change;
+
+/** Pins have one end only. */
+constexpr TGraphicsItem::LinkEnd anyEnd = TGraphicsItem::LinkEnd::First;
+
 bool Touch(const TGraphicsPinItem& one, const TGraphicsPinItem& other)
 {
     return (one.scenePos() - other.scenePos()).manhattanLength() < tolerance;
@@ -47,6 +52,18 @@ QVector<TGraphicsPinItem*> FreeNeighbours(const TGraphicsPinItem& pin)
     return found;
 }
 
+/** The first of the pins that touches another one and is not linked with it. */
+TGraphicsPinItem* FreePinTouching(const TGraphicsPinItem& other, const QVector<TGraphicsItem*>& pins)
+{
+    for (TGraphicsItem* item : pins) {
+        TGraphicsPinItem* pin = AsPin(item);
+        if (pin && Touch(*pin, other) && !other.LinkedPins().contains(pin)) {
+            return pin;
+        }
+    }
+    return nullptr;
+}
+
 } // namespace
 
 QVector<TGraphicsItem*> TPinContacts::Connect(const QVector<TGraphicsItem*>& pins,
@@ -58,7 +75,14 @@ QVector<TGraphicsItem*> TPinContacts::Connect(const QVector<TGraphicsItem*>& pin
     QVector<TGraphicsItem*> linked;
     for (TGraphicsItem* item : others) {
         TGraphicsPinItem* other = AsPin(item);
-        if (TGraphicsPinItem* pin = other ? PlaceFor(*other, pins) : nullptr) {
+        TGraphicsPinItem* pin = other ? PinItWasCutFrom(*other, pins) : nullptr;
+        if (other && !pin) {
+            pin = FreePinTouching(*other, pins);
+            if (pin) {
+                memory.Note(other, Change::Linked, {anyEnd, pin});
+            }
+        }
+        if (pin) {
             pin->LinkToPin(other);
             linked.append(other);
         }
@@ -74,50 +98,42 @@ QVector<TGraphicsItem*> TPinContacts::ConnectTouching(const QVector<TGraphicsIte
         const QVector<TGraphicsPinItem*> near = pin ? FreeNeighbours(*pin) : QVector<TGraphicsPinItem*>();
         for (TGraphicsPinItem* other : near) {
             pin->LinkToPin(other);
+            memory.Note(other, Change::Linked, {anyEnd, pin});
             linked.append(other);
         }
     }
     return linked;
 }
 
-TGraphicsPinItem* TPinContacts::PlaceFor(const TGraphicsPinItem& other, const QVector<TGraphicsItem*>& pins) const
+TGraphicsPinItem* TPinContacts::PinItWasCutFrom(const TGraphicsPinItem& other, const QVector<TGraphicsItem*>& pins)
 {
-    const QVector<const TGraphicsItem*> remembered = cutFrom.value(&other);
-    TGraphicsPinItem* touching = nullptr;
-    for (TGraphicsItem* item : pins) {
-        TGraphicsPinItem* pin = AsPin(item);
-        if (!pin || other.LinkedPins().contains(pin)) {
-            continue;
-        }
-        if (remembered.contains(pin)) {
-            return pin;
-        }
-        if (!touching && Touch(*pin, other)) {
-            touching = pin;
-        }
-    }
-    return touching;
+    TGraphicsPinItem* pin = nullptr;
+    memory.Take(&other, Change::Cut, [&](const TConnectionMemory::Place& cut) {
+        const auto found = std::find(pins.cbegin(), pins.cend(), cut.target);
+        pin = found == pins.cend() || other.LinkedPins().contains(AsPin(*found)) ? nullptr : AsPin(*found);
+        return pin != nullptr;
+    });
+    return pin;
+}
+
+void TPinContacts::Cut(TGraphicsPinItem* pin, TGraphicsPinItem* other)
+{
+    memory.Note(other, Change::Cut, {anyEnd, pin});
+    pin->UnlinkFromPin(other);
 }
 
 QVector<TGraphicsItem*> TPinContacts::Disconnect(const QVector<TGraphicsItem*>& pins,
                                                  const QVector<TGraphicsItem*>& others)
 {
     QVector<TGraphicsItem*> cut;
-    const auto cutOne = [&](TGraphicsPinItem* pin, TGraphicsPinItem* other) {
-        QVector<const TGraphicsItem*>& remembered = cutFrom[other];
-        if (!remembered.contains(pin)) {
-            remembered.append(pin);
-        }
-        pin->UnlinkFromPin(other);
-        cut.append(other);
-    };
     if (others.isEmpty()) {
         for (TGraphicsItem* item : pins) {
             TGraphicsPinItem* pin = AsPin(item);
             const QList<TGraphicsPinItem*> linked = pin ? pin->LinkedPins() : QList<TGraphicsPinItem*>();
             for (TGraphicsPinItem* other : linked) {
                 if (!AreOfOneSymbol(*pin, *other)) {
-                    cutOne(pin, other);
+                    Cut(pin, other);
+                    cut.append(other);
                 }
             }
         }
@@ -125,13 +141,29 @@ QVector<TGraphicsItem*> TPinContacts::Disconnect(const QVector<TGraphicsItem*>& 
     }
     for (TGraphicsItem* item : others) {
         TGraphicsPinItem* other = AsPin(item);
-        const auto found = std::find_if(pins.cbegin(), pins.cend(), [other](TGraphicsItem* each) {
-            TGraphicsPinItem* pin = AsPin(each);
-            return pin && other && pin->LinkedPins().contains(other);
-        });
-        if (found != pins.cend()) {
-            cutOne(AsPin(*found), other);
+        if (!other) {
+            continue;
         }
+        const auto isLinkedPin = [other](const TGraphicsItem* each) {
+            return std::find(other->LinkedPins().cbegin(), other->LinkedPins().cend(), each)
+                   != other->LinkedPins().cend();
+        };
+        TGraphicsPinItem* linked = nullptr;
+        memory.Take(other, Change::Linked, [&](const TConnectionMemory::Place& place) {
+            const auto found = std::find(pins.cbegin(), pins.cend(), place.target);
+            linked = found != pins.cend() && isLinkedPin(*found) ? AsPin(*found) : nullptr;
+            return linked != nullptr;
+        });
+        if (linked) {
+            linked->UnlinkFromPin(other);
+        } else {
+            const auto any = std::find_if(pins.cbegin(), pins.cend(), isLinkedPin);
+            if (any == pins.cend()) {
+                continue;
+            }
+            Cut(AsPin(*any), other);
+        }
+        cut.append(other);
     }
     return cut;
 }

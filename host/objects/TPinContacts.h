@@ -1,15 +1,15 @@
 #pragma once
 
-#include <graphics/TGraphicsItem.h>
+#include <objects/TConnectionMemory.h>
 
-#include <QHash>
 #include <QVector>
 
 class TGraphicsPinItem;
 
 /**
  * Links the pins of a symbol with pins of other symbols that lie on the same points, and cuts them. A part of the
- * symbol's item. It remembers from which of its pins another one was cut, as several may lie on one point.
+ * symbol's item. It remembers with which of its pins another one was linked, and from which it was cut, as several may
+ * lie on one point.
  */
 class TPinContacts
 {
@@ -18,12 +18,13 @@ public:
      * otherwise exactly the given ones. */
     QVector<TGraphicsItem*> Connect(const QVector<TGraphicsItem*>& pins, const QVector<TGraphicsItem*>& others);
     /** Cuts pins from others and returns these, once for each link: with @p others empty all that are linked, otherwise
-     *  exactly the given ones. */
+     *  exactly the given ones, from the pin that was linked here last. */
     QVector<TGraphicsItem*> Disconnect(const QVector<TGraphicsItem*>& pins, const QVector<TGraphicsItem*>& others);
 
 private:
     QVector<TGraphicsItem*> ConnectTouching(const QVector<TGraphicsItem*>& pins);
-    TGraphicsPinItem* PlaceFor(const TGraphicsPinItem& other, const QVector<TGraphicsItem*>& pins) const;
+    TGraphicsPinItem* PinItWasCutFrom(const TGraphicsPinItem& other, const QVector<TGraphicsItem*>& pins);
+    void Cut(TGraphicsPinItem* pin, TGraphicsPinItem* other);
 
-    QHash<const TGraphicsItem*, QVector<const TGraphicsItem*>> cutFrom; ///< Compared only, never followed.
+    TConnectionMemory memory;
 };

@@ -36,6 +36,7 @@ void AddNumberOf(const TGraphicsItem& item, TUniqueNumbers& numbers)
 TCmdPortName::TCmdPortName(QList<TGraphicsPortItem*> ofPorts, const QString& name, TSchematic* ofSchematic)
     : schematic(ofSchematic), ports(std::move(ofPorts)), newName(name)
 {
+    ports.removeAll(nullptr);
     for (const TGraphicsPortItem* port : qAsConst(ports)) {
         oldNames.append(port->Name());
     }

@@ -8,6 +8,7 @@
 TCmdTagName::TCmdTagName(QList<TGraphicsTagItem*> ofTags, const QString& name, TProject* ofProject)
     : tags(std::move(ofTags)), newName(name), project(ofProject)
 {
+    tags.removeAll(nullptr);
     for (const TGraphicsTagItem* tag : qAsConst(tags)) {
         oldNames.append(tag->Name());
     }

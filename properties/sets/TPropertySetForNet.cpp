@@ -68,7 +68,7 @@ void TPropertySetForNet::slotSetPrio(QString newLevel)
     }
 }
 
-void TPropertySetForNet::slotSetColor(QColor newColor)
+void TPropertySetForNet::slotSetColor(const QColor& newColor)
 {
     if (net) {
         Emit(new TCmdNetColorSch(netName, newColor, schematic));

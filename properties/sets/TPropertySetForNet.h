@@ -25,7 +25,7 @@ public slots:
     void slotSetClass(QString newClass);
     /** "Default", or a digit. */
     void slotSetPrio(QString newLevel);
-    void slotSetColor(QColor newColor);
+    void slotSetColor(const QColor& newColor);
 
 private:
     void MakeRows(bool onOneNet);

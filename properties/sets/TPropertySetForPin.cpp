@@ -6,6 +6,17 @@
 
 #include <objects/TGraphicsPartItem.h>
 
+#include <algorithm>
+
+namespace {
+
+bool IsPin(const TGraphicsItem* item)
+{
+    return item->type() == ItemType::Pin;
+}
+
+} // namespace
+
 struct TPropertySetForPin::Values
 {
     TGathered<QString> name;
@@ -33,11 +44,11 @@ void TPropertySetForPin::Values::Add(const TGraphicsPinItem& pin)
 }
 
 TPropertySetForPin::TPropertySetForPin(QList<TGraphicsItem*> selection)
-    : TPropertySet(selection.size() == 1 ? tr("Pin") : tr("Pins"))
+    : TPropertySet(std::count_if(selection.cbegin(), selection.cend(), IsPin) == 1 ? tr("Pin") : tr("Pins"))
 {
     Values values;
     for (TGraphicsItem* item : qAsConst(selection)) {
-        if (item->type() == ItemType::Pin) {
+        if (IsPin(item)) {
             pins.append(item);
             values.Add(static_cast<const TGraphicsPinItem&>(*item));
         }

@@ -15,7 +15,7 @@ class PROPERTIES_EXPORT TPropertySetForPin : public TPropertySet
     Q_OBJECT
 
 public:
-    /** Keeps the pins of @p selection. */
+    /** Keeps the pins of @p selection, and is named for their number, not for that of all items. */
     explicit TPropertySetForPin(QList<TGraphicsItem*> selection);
 
 public slots:

@@ -84,6 +84,17 @@
     </message>
 </context>
 <context>
+    <name>TPropertySetForBus</name>
+    <message>
+        <source>Bus</source>
+        <translation>Bus</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+</context>
+<context>
     <name>TPropertySetForHole</name>
     <message>
         <source>Hole</source>
@@ -118,6 +129,33 @@
     <message>
         <source> mm</source>
         <translation> mm</translation>
+    </message>
+</context>
+<context>
+    <name>TPropertySetForNet</name>
+    <message>
+        <source>Net</source>
+        <translation>Netz</translation>
+    </message>
+    <message>
+        <source>Nets</source>
+        <translation>Netze</translation>
+    </message>
+    <message>
+        <source>Net:</source>
+        <translation>Netz:</translation>
+    </message>
+    <message>
+        <source>Net class:</source>
+        <translation>Netzklasse:</translation>
+    </message>
+    <message>
+        <source>Level:</source>
+        <translation>Stufe:</translation>
+    </message>
+    <message>
+        <source>Color:</source>
+        <translation>Farbe:</translation>
     </message>
 </context>
 <context>
@@ -328,6 +366,159 @@
     </message>
 </context>
 <context>
+    <name>TPropertySetForPart</name>
+    <message>
+        <source>Part</source>
+        <translation>Bauteil</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>Bauteile</translation>
+    </message>
+    <message>
+        <source>RefDes:</source>
+        <translation>Bezeichner:</translation>
+    </message>
+    <message>
+        <source>Value:</source>
+        <translation>Wert:</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Package:</source>
+        <translation>Gehäuse:</translation>
+    </message>
+    <message>
+        <source>Id:</source>
+        <translation>Id:</translation>
+    </message>
+    <message>
+        <source>Lock:</source>
+        <translation>Sperren:</translation>
+    </message>
+    <message>
+        <source>RefDes</source>
+        <translation>Bezeichner</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Swap:</source>
+        <translation>Tauschgruppe:</translation>
+    </message>
+</context>
+<context>
+    <name>TPropertySetForPin</name>
+    <message>
+        <source>Pin</source>
+        <translation>Pin</translation>
+    </message>
+    <message>
+        <source>Pins</source>
+        <translation>Pins</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Number:</source>
+        <translation>Nummer:</translation>
+    </message>
+    <message>
+        <source>Type:</source>
+        <translation>Typ:</translation>
+    </message>
+    <message>
+        <source>Passive</source>
+        <translation>Passiv</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Eingang</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Ausgang</translation>
+    </message>
+    <message>
+        <source>Bidirectional</source>
+        <translation>Bidirektional</translation>
+    </message>
+    <message>
+        <source>Hi-Z</source>
+        <translation>Hochohmig</translation>
+    </message>
+    <message>
+        <source>Open Collector</source>
+        <translation>Offener Kollektor</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Versorgung</translation>
+    </message>
+    <message>
+        <source>No connect</source>
+        <translation>Nicht angeschlossen</translation>
+    </message>
+    <message>
+        <source>Style:</source>
+        <translation>Darstellung:</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Inverse</source>
+        <translation>Invertiert</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>Länge:</translation>
+    </message>
+    <message>
+        <source>Zero</source>
+        <translation>Null</translation>
+    </message>
+    <message>
+        <source>Short</source>
+        <translation>Kurz</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>Long</source>
+        <translation>Lang</translation>
+    </message>
+    <message>
+        <source>Swap:</source>
+        <translation>Tauschgruppe:</translation>
+    </message>
+</context>
+<context>
+    <name>TPropertySetForPort</name>
+    <message>
+        <source>Port</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>Ports</source>
+        <translation>Ports</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+</context>
+<context>
     <name>TPropertySetForPour</name>
     <message>
         <source>Pour</source>
@@ -495,6 +686,57 @@
     <message>
         <source>Length:</source>
         <translation>Länge:</translation>
+    </message>
+</context>
+<context>
+    <name>TPropertySetForTag</name>
+    <message>
+        <source>Tags</source>
+        <translation>Platzhalter</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Font type:</source>
+        <translation>Schrifttyp:</translation>
+    </message>
+    <message>
+        <source>Vector</source>
+        <translation>Vektor</translation>
+    </message>
+    <message>
+        <source>True Type</source>
+        <translation>True Type</translation>
+    </message>
+    <message>
+        <source>Font name:</source>
+        <translation>Schriftart:</translation>
+    </message>
+    <message>
+        <source>Font size:</source>
+        <translation>Schriftgröße:</translation>
+    </message>
+    <message>
+        <source>Alignment:</source>
+        <translation>Ausrichtung:</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Line width:</source>
+        <translation>Linienbreite:</translation>
     </message>
 </context>
 <context>

@@ -20,6 +20,7 @@ std::vector<CommandLaw> LawsOfPadsAndVias();
 std::vector<CommandLaw> LawsOfPours();
 std::vector<CommandLaw> LawsOfTexts();
 std::vector<CommandLaw> LawsOfDrawings();
+std::vector<CommandLaw> LawsOfSheets();
 
 template <class Command>
 QString NameOf()

@@ -23,6 +23,12 @@ CommandLaw& CommandLaw::WithoutRepaint()
     return *this;
 }
 
+CommandLaw& CommandLaw::WithRepaintOf(std::function<const QGraphicsItem*(const TGraphicsItem&)> child)
+{
+    repainted = std::move(child);
+    return *this;
+}
+
 CommandLaw& CommandLaw::Undone(std::function<void(StateFields&)> quirk)
 {
     undone = std::move(quirk);
@@ -33,7 +39,7 @@ const std::vector<CommandLaw>& LawTable()
 {
     static const std::vector<CommandLaw> table = [] {
         std::vector<CommandLaw> all;
-        for (const auto& part : {LawsOfPadsAndVias(), LawsOfPours(), LawsOfTexts(), LawsOfDrawings()}) {
+        for (const auto& part : {LawsOfPadsAndVias(), LawsOfPours(), LawsOfTexts(), LawsOfDrawings(), LawsOfSheets()}) {
             all.insert(all.end(), part.begin(), part.end());
         }
         return all;
@@ -44,13 +50,24 @@ const std::vector<CommandLaw>& LawTable()
 const QStringList& CommandsWithTestsOfTheirOwn()
 {
     static const QStringList names{
-        "TCmdNetClass",       "TCmdNetColorPcb",    "TCmdNetPrio",       // commands.netattributes
-        "TCmdNetTieBase",     "TCmdNetTieName",     "TCmdNetTieNameVis", // commands.netties
-        "TCmdNetTiePcbLayer", "TCmdNetTiePadSz",    "TCmdNetTieWireWidth", "TCmdNetTieSchSymbol",
-        "TCmdOutlineAddNode", "TCmdOutlineDelNode",                                           // commands.drawings
-        "TCmdPackageRefDes",  "TCmdPackageValue",   "TCmdPkgConnect",                         // commands.packages
-        "TCmdPkgDisconnect",  "TCmdPkgSide",        "TCmdWireAddNode",     "TCmdWireDelNode", // commands.nodes
-        "TCmdWireLayer", // commands.wirelayer, commands.wirelayer_vias
+        "TCmdNetClass",        "TCmdNetColorSch",
+        "TCmdNetColorPcb",     "TCmdNetPrio",   // commands.netattributes
+        "TCmdNetName",         "TCmdFragmName", //
+        "TCmdNetTieBase",      "TCmdNetTieName",
+        "TCmdNetTieNameVis", // commands.netties
+        "TCmdNetTiePcbLayer",  "TCmdNetTiePadSz",
+        "TCmdNetTieWireWidth", "TCmdNetTieSchSymbol",
+        "TCmdOutlineAddNode",  "TCmdOutlineDelNode", // commands.drawings
+        "TCmdPackageRefDes",   "TCmdPackageValue",
+        "TCmdPkgConnect", // commands.packages
+        "TCmdPkgDisconnect",   "TCmdPkgSide",
+        "TCmdWireAddNode",     "TCmdWireDelNode",        // commands.nodes
+        "TCmdWireLayer",                                 // commands.wirelayer, commands.wirelayer_vias
+        "TCmdPartConnect",     "TCmdPartDisconnect",     // commands.parts
+        "TCmdPortName",        "TCmdBusEntryDisconnect", // commands.portname, commands.busentries
+        "TCmdCmpValue",                                  // commands.components
+        "TCmdPartRename",      "TCmdPageRename",
+        "TCmdPartOpen",        "TCmdPageOpen", // commands.projecttree
     };
     return names;
 }

@@ -25,6 +25,10 @@ struct CommandLaw
     Merging merging = Merging::Never;
     unsigned categories = 0;
     bool repaints = true;
+    /** What is repainted when a kept item is written: itself, or a child that draws the attribute. */
+    std::function<const QGraphicsItem*(const TGraphicsItem&)> repainted = [](const TGraphicsItem& item) {
+        return &item;
+    };
     /** Which items the command keeps. */
     std::function<bool(const TGraphicsItem&)> accepts;
     /** Makes the command over items, with the first (0) or the second (1) of two values that differ. */
@@ -41,6 +45,7 @@ struct CommandLaw
     CommandLaw& WithId(int number, Merging rule);
     CommandLaw& WithCategories(unsigned bits);
     CommandLaw& WithoutRepaint();
+    CommandLaw& WithRepaintOf(std::function<const QGraphicsItem*(const TGraphicsItem&)> child);
     CommandLaw& Undone(std::function<void(StateFields&)> quirk);
 };
 

@@ -8,17 +8,26 @@
 #include <graphics/TGraphicsPolygonItem.h>
 #include <graphics/TGraphicsPolylineItem.h>
 #include <graphics/TGraphicsTextItem.h>
+#include <objects/TGraphicsBusEntryItem.h>
+#include <objects/TGraphicsBusItem.h>
 #include <objects/TGraphicsJunctionItem.h>
 #include <objects/TGraphicsKeepoutItem.h>
+#include <objects/TGraphicsNetItem.h>
 #include <objects/TGraphicsNetTiePcbItem.h>
 #include <objects/TGraphicsNetTieSchItem.h>
 #include <objects/TGraphicsOutlineItem.h>
+#include <objects/TGraphicsPartItem.h>
+#include <objects/TGraphicsPinItem.h>
+#include <objects/TGraphicsPortItem.h>
 #include <objects/TGraphicsPourItem.h>
+#include <objects/TGraphicsTagItem.h>
 #include <objects/TGraphicsWireItem.h>
+
+#include <algorithm>
 
 namespace Test {
 
-/** An item of a kind that a board has no class for: nothing but its type number. */
+/** An item of a kind that the host has no class for: nothing but its type number. */
 class ForeignItem : public TGraphicsItem
 {
 public:
@@ -44,7 +53,7 @@ public:
     int type() const override { return 0x10042; }
 };
 
-/** A board with several items of every kind, no two of a kind alike. */
+/** A board with several items of every kind, those of schematics too, no two of a kind alike. */
 class MixedBoard : public TestBoard
 {
 public:
@@ -60,11 +69,22 @@ public:
         AddPours();
         AddNetTies();
         AddOutline();
-        const QList<int> otherKinds{0x10009, 0x1000a, 0x1000c, 0x1000e, 0x1000f, 0x1001b};
+        AddSheetItems();
+        const QList<int> otherKinds{0x10001, 0x10017, 0x10019, 0x1001a};
         for (const int kind : otherKinds) {
             Add<ForeignItem>(kind);
         }
-        Add<ForeignItem>(0x1000a)->SetTFlag(TGraphicsItem::Lock, true);
+    }
+
+    /** The items without the numbers of pins, whose state is that of their pins. */
+    QList<TGraphicsItem*> Items() const
+    {
+        QList<TGraphicsItem*> items = TestBoard::Items();
+        const auto isNumber = [](const TGraphicsItem* item) {
+            return dynamic_cast<TGraphicsPinItem*>(item->parentItem());
+        };
+        items.erase(std::remove_if(items.begin(), items.end(), isNumber), items.end());
+        return items;
     }
 
     QStringList Lines() const
@@ -279,6 +299,43 @@ private:
     }
 
     void AddOutline() { Add<TGraphicsOutlineItem>()->SetPoints({{0, 0, 0}, {50, 0, 0}, {50, 50, 0}}); }
+
+    /** What schematics are made of. */
+    void AddSheetItems()
+    {
+        auto* plain = Add<TGraphicsPinItem>();
+        plain->SetName("CLK");
+        plain->NumberText()->SetText("1");
+        auto* odd = Add<TGraphicsPinItem>();
+        odd->SetNameVisible(false);
+        odd->NumberText()->SetText("A \"2\"");
+        odd->SetNumberVisible(false);
+        odd->SetPinType(TGraphicsPinItem::TypeOpenCollector);
+        odd->SetPinStyle(TGraphicsPinItem::StyleInverse);
+        odd->SetPinLength(TGraphicsPinItem::LengthShort);
+        odd->SetSwap(200);
+        odd->UpdatePath();
+        auto* part = Add<TGraphicsPartItem>();
+        auto* pin = new TGraphicsPinItem(part);
+        pin->SetName("Q");
+        pin->setPos(20, 0);
+        pin->SetSwap(7);
+        auto* locked = Add<TGraphicsPartItem>();
+        locked->SetComponentNumber(9);
+        locked->SetTFlag(TGraphicsItem::Lock, true);
+
+        Add<TGraphicsPortItem>()->SetName("GND", Qt::red);
+        auto* port = Add<TGraphicsPortItem>();
+        port->SetName("VCC", {});
+        port->SetNameVisible(false);
+        Add<TGraphicsTagItem>()->SetName("TITLE", true);
+        auto* tag = Add<TGraphicsTagItem>();
+        tag->SetName("REVISION", false);
+        tag->SetValue("1.0", true);
+        Add<TGraphicsNetItem>()->SetPoint2({25, 5});
+        Add<TGraphicsBusItem>()->SetPoint2({25, 5});
+        Add<TGraphicsBusEntryItem>()->SetLine({0, 0, 5, 5});
+    }
 
     int extra = 0;
 };

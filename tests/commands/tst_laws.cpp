@@ -279,8 +279,9 @@ private slots:
                 const QRectF repainted = repaints.Take();
                 if (!session.law.repaints) {
                     QVERIFY(repainted.isEmpty());
-                } else if (item->StateLine() != before && !item->boundingRect().isEmpty()) {
-                    QVERIFY2(repainted.contains(item->sceneBoundingRect().center()), qPrintable(before));
+                } else if (item->StateLine() != before && !session.law.repainted(*item)->boundingRect().isEmpty()) {
+                    const QRectF drawn = session.law.repainted(*item)->sceneBoundingRect();
+                    QVERIFY2(repainted.contains(drawn.center()), qPrintable(before));
                     ++changes;
                 }
             }

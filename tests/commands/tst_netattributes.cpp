@@ -1,13 +1,10 @@
 #include "properties/commands/TCmdNet.h"
-#include "tests/host/Network.h"
+#include "tests/commands/SheetDesign.h"
 #include "tests/support/TestMain.h"
 
-#include <application/TProject.h>
-#include <application/TSchematic.h>
 #include <objects/TGraphicsRatLineItem.h>
 
-#include <QGraphicsView>
-#include <QtTest>
+#include <QUndoStack>
 
 namespace {
 
@@ -265,6 +262,103 @@ private slots:
         }
         QCOMPARE(design.Model().NetClass("A"), QString("Power"));
         QCOMPARE(design.Model().Priority("A"), QString("1"));
+    }
+
+    // Colour in the schematic.
+
+    void colorInTheSchematicReachesModelAndPages()
+    {
+        Test::SheetDesign design;
+        design.Model().AddNet("A", {}, Qt::red, Qt::green, 0);
+        design.AddNets({"B"});
+        TGraphicsNetItem* wire = design.sheet.Wire({0, 0}, {50, 0}, "A");
+        TGraphicsNetItem* other = design.sheet.Wire({0, 50}, {50, 50}, "B");
+        design.sheet.GoToPage(design.sheet.AddPage());
+        TGraphicsPortItem* port = design.sheet.Port({0, 0}, "A");
+        for (TGraphicsItem* item : QList<TGraphicsItem*>{wire, port}) {
+            item->SetAltColor(Qt::red);
+        }
+        for (const QColor& color : {QColor(Qt::blue), QColor()}) {
+            TCmdNetColorSch command("A", color, &design.sheet);
+            QCOMPARE(command.id(), -1);
+            Test::CheckBothWays(command, design);
+            command.redo();
+            QCOMPARE(design.Model().ColorSch(0), color);
+            QCOMPARE(design.Model().ColorPcb(0), QColor(Qt::green));
+            QCOMPARE(wire->AltColor(), color);
+            QCOMPARE(port->AltColor(), color);
+            QVERIFY(!other->AltColor().isValid());
+            command.undo();
+            QCOMPARE(wire->AltColor(), QColor(Qt::red));
+        }
+    }
+
+    void undoGivesAllOnThePagesTheColorOfTheNet()
+    {
+        Test::SheetDesign design;
+        design.AddNets({"A"});
+        TGraphicsNetItem* wire = design.sheet.Wire({0, 0}, {50, 0}, "A");
+        wire->SetAltColor(Qt::yellow);
+        TCmdNetColorSch command("A", Qt::blue, &design.sheet);
+        design.Model().SetColorSch("A", Qt::cyan); // The old colour is read when the command is made.
+        command.redo();
+        command.undo();
+        QVERIFY(!wire->AltColor().isValid());
+        QVERIFY(!design.Model().ColorSch(0).isValid());
+    }
+
+    void aNetUnknownToTheModelIsColouredOnThePages()
+    {
+        Test::SheetDesign design;
+        TGraphicsNetItem* wire = design.sheet.Wire({0, 0}, {50, 0}, "A");
+        TCmdNetColorSch command("A", Qt::blue, &design.sheet);
+        command.redo();
+        QCOMPARE(wire->AltColor(), QColor(Qt::blue));
+        QCOMPARE(design.Nets(), QStringList());
+        command.undo();
+        QVERIFY(!wire->AltColor().isValid());
+        TCmdNetColorSch withoutSchematic("A", Qt::blue, nullptr);
+        withoutSchematic.redo();
+        withoutSchematic.undo();
+        QVERIFY(!wire->AltColor().isValid());
+    }
+
+    // Names.
+
+    // Intended: both hold the place of commands to come.
+    void nameCommandsChangeNothing_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::newRow("on the schematic") << static_cast<int>(TWorkspace::SchematicMode);
+        QTest::newRow("on the board") << static_cast<int>(TWorkspace::BoardMode);
+        QTest::newRow("without a workspace") << -1;
+    }
+    void nameCommandsChangeNothing()
+    {
+        QFETCH(int, mode);
+        Test::SheetDesign design;
+        design.AddNets({"A"});
+        TGraphicsNetItem* wire = design.sheet.Wire({0, 0}, {50, 0}, "A");
+        design.board.Wire({0, 0}, {50, 0}, "A");
+        design.sheet.Port({0, 50}, "A");
+        TWorkspace workspace;
+        workspace.SetMode(static_cast<TWorkspace::DocumentMode>(mode));
+        TWorkspace* used = mode < 0 ? nullptr : &workspace;
+        TCmdNetName name(wire, "B", used, &design.project);
+        TCmdFragmName fragment(wire, "B", used, &design.project);
+        const QString before = design.Dump();
+        for (TCmdNetName* command : {&name, static_cast<TCmdNetName*>(&fragment)}) {
+            QCOMPARE(command->id(), -1);
+            command->redo();
+            QCOMPARE(design.Dump(), before);
+            command->SetNetNameOnSch("C");
+            command->SetNetNameOnPcb("C");
+            command->undo();
+            QCOMPARE(design.Dump(), before);
+        }
+        QUndoStack stack;
+        stack.push(new TCmdNetName(nullptr, "B", used, nullptr));
+        QCOMPARE(stack.count(), 1); // The undo step is there all the same.
     }
 };
 

@@ -22,6 +22,16 @@ struct Change
 /** A change for each attribute of each kind. */
 const QList<Change>& StateChanges();
 
+/** The changes of what schematics alone have. */
+QList<Change> StateChangesOfSheets();
+
+/** Makes a change of an item of a class. */
+template <class Item, class Call>
+std::function<void(TGraphicsItem&)> On(Call call)
+{
+    return [call](TGraphicsItem& item) { call(static_cast<Item&>(item)); };
+}
+
 /** Places an item of a kind on a board, which owns it. */
 template <class Item>
 TGraphicsItem* Placed(TestBoard& board)

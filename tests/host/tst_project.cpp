@@ -52,7 +52,7 @@ private slots:
         QCOMPARE(model.DeleteNet("none"), QVector<QVariant>());
     }
 
-    void aDeletedNetComesBackWithItsRow()
+    void aDeletedNetComesBackToItsRow()
     {
         TNetModel model;
         for (const char* net : {"A", "B", "C"}) {

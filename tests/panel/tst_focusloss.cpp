@@ -90,6 +90,22 @@ const HalfEdit halfEdits[] = {
      [](TPropertySet* set) { TypeNumber(Test::RowOf<TPropertyFloatSpin>(set, "Line width:")->spin, false); }},
     {"side of a package", Test::MakePackageSet,
      [](TPropertySet* set) { OpenPopup(qobject_cast<QComboBox*>(Test::FindRow(set, "Side:")->Editor())); }},
+    {"level of a net", Test::MakeNetSet,
+     [](TPropertySet* set) { OpenPopup(Test::RowOf<TPropertyEnum>(set, "Level:")->Box()); }},
+    {"name of a bus, written at once", Test::MakeBusSet,
+     [](TPropertySet* set) { Test::TypeHalfText(Test::FindRow(set, "Name"), "X"); }},
+    {"name of a pin", Test::MakePinSet,
+     [](TPropertySet* set) { Test::TypeHalfText(Test::FindRow(set, "Name:"), "X"); }},
+    {"type of a pin", Test::MakePinSet,
+     [](TPropertySet* set) { OpenPopup(Test::RowOf<TPropertyEnum>(set, "Type:")->Box()); }},
+    {"name of a port", Test::MakePortSet,
+     [](TPropertySet* set) { Test::TypeHalfText(Test::FindRow(set, "Name:"), "X"); }},
+    {"name of a tag", Test::MakeTagSet,
+     [](TPropertySet* set) { Test::TypeHalfText(Test::FindRow(set, "Name:"), "X"); }},
+    {"line width of a tag, written at once", Test::MakeTagSet,
+     [](TPropertySet* set) { TypeNumber(Test::RowOf<TPropertyFloatSpin>(set, "Line width:")->spin, false); }},
+    {"symbol of a net tie", Test::MakeNetTieSymbolSet,
+     [](TPropertySet* set) { OpenPopup(Test::RowOf<TPropertyEnum>(set, "Symbol:")->Box()); }},
 };
 
 /** What takes the editor away. */
@@ -109,12 +125,12 @@ const Removal removals[] = {
     {"tree deleted", true, [](Test::PanelWindow& place, Test::KindsBoard&) { delete place.Tree(); }},
     {"items gone, then no set", false,
      [](Test::PanelWindow& place, Test::KindsBoard& board) {
-         board.Scene()->clear();
+         board.DeleteItems();
          place.panel->SetPropertySet(nullptr);
      }},
     {"items gone, then panel deleted", false,
      [](Test::PanelWindow& place, Test::KindsBoard& board) {
-         board.Scene()->clear();
+         board.DeleteItems();
          delete place.panel;
      }},
 };
@@ -151,7 +167,7 @@ private slots:
         QFETCH(const Removal*, removal);
         QFETCH(bool, bypass);
         Test::KindsBoard board;
-        for (TGraphicsItem* item : board.Items()) {
+        for (TGraphicsItem* item : board.AllItems()) {
             item->SetTFlag(TGraphicsItem::UndoBypass, bypass);
         }
         Test::PanelWindow place;
@@ -161,7 +177,7 @@ private slots:
         halfEdit->edit(set);
         QVERIFY(QApplication::focusWidget() && QApplication::focusWidget() != place.elsewhere);
 
-        const QString dump = board.Dump();
+        const QString dump = board.DumpAll();
         const int commands = log.Count();
         removal->remove(place, board);
         Test::Settle();
@@ -171,7 +187,7 @@ private slots:
         }
         QCOMPARE(log.Count(), commands);
         if (removal->keepsItems) {
-            QCOMPARE(board.Dump(), dump);
+            QCOMPARE(board.DumpAll(), dump);
         }
     }
 

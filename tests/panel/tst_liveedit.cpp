@@ -1,3 +1,4 @@
+#include "tests/panel/KindsBoard.h"
 #include "tests/support/Observers.h"
 #include "tests/support/PanelFixture.h"
 #include "tests/support/TestBoard.h"
@@ -7,20 +8,6 @@
 #include "properties/rows/TPropertyEnum.h"
 #include "properties/rows/TPropertyFloatSpin.h"
 #include "properties/rows/TPropertyText.h"
-#include "properties/sets/TPropertySetForHole.h"
-#include "properties/sets/TPropertySetForKeepout.h"
-#include "properties/sets/TPropertySetForMilling.h"
-#include "properties/sets/TPropertySetForNetTiePcb.h"
-#include "properties/sets/TPropertySetForNetTieSch.h"
-#include "properties/sets/TPropertySetForPackage.h"
-#include "properties/sets/TPropertySetForPad.h"
-#include "properties/sets/TPropertySetForPour.h"
-#include "properties/sets/TPropertySetForPrimitives.h"
-#include "properties/sets/TPropertySetForText.h"
-#include "properties/sets/TPropertySetForVia.h"
-#include "properties/sets/TPropertySetForWire.h"
-
-#include <application/TProject.h>
 
 #include <workspace/TDoubleSpinBox.h>
 
@@ -93,6 +80,8 @@ public:
 
 } // namespace
 
+Q_DECLARE_METATYPE(Test::MakeKindsSet)
+
 /** What goes on around an editor that has the focus. */
 class TestLiveEdit : public QObject
 {
@@ -118,6 +107,45 @@ private slots:
             session.stack.redo();
         }
         QCOMPARE(session.board.Dump(), after);
+    }
+
+    void returnEndsInOneStateOfEveryKind_data()
+    {
+        QTest::addColumn<Test::MakeKindsSet>("makeSet");
+        QTest::addColumn<QString>("label");
+        QTest::newRow("pad") << Test::MakePadSet << "Number:";
+        QTest::newRow("net tie") << Test::MakeNetTieSet << "Name:";
+        QTest::newRow("net tie symbol") << Test::MakeNetTieSymbolSet << "Name:";
+        QTest::newRow("pin, name") << Test::MakePinSet << "Name:";
+        QTest::newRow("pin, number") << Test::MakePinSet << "Number:";
+        QTest::newRow("port") << Test::MakePortSet << "Name:";
+        QTest::newRow("tag") << Test::MakeTagSet << "Name:";
+    }
+
+    void returnEndsInOneStateOfEveryKind()
+    {
+        QFETCH(Test::MakeKindsSet, makeSet);
+        QFETCH(QString, label);
+        Test::KindsBoard board;
+        Test::PanelWindow place;
+        QUndoStack stack;
+        const QString before = board.DumpAll();
+        TPropertySet* set = makeSet(board);
+        connect(set, &TPropertySet::sigCmd, &stack, [&stack](TUndoCommand* command) { stack.push(command); });
+        place.Show(set);
+        auto* row = Test::RowOf<TPropertyText>(set, label);
+        Test::TypeHalfText(row, "new");
+        QTest::keyClick(row->line->edit, Qt::Key_Return);
+        Test::Settle();
+        const QString once = board.DumpAll();
+        QVERIFY(once != before);
+        emit row->line->textChanged("new"); // The toolkit may end an edit twice.
+        QCOMPARE(board.DumpAll(), once);
+        QVERIFY(stack.count() > 1);
+        stack.setIndex(0);
+        QCOMPARE(board.DumpAll(), before);
+        stack.setIndex(stack.count());
+        QCOMPARE(board.DumpAll(), once);
     }
 
     void undoAndRedoWhileTextIsTyped()
@@ -250,7 +278,9 @@ private slots:
     void slotsWithoutItemsDoNothing()
     {
         Test::TestBoard board;
+        TSchematic schematic;
         TProject project;
+        project.SetSchematic(&schematic);
         qRegisterMetaType<Qt::PenStyle>();
         const QList<TGraphicsItem*> package{board.AddPackage()};
         const QList<TGraphicsItem*> via{board.AddVia()};
@@ -266,10 +296,16 @@ private slots:
         TPropertySetForMilling paths(package);
         TPropertySetForKeepout keepouts(package);
         TPropertySetForPour pours(package, board.Sides());
+        TPropertySetForNet nets(package, &schematic);
+        TPropertySetForBus buses(package);
+        TPropertySetForPin pins(package);
+        TPropertySetForPort ports(package, &schematic);
+        TPropertySetForPart parts(package);
+        TPropertySetForTag tags(package, &project);
         const QString before = board.Dump();
-        for (TPropertySet* set :
-             std::initializer_list<TPropertySet*>{&vias, &pads, &holes, &wires, &packages, &ties, &symbols, &texts,
-                                                  &drawings, &paths, &keepouts, &pours}) {
+        for (TPropertySet* set : std::initializer_list<TPropertySet*>{
+                 &vias, &pads, &holes, &wires, &packages, &ties, &symbols, &texts, &drawings, &paths, &keepouts, &pours,
+                 &nets, &buses, &pins, &ports, &parts, &tags}) {
             const Test::CommandLog log(*set);
             const QMetaObject* kind = set->metaObject();
             int count = 0;

@@ -16,16 +16,22 @@
 #include "properties/rows/TPropertySeparator.h"
 #include "properties/rows/TPropertySize.h"
 #include "properties/rows/TPropertyText.h"
+#include "properties/sets/TPropertySetForBus.h"
 #include "properties/sets/TPropertySetForHole.h"
 #include "properties/sets/TPropertySetForKeepout.h"
 #include "properties/sets/TPropertySetForMilling.h"
+#include "properties/sets/TPropertySetForNet.h"
 #include "properties/sets/TPropertySetForNetTiePcb.h"
 #include "properties/sets/TPropertySetForNetTieSch.h"
 #include "properties/sets/TPropertySetForOutline.h"
 #include "properties/sets/TPropertySetForPackage.h"
 #include "properties/sets/TPropertySetForPad.h"
+#include "properties/sets/TPropertySetForPart.h"
+#include "properties/sets/TPropertySetForPin.h"
+#include "properties/sets/TPropertySetForPort.h"
 #include "properties/sets/TPropertySetForPour.h"
 #include "properties/sets/TPropertySetForPrimitives.h"
+#include "properties/sets/TPropertySetForTag.h"
 #include "properties/sets/TPropertySetForText.h"
 #include "properties/sets/TPropertySetForVia.h"
 #include "properties/sets/TPropertySetForWire.h"
@@ -152,6 +158,29 @@ const Signature signatures[] = {
       "SetLineWidth(double)", "SetMinimumArea(double)", "SetOnlyConnected(bool)", "SetPriority(int)",
       "SetThermalEn(bool)", "SetThermalLine(double)", "SetThermalIsol(double)", "SetLayer(Osmirel::Layer)",
       "SetNet(QString)", "FillTypeChanged(int)", "ThermalTypeChanged(int)", "SetCompMode(int)", "SetAlpha(int)"}},
+    {&TPropertySetForNet::staticMetaObject,
+     &TPropertySet::staticMetaObject,
+     {},
+     {"slotSetClass(QString)", "slotSetPrio(QString)", "slotSetColor(QColor)"}},
+    {&TPropertySetForBus::staticMetaObject, &TPropertySet::staticMetaObject, {}, {"SetName(QString)"}},
+    {&TPropertySetForPin::staticMetaObject,
+     &TPropertySet::staticMetaObject,
+     {},
+     {"SetName(QString)", "SetNameVisible(bool)", "SetNumber(QString)", "SetNumberVisible(bool)", "SetPinType(int)",
+      "SetPinStyle(int)", "SetPinLength(int)", "SetSwap(int)"}},
+    {&TPropertySetForPort::staticMetaObject,
+     &TPropertySet::staticMetaObject,
+     {},
+     {"SetName(QString)", "SetNameVis(bool)"}},
+    {&TPropertySetForPart::staticMetaObject,
+     &TPropertySet::staticMetaObject,
+     {},
+     {"SetLockRefDes(bool)", "SetLockValue(bool)"}},
+    {&TPropertySetForTag::staticMetaObject,
+     &TPropertySet::staticMetaObject,
+     {},
+     {"SetLine(double)", "SetFontName(QString)", "SetFontSize(int)", "SetAlign(int)", "SetName(QString)",
+      "SetTrueTrue(int)"}},
 };
 
 QStringList OwnMethods(const QMetaObject* kind, QMetaMethod::MethodType type)
@@ -290,7 +319,8 @@ private slots:
             {"slotSetLineWidth"},
             {"slotSetLineWidth"},
             {"SetClearanceToEtch", "SetClearanceToBorder", "SetClearanceToPour", "SetLineWidth", "SetMinimumArea",
-             "SetThermalLine", "SetThermalIsol"}};
+             "SetThermalLine", "SetThermalIsol"},
+            {"SetLine"}};
         for (int set = 0; set < slotNames.size(); ++set) {
             for (const QByteArray& name : slotNames[set]) {
                 QTest::addRow("%d: %s(qreal)", set, name.constData()) << name + "(qreal)" << set;
@@ -312,7 +342,8 @@ private slots:
         TPropertySetForPrimitives drawing({}, {});
         TPropertySetForMilling milling({});
         TPropertySetForPour pour({}, {});
-        const QList<TPropertySet*> sets{&via, &pad, &hole, &wire, &tie, &text, &drawing, &milling, &pour};
+        TPropertySetForTag tag({}, nullptr);
+        const QList<TPropertySet*> sets{&via, &pad, &hole, &wire, &tie, &text, &drawing, &milling, &pour, &tag};
         TPropertyFloatSpin row("Number:", 0, 10, 1, 1);
         for (const char* signalName : {SIGNAL(sigValueChanged(qreal)), SIGNAL(sigValueChanged(double))}) {
             QVERIFY(connect(&row, signalName, sets[set], "1" + slotName));

@@ -26,7 +26,7 @@ QList<TGraphicsItem*> ModelledItems(const TBoard& board)
 } // namespace
 
 PanelSession::PanelSession(std::unique_ptr<TDesign> edited, PanelWindow& shownIn)
-    : design(std::move(edited)), items(ModelledItems(design->Board())), model(design->Board(), items), window(shownIn)
+    : design(std::move(edited)), items(ModelledItems(*design->Board())), model(*design->Board(), items), window(shownIn)
 {}
 
 PanelSession::~PanelSession()
@@ -114,7 +114,7 @@ QString PanelSession::Disagreement() const
             return differ(QStringLiteral("item %1").arg(item), line, model.Line(item));
         }
     }
-    if (ModelledItems(design->Board()) != items) {
+    if (ModelledItems(*design->Board()) != items) {
         return QStringLiteral("the board has other items");
     }
     if (stack.count() != model.StackCount() || stack.index() != model.StackIndex()) {

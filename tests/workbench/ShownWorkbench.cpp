@@ -3,10 +3,12 @@
 #include "properties/rows/TPropertyFloatSpin.h"
 #include "properties/TPropertySet.h"
 #include "properties/TPropertyWidget.h"
-#include "workbench/LoadBoard.h"
+#include "workbench/importer/ProjectImporter.h"
+#include "workbench/LoadDesign.h"
 #include "workbench/session/RunSteps.h"
 #include "workbench/session/TSession.h"
 #include "workbench/TCanvas.h"
+#include "workbench/TDocumentTabs.h"
 #include "workbench/TPropertyEditing.h"
 
 #include <objects/TGraphicsPackageItem.h>
@@ -99,17 +101,18 @@ ShownWorkbench::ShownWorkbench() : window(std::make_unique<TMainWindow>())
 {
     TImportResult result;
     result.board = MakeBoard();
-    window->ShowBoard(std::move(result), "test board");
+    window->ShowDesign(std::move(result), "test board");
     Show();
 }
 
-ShownWorkbench::ShownWorkbench(const QString& file) : window(std::make_unique<TMainWindow>())
+ShownWorkbench::ShownWorkbench(const QString& file) : ShownWorkbench(ImportDesign(file)) {}
+
+ShownWorkbench::ShownWorkbench(TImportResult result) : window(std::make_unique<TMainWindow>())
 {
-    TImportResult result = ImportBoard(file);
-    if (!result.board) {
+    if (!HasDesign(result)) {
         qFatal("%s", qPrintable(result.error));
     }
-    window->ShowBoard(std::move(result), file);
+    window->ShowDesign(std::move(result), "test design");
     Show();
 }
 
@@ -170,7 +173,8 @@ TDoubleSpinBox* ShownWorkbench::Number(const QString& label) const
 QList<TGraphicsItem*> ShownWorkbench::Items(int type) const
 {
     QList<TGraphicsItem*> items;
-    for (TGraphicsItem* item : window->Board()->Items()) {
+    const QList<TGraphicsItem*> shown = window->Design()->ItemsOf(window->Tabs().Document());
+    for (TGraphicsItem* item : shown) {
         if (item->type() == type) {
             items.append(item);
         }
@@ -186,8 +190,13 @@ int ShownWorkbench::TakeSetsShown()
 
 void ShownWorkbench::Click(const TGraphicsItem* item, Qt::KeyboardModifiers modifiers)
 {
+    ClickAt(item->scenePos(), modifiers);
+}
+
+void ShownWorkbench::ClickAt(const QPointF& scenePoint, Qt::KeyboardModifiers modifiers)
+{
     const TCanvas& canvas = window->Canvas();
-    QTest::mouseClick(canvas.viewport(), Qt::LeftButton, modifiers, canvas.mapFromScene(item->scenePos()));
+    QTest::mouseClick(canvas.viewport(), Qt::LeftButton, modifiers, canvas.mapFromScene(scenePoint));
 }
 
 void ShownWorkbench::Drag(const QPointF& from, const QPointF& to, Qt::KeyboardModifiers modifiers)

@@ -27,7 +27,7 @@ struct Outcome
 /**
  * The workbench's window with a board of four layers: three vias (0.6, 0.8 and 1.0 mm), two surface pads of no package
  * ("1" and "2"), a package with a pad through the board ("A") and two holes (1 and 2 mm), in this order and 10 mm
- * apart from left to right. Or with the sample board.
+ * apart from left to right. Or with another design.
  */
 class ShownWorkbench : public QObject
 {
@@ -36,6 +36,7 @@ class ShownWorkbench : public QObject
 public:
     ShownWorkbench();
     explicit ShownWorkbench(const QString& file);
+    explicit ShownWorkbench(TImportResult result);
 
     /** Parses and does the steps. */
     Outcome Run(const QStringList& arguments);
@@ -48,13 +49,14 @@ public:
     TAbstractProperty* Row(const QString& label) const;
     /** The number box of that row, null if there is none. */
     TDoubleSpinBox* Number(const QString& label) const;
-    /** The items of a kind, in the design's order. */
+    /** The items of a kind in the document that is shown, in the design's order. */
     QList<TGraphicsItem*> Items(int type) const;
     /** How many times the panel was given another set, or none, since the last call. */
     int TakeSetsShown();
 
     /** Presses and releases the left button above an item. */
     void Click(const TGraphicsItem* item, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void ClickAt(const QPointF& scenePoint, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     /** Drags from one point of the scene to another with some moves on the way. */
     void Drag(const QPointF& from, const QPointF& to, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 

@@ -1,6 +1,6 @@
 #include "tests/support/TestMain.h"
 #include "tests/workbench/ShownWorkbench.h"
-#include "workbench/LoadBoard.h"
+#include "workbench/LoadDesign.h"
 #include "workbench/session/CommandLine.h"
 #include "workbench/session/TSessionError.h"
 #include "workbench/TSelection.h"
@@ -139,10 +139,12 @@ void TestCommandLine::tellsEveryOption()
 {
     QVERIFY(TCommandLine::Parse({"--help"}).help);
     const QString usage = TCommandLine::Usage();
-    for (const QString& option :
-         Words("--select --panel --set --key --bypass --rename --revalue --lock --unlock --connect --disconnect "
-               "--add-node --remove-node --designators --values --show-layers --hide-layers --zoom "
-               "--undo --redo --history --dump --screenshot --timing --help")) {
+    for (
+        const QString& option : Words(
+            "--select --panel --set --key --bypass --rename --revalue --lock --unlock --connect --disconnect "
+            "--disconnect-entries --add-node --remove-node --priority --tie-width --resize --page --board --tree "
+            "--open-page --open-part --close-symbol --rename-page --rename-part --designators --values --show-layers --hide-layers --zoom "
+            "--undo --redo --history --dump --screenshot --timing --help")) {
         QVERIFY2(usage.contains("  " + option + ' '), qPrintable(option));
     }
 }
@@ -252,7 +254,7 @@ void TestCommandLine::aStepThatFailsEndsTheRun_data()
         "there is no layer \"Middle\"; the board has Top, Inner 1, Inner 2, Bottom");
     row("zoom to nothing", {"--panel"}, {"--zoom", "selection"}, "nothing is selected");
     row("a name for vias", via, {"--rename", "U7"}, "select packages that are not named on the schematic first");
-    row("a lock for vias", via, {"--lock"}, "select packages first");
+    row("a lock for vias", via, {"--lock"}, "select packages or parts first");
     row("a node in a via", via, {"--add-node", "1,2"}, "select one wire first");
     row("a node between vias", via, {"--remove-node"},
         "select a wire that ends where the next one begins, or those two first");

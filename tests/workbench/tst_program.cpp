@@ -39,6 +39,21 @@ QByteArray ContentOf(const QString& fileName)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
 }
 
+/** A row for each real file of that kind. */
+void AddRealFiles(const QString& pattern)
+{
+    QTest::addColumn<QString>("file");
+    const QString folder = PROPERTIES_DESIGNS_DIR;
+    if (folder.isEmpty()) {
+        QSKIP("There is no folder of real designs");
+    }
+    QDirIterator files(folder, {pattern}, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString file = files.next();
+        QTest::newRow(qPrintable(files.fileName())) << file;
+    }
+}
+
 } // namespace
 
 class TestProgram : public QObject
@@ -53,6 +68,8 @@ private slots:
     void theTourLeavesAPicture();
     void realDesignsComeBackAfterUndo_data();
     void realDesignsComeBackAfterUndo();
+    void realProjectsComeBackAfterUndo_data();
+    void realProjectsComeBackAfterUndo();
 };
 
 void TestProgram::theProgramKeepsResultsApart()
@@ -65,7 +82,7 @@ void TestProgram::theProgramKeepsResultsApart()
     const ProgramRun run = RunProgram({"--select", "via[0]", "--history"});
     QCOMPARE(run.code, 0);
     QCOMPARE(run.results, QString("selected: 1 via\nhistory: 0 of 0 done\n"));
-    QVERIFY(run.messages.startsWith("reading sample board\n"));
+    QVERIFY(run.messages.startsWith("reading sample project\n"));
 }
 
 void TestProgram::theProgramEndsWithTwoAfterErrors_data()
@@ -130,16 +147,7 @@ void TestProgram::theTourLeavesAPicture()
 
 void TestProgram::realDesignsComeBackAfterUndo_data()
 {
-    QTest::addColumn<QString>("file");
-    const QString folder = PROPERTIES_DESIGNS_DIR;
-    if (folder.isEmpty()) {
-        QSKIP("There is no folder of real designs");
-    }
-    QDirIterator files(folder, {"*.kicad_pcb"}, QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        const QString file = files.next();
-        QTest::newRow(qPrintable(files.fileName())) << file;
-    }
+    AddRealFiles("*.kicad_pcb");
 }
 
 void TestProgram::realDesignsComeBackAfterUndo()
@@ -152,6 +160,49 @@ void TestProgram::realDesignsComeBackAfterUndo()
     QVERIFY2(run.code == 0, qPrintable(run.messages));
     const QByteArray before = ContentOf(folder.filePath("before"));
     QVERIFY(before.count('\n') > 10);
+    QVERIFY(ContentOf(folder.filePath("edited")) != before);
+    QCOMPARE(ContentOf(folder.filePath("undone")), before);
+}
+
+void TestProgram::realProjectsComeBackAfterUndo_data()
+{
+    AddRealFiles("*.kicad_pro");
+}
+
+void TestProgram::realProjectsComeBackAfterUndo()
+{
+    QFETCH(QString, file);
+    const QTemporaryDir folder;
+    const ProgramRun run = RunProgram({file,
+                                       "--dump",
+                                       "before",
+                                       "--page",
+                                       "1",
+                                       "--select",
+                                       "part",
+                                       "--revalue",
+                                       "new",
+                                       "--disconnect",
+                                       "--select",
+                                       "pin",
+                                       "--set",
+                                       "Type:=Input",
+                                       "--select",
+                                       "netwire",
+                                       "--priority",
+                                       "4",
+                                       "--rename-page",
+                                       "1=Front page",
+                                       "--dump",
+                                       "edited",
+                                       "--undo",
+                                       "5",
+                                       "--dump",
+                                       "undone"},
+                                      folder.path());
+    QVERIFY2(run.code == 0, qPrintable(run.messages));
+    const QByteArray before = ContentOf(folder.filePath("before"));
+    QVERIFY(before.contains("\npage 1\n") && before.contains("\ntreepart "));
     QVERIFY(ContentOf(folder.filePath("edited")) != before);
     QCOMPARE(ContentOf(folder.filePath("undone")), before);
 }

@@ -1,7 +1,7 @@
 #include "tests/support/TestMain.h"
 #include "tests/workbench/FreePads.h"
 #include "tests/workbench/PanelSession.h"
-#include "workbench/LoadBoard.h"
+#include "workbench/LoadDesign.h"
 
 #include <QtTest>
 
@@ -49,7 +49,7 @@ const QStringList texts{"1", "", "A1", "say \"x\" \\ ", "1", QString::fromUtf8("
 std::unique_ptr<TDesign> SampleWithFreePads()
 {
     auto design = std::make_unique<TDesign>(ImportBoard(SampleBoardFile()));
-    Test::FreePads(design->Board(), 2);
+    Test::FreePads(*design->Board(), 2);
     return design;
 }
 

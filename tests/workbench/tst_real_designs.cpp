@@ -3,8 +3,9 @@
 #include "tests/support/TestMain.h"
 #include "tests/workbench/FreePads.h"
 #include "tests/workbench/PanelCells.h"
+#include "workbench/importer/ProjectImporter.h"
 #include "workbench/Kinds.h"
-#include "workbench/LoadBoard.h"
+#include "workbench/LoadDesign.h"
 #include "workbench/TDesign.h"
 
 #include <application/TNetModel.h>
@@ -35,11 +36,12 @@ constexpr int mostItems = std::numeric_limits<int>::max();
 
 constexpr double sceneUnitsPerMillimetre = 11.811023622047244;
 
+/** The state of each item, parallel to the items; one that a command has taken off the design has none. */
 QStringList LinesOf(const Items& items)
 {
     QStringList lines;
     for (const TGraphicsItem* item : items) {
-        lines.append(item->StateLine());
+        lines.append(item->Owner() ? item->StateLine() : QStringLiteral("away"));
     }
     return lines;
 }
@@ -79,18 +81,21 @@ struct Use
     double width = 0;            ///< Of the size row, in millimetres, after the edit.
 };
 
-/** These edits change more than what is selected: what it is linked to, and the rat lines. */
+/** These edits change more than what is selected: what it is linked to, its net, its other side, and the rat lines. */
 bool ReachesFurther(const QString& cell)
 {
     static const QSet<QString> cells{
-        "wire Width:", "wire Color:", "wire Layer:", "package Side:", "via Drill pair:", "pad Side:", "pad Type:"};
+        "wire Width:", "wire Color:",  "wire Layer:",      "package Side:",      "via Drill pair:",
+        "pad Side:",   "pad Type:",    "netwire Color:",   "netwire Level:",     "netwire Net class:",
+        "port Name:",  "nettie Name:", "nettie Name:show", "nettiesymbol Name:", "nettiesymbol Name:show"};
     return cells.contains(cell);
 }
 
 /** By intention these are written at once and leave no undo step. */
 bool IsWrittenAtOnce(const QString& cell)
 {
-    static const QSet<QString> cells{"package Lock:1", "package Lock:2", "text Line width:"};
+    static const QSet<QString> cells{"package Lock:1", "package Lock:2",   "part Lock:1",    "part Lock:2",
+                                     "bus Name",       "text Line width:", "tag Line width:"};
     return cells.contains(cell);
 }
 
@@ -114,7 +119,7 @@ void ApplyHeightException(const Use& use, StateFields& pad)
 void ApplyTextExceptions(const Use& use, const StateFields& done, StateFields& text)
 {
     constexpr double millimetresPerPoint = 0.3528;
-    if (use.cell == "text Font size:") {
+    if (use.cell == "text Font size:" || use.cell == "tag Font size:") {
         const double points = std::round(text.Number("pixels") / (millimetresPerPoint * sceneUnitsPerMillimetre));
         const int pixels = static_cast<int>(points * millimetresPerPoint * sceneUnitsPerMillimetre);
         text.Set("pixels", pixels > 0 ? pixels : done.Integer("pixels"));
@@ -143,15 +148,12 @@ QString WithVisibility(QString line, bool shown)
     return shown ? line : line.replace(QStringLiteral(" text="), QStringLiteral(" visible=no text="));
 }
 
-/** Whether an item is the designator or the value of one of these packages. */
-bool IsTextOf(const QSet<TGraphicsItem*>& packages, const TGraphicsItem& item)
+/** Whether an item is the designator or the value of one of these packages and parts. */
+bool IsTextOf(const QSet<TGraphicsItem*>& components, const TGraphicsItem& item)
 {
     auto* parent = static_cast<TGraphicsItem*>(item.parentItem());
-    if (!packages.contains(parent) || parent->type() != ItemType::Package) {
-        return false;
-    }
-    const auto* package = static_cast<const TGraphicsPackageItem*>(parent);
-    return package->RefDesText() == &item || package->ValueText() == &item;
+    const auto* component = components.contains(parent) ? dynamic_cast<TGraphicsComponentItem*>(parent) : nullptr;
+    return component && (component->RefDesText() == &item || component->ValueText() == &item);
 }
 
 } // namespace
@@ -176,23 +178,28 @@ private slots:
     {
         QTest::addColumn<QString>("file");
         QTest::addColumn<bool>("freePads");
-        for (const QString& file : QStringList(SampleBoardFile()) + Files()) {
+        for (const QString& file : QStringList{SampleProjectFile(), SampleBoardFile()} + Files()) {
             const QByteArray name = QFileInfo(file).fileName().toUtf8();
             QTest::newRow(name) << file << false;
-            QTest::newRow(name + ", pads without packages") << file << true;
+            if (file.endsWith(QStringLiteral(".kicad_pcb"))) {
+                QTest::newRow(name + ", pads without packages") << file << true;
+            }
         }
     }
     void everyEditIsUndoneAndRedone()
     {
         QFETCH(QString, file);
         QFETCH(bool, freePads);
-        TImportResult imported = ImportBoard(file);
-        QVERIFY2(imported.board, qPrintable(imported.error));
+        TImportResult imported = ImportDesign(file);
+        QVERIFY2(HasDesign(imported), qPrintable(imported.error));
         design = std::make_unique<TDesign>(std::move(imported));
-        QGraphicsView view(design->Board().Scene());
-        design->Board().SetView(&view);
+        QGraphicsView view;
+        if (TBoard* board = design->Board()) {
+            view.setScene(board->Scene());
+            board->SetView(&view);
+        }
         if (freePads) {
-            Test::FreePads(design->Board(), 1);
+            Test::FreePads(*design->Board(), 1);
         }
         ReadItems();
         if (items.size() > mostItems) {
@@ -203,7 +210,7 @@ private slots:
             Items ofKind;
             std::copy_if(items.cbegin(), items.cend(), std::back_inserter(ofKind),
                          [&kind](const TGraphicsItem* item) { return Kinds::Of(*item) == &kind; });
-            if (ofKind.isEmpty() || (freePads && kind.type != ItemType::Pad)) {
+            if (ofKind.isEmpty() || !kind.makeSet || (freePads && kind.type != ItemType::Pad)) {
                 continue;
             }
             for (const Items& selection : Selections(ofKind)) {
@@ -227,7 +234,7 @@ private:
     {
         QStringList files;
         const QString folder = QStringLiteral(PROPERTIES_DESIGNS_DIR);
-        QDirIterator found(folder, {"*.kicad_pcb"}, QDir::Files, QDirIterator::Subdirectories);
+        QDirIterator found(folder, {"*.kicad_pcb", "*.kicad_pro"}, QDir::Files, QDirIterator::Subdirectories);
         while (!folder.isEmpty() && found.hasNext()) {
             files.append(found.next());
         }
@@ -245,19 +252,34 @@ private:
 
     std::vector<PanelCell> Cells() const { return Test::PanelCells(*window->panel->PropertySet()); }
 
-    /** The items, rat lines excepted, which come and go, and the whole design's dump. */
+    /** The items of all documents, rat lines excepted, which come and go, and the whole design's dump. */
     void ReadItems()
     {
         items.clear();
-        for (TGraphicsItem* item : design->Board().Items()) {
-            if (!item->IsDerived()) {
-                items.append(item);
+        for (const TDocument& document : design->Documents()) {
+            for (TGraphicsItem* item : design->ItemsOf(document)) {
+                if (!item->IsDerived()) {
+                    items.append(item);
+                }
             }
         }
+        opened = QSet<const TGraphicsItem*>(items.cbegin(), items.cend());
         dump = Dump();
     }
 
-    QStringList Dump() const { return design->Dump().split(QLatin1Char('\n')); }
+    /** The lines of the items, then of what else there is now, then of the nets and components. */
+    QStringList Dump() const
+    {
+        Items others;
+        for (const TDocument& document : design->Documents()) {
+            for (TGraphicsItem* item : design->ItemsOf(document)) {
+                if (!opened.contains(item)) {
+                    others.append(item);
+                }
+            }
+        }
+        return LinesOf(items) + LinesOf(others) + Models().split(QLatin1Char('\n'));
+    }
 
     /** Edits each cell of the panel that can be edited, and returns how many there were. */
     int EditEveryCell(const Items& selection)
@@ -304,7 +326,7 @@ private:
             ReachesFurther(Kinds::Word(*selection.first()) + QLatin1Char(' ') + Cells()[cell].Name());
         const auto watched = [&] { return reachesFurther ? Dump() : LinesOf(selection); };
         const QStringList before = watched();
-        const QString netsBefore = Nets();
+        const QString modelsBefore = Models();
         const PanelCell edited = Cells()[cell];
         if (!edited.GiveAnotherValue()) {
             return;
@@ -317,14 +339,14 @@ private:
             QVERIFY2(after != before, qPrintable(what));
             return;
         }
-        const bool changesNothing = after == before && Nets() == netsBefore;
+        const bool changesNothing = after == before && Models() == modelsBefore;
         QVERIFY2(stack.index() > 0, qPrintable(what + QStringLiteral(": no undo step")));
         QVERIFY2(!changesNothing || IsIntendedToChangeNothing(selection),
                  qPrintable(what + QStringLiteral(": nothing changed")));
         stack.setIndex(0);
         const QStringList undone = watched();
         ExpectEqual(what + QStringLiteral(" undone"), undone, ExpectedUndone(use, selection, before, after));
-        QCOMPARE(Nets(), netsBefore);
+        QCOMPARE(Models(), modelsBefore);
         stack.setIndex(stack.count());
         ExpectEqual(what + QStringLiteral(" redone"), watched(), after);
         stack.setIndex(0);
@@ -337,7 +359,11 @@ private:
                            [](const TGraphicsItem* item) { return item->parentItem() != nullptr; });
     }
 
-    QString Nets() const { return design->Project().Schematic()->NetModel()->Dump(); }
+    QString Models() const
+    {
+        const TSchematic& schematic = *design->Project().Schematic();
+        return schematic.NetModel()->Dump() + schematic.CmpModel()->Dump() + design->Tree().Dump();
+    }
 
     Use UseOf(const QString& cellName) const
     {
@@ -368,7 +394,7 @@ private:
                 expected[i] = Undone(use, expected[i], after[i]);
             } else if (IsTextOf(moved, *watched[i])) {
                 const auto* package = static_cast<TGraphicsPackageItem*>(watched[i]->parentItem());
-                const TBoard& board = design->Board();
+                const TBoard& board = *design->Board();
                 expected[i] = WithVisibility(expected[i], package->RefDesText() == watched[i] ? board.RefDesVisible()
                                                                                               : board.ValuesVisible());
             }
@@ -396,7 +422,8 @@ private:
     QUndoStack stack;
     std::unique_ptr<TDesign> design;
     Items items;
-    QStringList dump; ///< As it is now; its lines begin with those of the items.
+    QSet<const TGraphicsItem*> opened; ///< The same items.
+    QStringList dump;                  ///< As it is now; its lines begin with those of the items.
 };
 
 PROPERTIES_TEST_MAIN(TestRealDesigns)

@@ -1,7 +1,7 @@
 #include "properties/commands/TCmdWireLayer.h"
 #include "tests/support/TestMain.h"
 #include "tests/workbench/ImportedItems.h"
-#include "workbench/LoadBoard.h"
+#include "workbench/LoadDesign.h"
 
 #include <application/TProject.h>
 #include <graphics/TGraphicsTextItem.h>

@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QMap>
 #include <QPair>
 #include <QString>
 #include <QStringList>
@@ -12,24 +13,31 @@
 #include <functional>
 #include <memory>
 
-/** A board that was read from a file, or else why there is none. */
+/** A design that was read from files, or else why there is none. */
 struct TImportResult
 {
-    /** Null if the file could not be read, or reading was cancelled. A board is never half of what is in its file. */
+    /** Null if there is none, if a file could not be read, and if reading was cancelled. A board is never half of what
+     *  is in its file. */
     std::unique_ptr<TBoard> board;
 
-    /** Where the board's nets have their classes and colours: a schematic with nothing on its page. Null without a
-     *  board. */
+    /** Where the nets have their classes and colours. It has no pages where only a board was read; null if a file could
+     *  not be read, and if reading was cancelled. */
     std::unique_ptr<TSchematic> schematic;
 
-    /** What the file holds and the board does not, with counts: ("track segments", 17921). */
+    /** What the schematic's pages are called, in their order. */
+    QStringList pageNames;
+
+    /** What the tags of the schematic show, by their names. */
+    QMap<QString, QString> tagValues;
+
+    /** What the files hold and the design does not, with counts: ("track segments", 17921). */
     QList<QPair<QString, int>> notShown;
 
-    /** What could not be read besides the board, "file: cause" or "file:line: cause". The board is whole all the same.
+    /** What could not be read besides the design, "file: cause" or "file:line: cause". It is whole all the same.
      */
     QStringList warnings;
 
-    /** "file:line: cause"; empty if there is a board, and if reading was cancelled. */
+    /** "file:line: cause"; empty if all is well, and if reading was cancelled. */
     QString error;
 
     bool cancelled = false;

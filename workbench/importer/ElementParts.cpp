@@ -56,6 +56,12 @@ QString ElementParts::UserName(const TSexpression& atom)
     return name == QLatin1String("~") ? QString() : WithoutWrittenOutCharacters(name);
 }
 
+QString ElementParts::PackageName(const QString& libraryName)
+{
+    const int colon = libraryName.indexOf(QLatin1Char(':'));
+    return colon < 0 ? libraryName : libraryName.mid(colon + 1) + QLatin1Char('@') + libraryName.left(colon);
+}
+
 QString ElementParts::NetName(const TSexpression& element, const TBoardDraft& draft)
 {
     constexpr int noNet = 0;

@@ -23,6 +23,9 @@ QString UserName(const TSexpression& atom);
 /** The same for a name that stands elsewhere than in the board file. */
 QString WithoutWrittenOutCharacters(QString name);
 
+/** A footprint's name with its library behind an at sign, where the file has it in front of a colon. */
+QString PackageName(const QString& libraryName);
+
 /** The name of the net that an element is on, by its `(net number ...)`; empty if it is on none. */
 QString NetName(const TSexpression& element, const TBoardDraft& draft);
 

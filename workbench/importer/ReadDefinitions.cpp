@@ -52,7 +52,10 @@ void ElementReaders::ReadSetup(const TSexpression& setup, TBoardDraft& draft)
 
 void ElementReaders::ReadTitleBlock(const TSexpression& titleBlock, TBoardDraft& draft)
 {
-    draft.textVariables = TextVariables::OfTitleBlock(titleBlock);
+    const TextVariables::TValues values = TextVariables::OfTitleBlock(titleBlock);
+    for (auto value = values.begin(); value != values.end(); ++value) {
+        draft.textVariables.insert(value.key(), value.value());
+    }
 }
 
 void ElementReaders::ReadNet(const TSexpression& net, TBoardDraft& draft)

@@ -10,13 +10,6 @@
 
 namespace {
 
-/** The footprint's name with its library behind an at sign, where the file has it in front of a colon. */
-QString PackageName(const QString& libraryName)
-{
-    const int colon = libraryName.indexOf(QLatin1Char(':'));
-    return colon < 0 ? libraryName : libraryName.mid(colon + 1) + QLatin1Char('@') + libraryName.left(colon);
-}
-
 /** Takes over a text or property that says the component's reference designator or value. */
 void ReadField(const TSexpression& field, TGraphicsPackageItem& package)
 {
@@ -71,7 +64,7 @@ void ElementReaders::ReadFootprint(const TSexpression& footprint, TBoardDraft& d
                                 WithBoard(TextVariables::OfFootprint(footprint), draft)};
     package->SetWorkspace(draft.board->Workspace());
     package->SetLayer(isOnBottom ? Osmirel::PackagesBottom : Osmirel::PackagesTop);
-    package->SetPackageName(PackageName(footprint.Value(0).Text()));
+    package->SetPackageName(ElementParts::PackageName(footprint.Value(0).Text()));
     package->setPos(ElementParts::Position(at));
     package->setRotation(Measures::SceneRotation(frame.angle));
     package->SetTFlag(TGraphicsItem::Lock, footprint.HasFlag("locked", 1));
@@ -88,6 +81,9 @@ void ElementReaders::ReadFootprint(const TSexpression& footprint, TBoardDraft& d
         } else {
             reader->read(element, frame, draft);
         }
+    }
+    if (const std::optional<TSexpression> path = footprint.Find("path")) {
+        draft.paths.insert(package.get(), path->Value(0).Text());
     }
     draft.board->Attach(std::move(package));
 }

@@ -124,6 +124,9 @@ void ElementReaders::ReadNetTie(const TSexpression& footprint, TBoardDraft& draf
     tie->SetTFlag(TGraphicsItem::Lock, footprint.HasFlag("locked", 1));
     ApplyName(footprint, *tie);
     draft.netsOfTies.insert(tie.get(), {ElementParts::NetName(pads[0], draft), ElementParts::NetName(pads[1], draft)});
+    if (const std::optional<TSexpression> path = footprint.Find("path")) {
+        draft.paths.insert(tie.get(), path->Value(0).Text());
+    }
     for (const TSexpression element : footprint) {
         const bool isText = element.Name() == "fp_text" || (element.Name() == "property" && element.Find("at"));
         const bool isDrawing = ShapeParts::IsShape(element) && !Osmirel::IsCopper(ElementParts::Layer(element, draft));

@@ -2,56 +2,19 @@
 #include "workbench/importer/ElementReaders.h"
 #include "workbench/importer/Measures.h"
 #include "workbench/importer/ShapeParts.h"
+#include "workbench/importer/TextParts.h"
 #include "workbench/importer/TFootprintFrame.h"
 
 #include <graphics/TGraphicsPolygonItem.h>
 #include <graphics/TGraphicsTextItem.h>
 #include <objects/TGraphicsPackageItem.h>
 
-#include <algorithm>
-#include <cmath>
-
 namespace {
-
-constexpr double usualHeight = 1'000'000; // Nanometres.
 
 QString Content(const TSexpression& atom, const TextVariables::TValues& values)
 {
     const QString text = atom.Text();
     return text == QLatin1String("~") ? QString() : TextVariables::Resolved(text, values);
-}
-
-/** The text is centred both ways where the file does not say otherwise. */
-int Alignment(const std::optional<TSexpression>& justify)
-{
-    const auto isSaid = [&justify](std::string_view side) { return justify && justify->HasFlag(side); };
-    if (isSaid("top") || isSaid("bottom")) {
-        const int vertical = isSaid("top") ? Qt::AlignTop : Qt::AlignBottom;
-        return vertical | (isSaid("left") ? Qt::AlignLeft : isSaid("right") ? Qt::AlignRight : Qt::AlignHCenter);
-    }
-    return isSaid("left") ? Qt::AlignLeft : isSaid("right") ? Qt::AlignRight : Qt::AlignCenter;
-}
-
-/** The item font's pixel size, the line width and the style. */
-void ApplyFont(const TSexpression& font, TGraphicsTextItem& text)
-{
-    constexpr int bold = 75;
-    constexpr int normal = 50;
-    const std::optional<TSexpression> size = font.Find("size");
-    const std::optional<TSexpression> thickness = font.Find("thickness");
-    const auto height = size ? static_cast<double>(size->Value(0).Extent()) : usualHeight;
-    const bool isBold = font.HasFlag("bold");
-    // Where the stroke has no width of its own, it is this part of the height.
-    const double usualThickness = height / (isBold ? 5 : 8);
-    const double width = thickness ? static_cast<double>(thickness->Value(0).Extent()) : usualThickness;
-    text.Font().setPixelSize(std::max(1, qRound(Measures::SceneLength(std::llround(height)))));
-    text.Font().setWeight(isBold ? bold : normal);
-    text.Font().setStyle(font.HasFlag("italic") ? QFont::StyleItalic : QFont::StyleNormal);
-    text.SetLineWidth(static_cast<float>(Measures::SceneLength(std::llround(width))));
-    if (const std::optional<TSexpression> face = font.Find("face")) {
-        text.Font().setFamily(face->Value(0).Text());
-        text.SetVector(false);
-    }
 }
 
 /** All that a text says of itself but its place and its angle. */
@@ -61,42 +24,11 @@ std::unique_ptr<TGraphicsTextItem> Text(const TSexpression& element, const QStri
     auto text = std::make_unique<TGraphicsTextItem>();
     text->SetText(content);
     text->SetLayer(layer);
-    const std::optional<TSexpression> effects = element.Find("effects");
-    const std::optional<TSexpression> font = effects ? effects->Find("font") : std::nullopt;
-    const std::optional<TSexpression> justify = effects ? effects->Find("justify") : std::nullopt;
-    if (font) {
-        ApplyFont(*font, *text);
-    }
-    text->SetAlignment(Alignment(justify));
-    text->SetTFlag(TGraphicsItem::MirrorHorizontal, justify && justify->HasFlag("mirror"));
-    text->UpdatePath(false);
+    TextParts::ApplyEffects(element, *text);
     if (const std::optional<TSexpression> on = element.Find("layer"); on && on->HasFlag("knockout", 1)) {
         draft.notShown.Count("knockouts of texts (drawn plain)");
     }
     return text;
-}
-
-bool IsHidden(const TSexpression& element, int from)
-{
-    const std::optional<TSexpression> effects = element.Find("effects");
-    return element.HasFlag("hide", from) || (effects && effects->HasFlag("hide"));
-}
-
-/** Where a text box has its text: at the side, or in the middle, as the text is aligned. */
-QPointF AnchorIn(const QRectF& box, int alignment)
-{
-    QPointF anchor = box.center();
-    if ((alignment & Qt::AlignLeft) != 0) {
-        anchor.setX(box.left());
-    } else if ((alignment & Qt::AlignRight) != 0) {
-        anchor.setX(box.right());
-    }
-    if ((alignment & Qt::AlignTop) != 0) {
-        anchor.setY(box.top());
-    } else if ((alignment & Qt::AlignBottom) != 0) {
-        anchor.setY(box.bottom());
-    }
-    return anchor;
 }
 
 QPolygonF BoxCorners(const TSexpression& textBox)
@@ -115,7 +47,7 @@ QVector<TGraphicsItem*> TextBox(const TSexpression& textBox, const QString& cont
     const QPolygonF corners = BoxCorners(textBox);
     const std::optional<TSexpression> angle = textBox.Find("angle");
     std::unique_ptr<TGraphicsTextItem> text = Text(textBox, content, layer, draft);
-    text->setPos(AnchorIn(corners.boundingRect(), text->Alignment()));
+    text->setPos(TextParts::AnchorIn(corners.boundingRect(), text->Alignment()));
     text->setRotation(Measures::SceneRotation((angle ? angle->Value(0).Millionths() : 0) - angleOfParent));
     QVector<TGraphicsItem*> items{text.release()};
     const std::optional<TSexpression> border = textBox.Find("border");
@@ -173,7 +105,7 @@ void ElementReaders::ReadText(const TSexpression& element, TBoardDraft& draft)
     std::unique_ptr<TGraphicsTextItem> text = Text(element, content, layer, draft);
     text->setPos(ElementParts::Position(at));
     text->setRotation(Measures::SceneRotation(ElementParts::Angle(at)));
-    text->setVisible(!IsHidden(element, 1));
+    text->setVisible(!TextParts::IsHidden(element, 1));
     text->SetTFlag(TGraphicsItem::Lock, element.HasFlag("locked", 1));
     draft.board->Attach(std::move(text));
 }
@@ -194,7 +126,7 @@ void ElementReaders::ReadFootprintText(const TSexpression& element, const TFootp
     std::unique_ptr<TGraphicsTextItem> text = Text(element, content, layer, draft);
     text->setPos(ElementParts::Position(element.Get("at")));
     text->setRotation(Measures::SceneRotation(ElementParts::Angle(*at) - footprint.angle));
-    text->setVisible(!IsHidden(element, 2));
+    text->setVisible(!TextParts::IsHidden(element, 2));
     const QString kind = element.Value(0).Text();
     const bool isNamed = isField && (kind == QLatin1String("Reference") || kind == QLatin1String("Value"));
     Place(std::move(text), isField && !isNamed ? QString() : kind.toLower(), element.HasFlag("locked", 2),

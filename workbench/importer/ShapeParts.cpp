@@ -141,6 +141,17 @@ Qt::PenStyle ShapeParts::StrokeStyle(const TSexpression& shape)
     return style == std::end(styles) ? Qt::SolidLine : style->second;
 }
 
+QColor ShapeParts::StrokeColor(const TSexpression& shape)
+{
+    const std::optional<TSexpression> stroke = shape.Find("stroke");
+    const std::optional<TSexpression> color = stroke ? stroke->Find("color") : std::nullopt;
+    if (!color || color->Value(3).Decimal() <= 0) {
+        return {};
+    }
+    const auto channel = [&color](int index) { return std::clamp(qRound(color->Value(index).Decimal()), 0, 255); };
+    return {channel(0), channel(1), channel(2)};
+}
+
 bool ShapeParts::IsFilled(const TSexpression& shape, bool otherwise)
 {
     if (const std::optional<TSexpression> fill = shape.Find("fill")) {

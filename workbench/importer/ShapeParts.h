@@ -3,6 +3,7 @@
 #include "workbench/importer/ArcPath.h"
 #include "workbench/importer/TSexpression.h"
 
+#include <QColor>
 #include <QPainterPath>
 #include <QPolygonF>
 
@@ -27,6 +28,8 @@ std::optional<ArcPath::TArc> Arc(const TSexpression& arc);
 /** In scene units; it stands in a `stroke` in newer files. */
 double StrokeWidth(const TSexpression& shape);
 Qt::PenStyle StrokeStyle(const TSexpression& shape);
+/** The colour of its own that the stroke has; invalid for none. */
+QColor StrokeColor(const TSexpression& shape);
 
 /** Whether the inside is filled. Where the file does not say it, polygons are, and others as given. */
 bool IsFilled(const TSexpression& shape, bool otherwise);

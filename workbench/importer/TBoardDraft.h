@@ -47,6 +47,7 @@ struct TBoardDraft
     std::vector<TTrack> tracks;    ///< To become wires when all that they can be linked to has been read.
     std::vector<TEdgeShape> edges; ///< What the outline is made of, in the order of the file.
     QHash<const TGraphicsItem*, QStringList> netsOfTies; ///< Which nets each net tie joins.
+    QHash<const TGraphicsItem*, QString> paths;          ///< Of the symbols that packages and net ties belong to.
     TNotShown notShown;
 
     /** The name of the drill pair of two layers, in any order; the board gets the pair if it has none yet. */

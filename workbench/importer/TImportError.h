@@ -8,12 +8,31 @@
 class TImportError : public std::runtime_error
 {
 public:
-    TImportError(int atLine, const QString& cause) : std::runtime_error(cause.toStdString()), line(atLine) {}
+    TImportError(int atLine, const QString& cause, const QString& inFile = {})
+        : std::runtime_error(cause.toStdString()), line(atLine), file(inFile)
+    {}
 
     /** The line of the file, from 1; 0 if the cause lies in no line. */
     int Line() const { return line; }
     QString Cause() const { return QString::fromUtf8(what()); }
+    /** The file, where one of several is read; else empty. */
+    const QString& File() const { return file; }
 
 private:
     int line;
+    QString file;
 };
+
+/** Does a step of reading a file, whose errors then name that file unless they name one already. */
+template <class Step>
+auto InFile(const QString& file, const Step& step)
+{
+    try {
+        return step();
+    } catch (const TImportError& error) {
+        if (!error.File().isEmpty()) {
+            throw;
+        }
+        throw TImportError(error.Line(), error.Cause(), file);
+    }
+}

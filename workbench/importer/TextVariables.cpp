@@ -3,6 +3,8 @@
 #include "workbench/importer/ElementParts.h"
 #include "workbench/importer/TSexpression.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QRegularExpression>
 
 TextVariables::TValues TextVariables::OfTitleBlock(const TSexpression& titleBlock)
@@ -19,6 +21,17 @@ TextVariables::TValues TextVariables::OfTitleBlock(const TSexpression& titleBloc
         } else if (!name.isEmpty()) {
             values.insert(name.toUpper(), field.Value(0).Text());
         }
+    }
+    return values;
+}
+
+TextVariables::TValues TextVariables::OfProject(const QByteArray& json)
+{
+    TValues values;
+    const QJsonObject variables =
+        QJsonDocument::fromJson(json).object().value(QLatin1String("text_variables")).toObject();
+    for (auto variable = variables.begin(); variable != variables.end(); ++variable) {
+        values.insert(variable.key(), variable.value().toString());
     }
     return values;
 }

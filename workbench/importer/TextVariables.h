@@ -13,6 +13,9 @@ using TValues = QHash<QString, QString>;
 /** Those that a board's title block gives. */
 TValues OfTitleBlock(const TSexpression& titleBlock);
 
+/** Those that a project file gives; none if it cannot be read. */
+TValues OfProject(const QByteArray& json);
+
 /** Those that a footprint gives: its fields and its name. */
 TValues OfFootprint(const TSexpression& footprint);
 

@@ -10,7 +10,6 @@
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <cmath>
 #include <vector>
 
 namespace {
@@ -37,6 +36,11 @@ TPerform ParseSelect(const QString& what)
 TPerform ParsePanel(const QString&)
 {
     return [](TSession& session) { return session.Panel(); };
+}
+
+TPerform ParseTree(const QString&)
+{
+    return [](TSession& session) { return session.Tree(); };
 }
 
 TPerform ParseSet(const QString& assignment)
@@ -68,30 +72,74 @@ TPerform ParseSwitch(const QString& state)
     return [on](TSession& session) { return (session.*step)(on); };
 }
 
-/** A point of the scene, given as "x,y" in millimetres. */
-QPointF ParsePoint(const QString& text)
+/** A step that takes its argument as it is. */
+template <QString (TSession::*step)(const QString& argument)>
+TPerform ParseText(const QString& argument)
 {
-    const QStringList parts = text.split(QLatin1Char(','));
-    bool isX = false;
-    bool isY = false;
-    const double x = parts.value(0).toDouble(&isX);
-    const double y = parts.value(1).toDouble(&isY);
-    if (parts.size() != 2 || !isX || !isY || !std::isfinite(x) || !std::isfinite(y)) {
-        throw TSessionError(QStringLiteral("\"%1\" is no place: x,y in millimetres").arg(text));
+    return [argument](TSession& session) { return (session.*step)(argument); };
+}
+
+/** A step that gives something another name. */
+template <QString (TSession::*step)(const QString& renaming)>
+TPerform ParseRenaming(const QString& renaming)
+{
+    if (renaming.indexOf(QLatin1Char('=')) < 1 || renaming.endsWith(QLatin1Char('='))) {
+        throw TSessionError(QStringLiteral("\"%1\" is no renaming: what=name").arg(renaming));
     }
-    constexpr double sceneUnitsPerMillimetre = 300.0 / 25.4;
-    return QPointF(x, y) * sceneUnitsPerMillimetre;
+    return ParseText<step>(renaming);
+}
+
+/** A step that needs no argument. */
+template <QString (TSession::*step)()>
+TPerform ParseNothing(const QString&)
+{
+    return [](TSession& session) { return (session.*step)(); };
+}
+
+/** What an action asks for, as it is written in a help text. */
+const char* ArgumentOf(TDesignAction::Asks asks)
+{
+    using Asks = TDesignAction::Asks;
+    switch (asks) {
+    case Asks::Text: return "TEXT";
+    case Asks::Point: return "X,Y";
+    case Asks::Size: return "W,H";
+    case Asks::Length: return "MM";
+    case Asks::Level: return "LEVEL";
+    case Asks::Nothing: break;
+    }
+    return "";
+}
+
+/** Checks the argument of an action; returns what lengths it says. */
+QPointF ParseAsked(const TDesignAction& action, const QString& given)
+{
+    using Asks = TDesignAction::Asks;
+    if (action.asks == Asks::Level && !DesignActions::Levels().contains(given)) {
+        throw TSessionError(
+            QStringLiteral("takes %1, not \"%2\"").arg(DesignActions::Levels().join(QStringLiteral(", ")), given));
+    }
+    if (!action.AsksForNumbers()) {
+        return {};
+    }
+    const std::optional<QPointF> numbers = DesignActions::ParseNumbers(action.asks, given);
+    if (!numbers) {
+        const QString needed = action.asks == Asks::Point  ? QStringLiteral("place: x,y in millimetres")
+                               : action.asks == Asks::Size ? QStringLiteral("size: width,height in millimetres")
+                                                           : QStringLiteral("length in millimetres");
+        throw TSessionError(QStringLiteral("\"%1\" is no %2").arg(given, needed));
+    }
+    return *numbers;
 }
 
 TStepOption OptionOf(const TDesignAction& action)
 {
     using Asks = TDesignAction::Asks;
-    const char* argument = action.asks == Asks::Text ? "TEXT" : action.asks == Asks::Point ? "X,Y" : "";
     QString help = QString::fromUtf8(action.menuText).remove(QLatin1Char('&')).remove(QChar(0x2026));
     help[0] = help[0].toLower();
-    return {action.option, action.asks == Asks::Nothing ? Argument::None : Argument::Required, argument, help,
-            [&action](const QString& given) -> TPerform {
-                const QPointF point = action.asks == Asks::Point ? ParsePoint(given) : QPointF();
+    return {action.option, action.asks == Asks::Nothing ? Argument::None : Argument::Required, ArgumentOf(action.asks),
+            help, [&action](const QString& given) -> TPerform {
+                const QPointF point = ParseAsked(action, given);
                 return [&action, given, point](TSession& session) { return session.Do(action, given, point); };
             }};
 }
@@ -110,16 +158,6 @@ TPerform ParseZoom(const QString& extent)
         return [](TSession& session) { return session.ZoomToSelection(); };
     }
     throw TSessionError(QStringLiteral("takes all or selection, not \"%1\"").arg(extent));
-}
-
-TPerform ParseShowLayers(const QString& names)
-{
-    return [names](TSession& session) { return session.ShowLayers(names); };
-}
-
-TPerform ParseHideLayers(const QString& names)
-{
-    return [names](TSession& session) { return session.HideLayers(names); };
 }
 
 TPerform ParseUndo(const QString& count)
@@ -150,9 +188,13 @@ TPerform ParseScreenshot(const QString& file)
 std::vector<TStepOption> MakeStepOptions()
 {
     std::vector<TStepOption> options{
+        {"--page", Argument::Required, "PAGE",
+         "show a page of the schematic, by its number or its name, and select there", ParseText<&TSession::ShowPage>},
+        {"--board", Argument::None, "", "show the board, and select there", ParseNothing<&TSession::ShowBoard>},
+        {"--tree", Argument::None, "", "print the pages and parts of the project", ParseTree},
         {"--select", Argument::Required, "WHAT",
-         "select items: wire, via, pad and the like, several with commas, or all; with [i] or [i..j]\n"
-         "for positions in the design's order among that kind, from 0",
+         "select items: wire, via, pad, part, pin, netwire and the like, several with commas, or\n"
+         "all; with [i] or [i..j] for positions in the design's order among that kind, from 0",
          ParseSelect},
         {"--panel", Argument::None, "", "print the panel: its title, then each row's label and value", ParsePanel},
         {"--set", Argument::Required, "LABEL=VALUE",
@@ -167,6 +209,17 @@ std::vector<TStepOption> MakeStepOptions()
         options.push_back(OptionOf(action));
     }
     const std::initializer_list<TStepOption> others{
+        {"--open-page", Argument::Required, "PAGE", "open a page from the project tree",
+         ParseText<&TSession::OpenPage>},
+        {"--open-part", Argument::Required, "PART",
+         "open the symbol of a part for editing; the part is given by its designator, or by the number\n"
+         "of its component",
+         ParseText<&TSession::OpenPart>},
+        {"--close-symbol", Argument::None, "", "close the symbol that is open", ParseNothing<&TSession::CloseSymbol>},
+        {"--rename-page", Argument::Required, "PAGE=NAME", "rename a page in the project tree",
+         ParseRenaming<&TSession::RenamePage>},
+        {"--rename-part", Argument::Required, "PART=NAME", "rename a part in the project tree",
+         ParseRenaming<&TSession::RenamePart>},
         {"--designators", Argument::Required, "on|off", "show or hide the designators of all packages",
          ParseSwitch<&TSession::ShowDesignators>},
         {"--values", Argument::Required, "on|off", "show or hide the values of all packages",
@@ -176,8 +229,10 @@ std::vector<TStepOption> MakeStepOptions()
         {"--history", Argument::None, "", "print the undo history", ParseHistory},
         {"--dump", Argument::Required, "FILE", "write every item of the design as one line of text; - prints it",
          ParseDump},
-        {"--show-layers", Argument::Required, "LAYERS", "show layers, several with commas, or all", ParseShowLayers},
-        {"--hide-layers", Argument::Required, "LAYERS", "hide layers, several with commas, or all", ParseHideLayers},
+        {"--show-layers", Argument::Required, "LAYERS", "show layers, several with commas, or all",
+         ParseText<&TSession::ShowLayers>},
+        {"--hide-layers", Argument::Required, "LAYERS", "hide layers, several with commas, or all",
+         ParseText<&TSession::HideLayers>},
         {"--zoom", Argument::Required, "EXTENT", "zoom to all or selection", ParseZoom},
         {"--screenshot", Argument::Required, "FILE", "write the window as a PNG picture", ParseScreenshot},
     };
@@ -274,14 +329,16 @@ TCommandLine TCommandLine::Parse(const QStringList& arguments)
 
 QString TCommandLine::Usage()
 {
-    constexpr int helpColumn = 23;
+    constexpr int helpColumn = 27;
     const auto entry = [](const QString& option, QString text) {
         text.replace(QLatin1Char('\n'), QLatin1Char('\n') + QString(helpColumn, QLatin1Char(' ')));
         return QStringLiteral("  %1").arg(option).leftJustified(helpColumn) + text + QLatin1Char('\n');
     };
-    QString usage = QStringLiteral("workbench [FILE] [STEP...]\n\n"
-                                   "Opens a board (.kicad_pcb), or without FILE a sample board.\n\n"
-                                   "Steps are done in their order, without a screen:\n");
+    QString usage =
+        QStringLiteral("workbench [FILE] [STEP...]\n\n"
+                       "Opens a project (.kicad_pro) with its board and schematic, a schematic (.kicad_sch) or a\n"
+                       "board (.kicad_pcb); without FILE a sample.\n\n"
+                       "Steps are done in their order, without a screen:\n");
     for (const TStepOption& option : StepOptions()) {
         usage +=
             entry(QStringLiteral("%1 %2").arg(QLatin1String(option.name), QLatin1String(option.argument)), option.help);

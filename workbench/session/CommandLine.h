@@ -18,7 +18,7 @@ struct TStep
 /** What a command line asks for. */
 struct TCommandLine
 {
-    QString file; ///< Empty for the sample board.
+    QString file; ///< Empty for the sample.
     QVector<TStep> steps;
     bool timing = false;
     bool help = false;

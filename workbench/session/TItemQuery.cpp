@@ -1,27 +1,14 @@
 #include "workbench/session/TItemQuery.h"
 
 #include "workbench/Kinds.h"
+#include "workbench/Picking.h"
 #include "workbench/session/TSessionError.h"
-
-#include <application/TBoard.h>
 
 #include <QRegularExpression>
 #include <QSet>
 #include <QStringList>
 
 namespace {
-
-/** The items that can be selected, in the design's order. */
-QList<TGraphicsItem*> SelectableItems(const TBoard& board)
-{
-    QList<TGraphicsItem*> items;
-    for (TGraphicsItem* item : board.Items()) {
-        if (item->QGraphicsItem::flags() & QGraphicsItem::ItemIsSelectable) {
-            items.append(item);
-        }
-    }
-    return items;
-}
 
 QString KindsOf(const QList<TGraphicsItem*>& items)
 {
@@ -37,7 +24,7 @@ QString KindsOf(const QList<TGraphicsItem*>& items)
     return kinds.isEmpty() ? QStringLiteral("nothing") : kinds.join(QStringLiteral(", "));
 }
 
-QList<TGraphicsItem*> OfKind(const QString& kind, const QList<TGraphicsItem*>& items)
+QList<TGraphicsItem*> OfKind(const QString& kind, const QList<TGraphicsItem*>& items, const QString& place)
 {
     QList<TGraphicsItem*> found;
     for (TGraphicsItem* item : items) {
@@ -47,8 +34,8 @@ QList<TGraphicsItem*> OfKind(const QString& kind, const QList<TGraphicsItem*>& i
     }
     if (found.isEmpty()) {
         throw TSessionError(kind.isEmpty()
-                                ? QStringLiteral("the board has nothing that can be selected")
-                                : QStringLiteral("the board has no %1; it has %2").arg(kind, KindsOf(items)));
+                                ? QStringLiteral("%1 has nothing that can be selected").arg(place)
+                                : QStringLiteral("%1 has no %2; it has %3").arg(place, kind, KindsOf(items)));
     }
     return found;
 }
@@ -80,13 +67,13 @@ TItemQuery TItemQuery::Parse(const QString& text)
     return query;
 }
 
-QList<TGraphicsItem*> TItemQuery::Find(const TBoard& board) const
+QList<TGraphicsItem*> TItemQuery::Find(const QList<TGraphicsItem*>& items, const QString& place) const
 {
-    const QList<TGraphicsItem*> all = SelectableItems(board);
+    const QList<TGraphicsItem*> all = Picking::Selectable(items);
     QList<TGraphicsItem*> found;
     QSet<TGraphicsItem*> seen;
     for (const TPart& part : parts) {
-        const QList<TGraphicsItem*> ofKind = OfKind(part.kind, all);
+        const QList<TGraphicsItem*> ofKind = OfKind(part.kind, all, place);
         const int last = part.last < 0 ? ofKind.size() - 1 : part.last;
         if (last >= ofKind.size()) {
             throw TSessionError(QStringLiteral("there is no %1[%2]: positions go from 0 to %3")

@@ -4,7 +4,6 @@
 #include <QString>
 #include <QVector>
 
-class TBoard;
 class TGraphicsItem;
 
 /**
@@ -18,10 +17,11 @@ public:
     static TItemQuery Parse(const QString& text);
 
     /**
-     * The items in the order of the query's parts, each once. Throws `TSessionError` for a kind that the board has no
-     * item of, and for a position beyond the last.
+     * Those of the items of a document that are meant, in the order of the query's parts, each once. Throws
+     * `TSessionError`, with @p place for the document, for a kind that it has no item of, and for a position beyond the
+     * last.
      */
-    QList<TGraphicsItem*> Find(const TBoard& board) const;
+    QList<TGraphicsItem*> Find(const QList<TGraphicsItem*>& items, const QString& place) const;
 
 private:
     struct TPart

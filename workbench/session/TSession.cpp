@@ -11,11 +11,10 @@
 #include "workbench/session/TSessionError.h"
 #include "workbench/TCanvas.h"
 #include "workbench/TDesign.h"
+#include "workbench/TDocumentTabs.h"
 #include "workbench/TLayerList.h"
 #include "workbench/TMainWindow.h"
 #include "workbench/TSelection.h"
-
-#include <application/TBoard.h>
 
 #include <QApplication>
 #include <QFile>
@@ -48,7 +47,7 @@ TPropertySet& TSession::ShownSet() const
 
 QString TSession::Select(const TItemQuery& query)
 {
-    window.Selection().Select(query.Find(*window.Board()));
+    window.Selection().Select(query.Find(window.Design()->ItemsOf(window.Tabs().Document()), Place()));
     return QStringLiteral("selected: %1").arg(Counted(window.Selection().Items()));
 }
 
@@ -167,8 +166,8 @@ QString TSession::SetLayers(const QString& names, bool on)
     const QStringList wanted = names == QLatin1String("all") ? known : names.split(QLatin1Char(','));
     for (const QString& name : wanted) {
         if (!known.contains(name)) {
-            throw TSessionError(QStringLiteral("there is no layer \"%1\"; the board has %2")
-                                    .arg(name, known.join(QStringLiteral(", "))));
+            throw TSessionError(QStringLiteral("there is no layer \"%1\"; %2 has %3")
+                                    .arg(name, Place(), known.join(QStringLiteral(", "))));
         }
     }
     for (const QString& name : wanted) {

@@ -8,19 +8,36 @@ class QPointF;
 class TItemQuery;
 struct TDesignAction;
 class TMainWindow;
+class TPart;
 class TPropertySet;
+class TSchPage;
 
 /**
  * Uses a window as a person would: selects, edits rows through their editors, presses keys, undoes and redoes.
  *
  * Each operation returns what it has to say, one or more lines without a last line break, or throws `TSessionError`
- * and has done nothing. The window must show a board.
+ * and has done nothing. The window must show a
+ * design.
  */
 class TSession
 {
 public:
     explicit TSession(TMainWindow& shownWindow) : window(shownWindow) {}
 
+    /** Show a page, given by its number or its name, or the board: what is selected next is selected there. */
+    QString ShowPage(const QString& page);
+    QString ShowBoard();
+    /** What the project tree says, a line for each row. */
+    QString Tree() const;
+    /** Open a page, or a part's symbol, as from the tree: with an undo step. A part is given by its designator, or by
+     *  the number of its component. */
+    QString OpenPage(const QString& page);
+    QString OpenPart(const QString& part);
+    QString CloseSymbol();
+    /** Give an entry of the tree another name; the renaming is `Page=name` or `Part=name`. */
+    QString RenamePage(const QString& renaming);
+    QString RenamePart(const QString& renaming);
+    /** Selects in the document that is shown. */
     QString Select(const TItemQuery& query);
     /** The panel's title, and one line for each shown row. */
     QString Panel() const;
@@ -52,6 +69,12 @@ private:
     TPropertySet& ShownSet() const;
     /** The texts of the commands that were pushed since the stack had this index. */
     QStringList PushedSince(int index) const;
+    /** Those texts, or what to say if there are none. */
+    QString Outcome(int index, const QString& none) const;
+    TSchPage& FindPage(const QString& page) const;
+    TPart& FindPart(const QString& part) const;
+    /** Such as "the board" or "page 2". */
+    QString Place() const;
     QString Move(int times, bool back);
     QString SetLayers(const QString& names, bool on);
 

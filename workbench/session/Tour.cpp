@@ -1,9 +1,9 @@
 #include "workbench/session/Tour.h"
 
+#include "workbench/Picking.h"
 #include "workbench/session/TSession.h"
+#include "workbench/TDesign.h"
 #include "workbench/TMainWindow.h"
-
-#include <application/TBoard.h>
 
 #include <QSet>
 
@@ -16,7 +16,7 @@ struct TStop
     int kind = 0; ///< The kind of item that the stop is about, 0 for none.
 };
 
-QVector<TStop> Stops()
+QVector<TStop> BoardStops()
 {
     return {
         {"Select every via. The panel shows the first one's values; a choice on which they differ is mixed.",
@@ -47,21 +47,53 @@ QVector<TStop> Stops()
         {"Select vias, then pads: the panel edits the kind that was selected first.",
          {"--select", "via,pad", "--panel"},
          ItemType::Via},
+    };
+}
+
+QVector<TStop> PageStops()
+{
+    return {
+        {"Go to a page of the schematic. What is selected next is selected there.", {"--page", "1"}},
+        {"Select a part, and give its component another value: on the board, too, if there is one.",
+         {"--select", "part[0]", "--panel", "--revalue", "new", "--panel", "--undo"},
+         ItemType::Part},
+        {"Cut a part off its wires, and undo that.", {"--select", "part[0]", "--disconnect", "--undo"}, ItemType::Part},
+        {"Select pins. Those of a placed symbol keep their names and numbers.",
+         {"--select", "pin", "--panel"},
+         ItemType::Pin},
+        {"Select net wires: the panel edits their net.",
+         {"--select", "netwire[0]", "--panel", "--set", "Level:=3", "--undo"},
+         ItemType::NetWire},
+        {"Rename a port: all that is wired to it moves to another net.",
+         {"--select", "port[0]", "--set", "Name:=TOUR", "--panel"},
+         ItemType::Port},
+        {"Rename a page in the project tree, and undo that.", {"--rename-page", "1=Front page", "--tree", "--undo"}},
+    };
+}
+
+QVector<TStop> LastStops()
+{
+    return {
         {"See what was done.", {"--history"}},
         {"Take a picture.", {"--screenshot", "workbench-tour.png"}},
     };
 }
 
-} // namespace
-
-int RunTour(TMainWindow& window, const TStreams& streams)
+/** The kinds of what can be selected in a document; 0 stands for none. */
+QSet<int> KindsIn(const TDesign& design, const TDocument& document)
 {
     QSet<int> kinds{0};
-    for (const TGraphicsItem* item : window.Board()->Items()) {
+    const QList<TGraphicsItem*> items = Picking::Selectable(design.ItemsOf(document));
+    for (const TGraphicsItem* item : items) {
         kinds.insert(item->type());
     }
-    TSession session(window);
-    for (const TStop& stop : Stops()) {
+    return kinds;
+}
+
+/** Visits the stops that are about one of the kinds. */
+int Visit(const QVector<TStop>& stops, const QSet<int>& kinds, TSession& session, const TStreams& streams)
+{
+    for (const TStop& stop : stops) {
         if (!kinds.contains(stop.kind)) {
             continue;
         }
@@ -76,4 +108,22 @@ int RunTour(TMainWindow& window, const TStreams& streams)
         }
     }
     return 0;
+}
+
+} // namespace
+
+int RunTour(TMainWindow& window, const TStreams& streams)
+{
+    TSession session(window);
+    const TDesign& design = *window.Design();
+    int code = 0;
+    bool hasPages = false;
+    const QVector<TDocument> documents = design.Documents();
+    for (const TDocument& document : documents) {
+        if (code == 0 && (document.IsBoard() || !hasPages)) {
+            hasPages = !document.IsBoard();
+            code = Visit(document.IsBoard() ? BoardStops() : PageStops(), KindsIn(design, document), session, streams);
+        }
+    }
+    return code ? code : Visit(LastStops(), {0}, session, streams);
 }

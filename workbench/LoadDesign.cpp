@@ -1,4 +1,6 @@
-#include "workbench/LoadBoard.h"
+#include "workbench/LoadDesign.h"
+
+#include "workbench/importer/ProjectImporter.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -11,20 +13,31 @@ static void InitialiseSamples()
     Q_INIT_RESOURCE(samples);
 }
 
+QString SampleProjectFile()
+{
+    InitialiseSamples();
+    return QStringLiteral(":/samples/sample.kicad_pro");
+}
+
 QString SampleBoardFile()
 {
     InitialiseSamples();
     return QStringLiteral(":/samples/sample.kicad_pcb");
 }
 
-TImportResult LoadBoardWithDialog(const QString& file, QWidget* parent)
+bool HasDesign(const TImportResult& result)
+{
+    return result.board || (result.schematic && !result.schematic->Pages().empty());
+}
+
+TImportResult LoadDesignWithDialog(const QString& file, QWidget* parent)
 {
     constexpr int shownAfterMilliseconds = 400;
-    QProgressDialog dialog(QCoreApplication::translate("LoadBoard", "Reading %1…").arg(QFileInfo(file).fileName()),
-                           QCoreApplication::translate("LoadBoard", "Cancel"), 0, 100, parent);
+    QProgressDialog dialog(QCoreApplication::translate("LoadDesign", "Reading %1…").arg(QFileInfo(file).fileName()),
+                           QCoreApplication::translate("LoadDesign", "Cancel"), 0, 100, parent);
     dialog.setWindowModality(Qt::WindowModal);
     dialog.setMinimumDuration(shownAfterMilliseconds);
-    return ImportBoard(file, [&dialog](int percent) {
+    return ImportDesign(file, [&dialog](int percent) {
         dialog.setValue(percent);
         return !dialog.wasCanceled();
     });
@@ -49,7 +62,7 @@ QStringList Notices(const TImportResult& result)
     QStringList notices = result.warnings;
     const QString missing = DescribeNotShown(result);
     if (!missing.isEmpty()) {
-        notices.append(QCoreApplication::translate("LoadBoard", "not shown: %1").arg(missing));
+        notices.append(QCoreApplication::translate("LoadDesign", "not shown: %1").arg(missing));
     }
     return notices;
 }

@@ -1,0 +1,216 @@
+#include "tests/host/LinkFault.h"
+#include "tests/host/Sheet.h"
+#include "tests/support/TestMain.h"
+
+#include <QtTest>
+
+namespace {
+
+using Test::PinOf;
+using Test::Sheet;
+using Items = QVector<TGraphicsItem*>;
+
+/** A port at the origin with two wires, a junction and a second port on one net, and a wire of another net there. */
+struct Wired
+{
+    Wired()
+    {
+        wire->LinkToFirst(port->Pin());
+        wire->LinkToLast(junction);
+        further->LinkToFirst(junction);
+        further->LinkToLast(second->Pin());
+    }
+
+    Sheet sheet;
+    TGraphicsPortItem* port = sheet.Port({0, 0}, "A");
+    TGraphicsNetItem* wire = sheet.Wire({0, 0}, {50, 0}, "A");
+    TGraphicsJunctionItem* junction = sheet.Junction({50, 0}, "A");
+    TGraphicsNetItem* further = sheet.Wire({50, 0}, {100, 0}, "A");
+    TGraphicsPortItem* second = sheet.Port({100, 0}, "A");
+};
+
+} // namespace
+
+class TestPorts : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aPortOnItsOwnIsOfItsName()
+    {
+        Sheet sheet;
+        TGraphicsPortItem* port = sheet.Port({0, 0}, "A");
+        QCOMPARE(port->Net(), QString("A"));
+        QCOMPARE(port->ConnectedItems(), Items());
+        port->SetName("B", Qt::red);
+        QCOMPARE(port->Name() + port->Net() + port->Pin()->Net(), QString("BBB"));
+        QCOMPARE(port->AltColor(), QColor(Qt::red));
+        port->SetName("B", {});
+        QVERIFY(!port->AltColor().isValid());
+        port->SetName(QString(), {});
+        QCOMPARE(port->Net(), QString());
+    }
+
+    void aPortNamesTheNetOfItsWires()
+    {
+        Sheet sheet;
+        TGraphicsPortItem* port = sheet.Port({0, 0}, "A");
+        TGraphicsNetItem* wire = sheet.Wire({0, 0}, {50, 0}, "own");
+        TGraphicsPartItem* part = sheet.Part({50, 0}, 1, {{0, 0}});
+        wire->LinkToFirst(port->Pin());
+        part->Connect({});
+        QCOMPARE(wire->Net() + PinOf(part, 1)->Net() + port->Net(), QString("AAA"));
+        QCOMPARE(port->ConnectedItems().size(), 2);
+        QVERIFY(port->ConnectedItems().contains(wire) && port->ConnectedItems().contains(PinOf(part, 1)));
+        wire->UnlinkFrom(port->Pin());
+        QCOMPARE(wire->Net() + PinOf(part, 1)->Net() + port->Net(), QString("ownownA"));
+    }
+
+    void aNewNameGoesToAllThatIsWired()
+    {
+        Wired design;
+        const QString before = design.sheet.DumpWithOwnNets();
+        design.port->SetName("B", Qt::red);
+        for (const TGraphicsItem* item :
+             Items{design.port, design.wire, design.junction, design.further, design.second}) {
+            QCOMPARE(item->Net(), QString("B"));
+            QCOMPARE(item->AltColor(), QColor(Qt::red));
+        }
+        for (const TGraphicsItem* item : Items{design.wire, design.junction, design.further}) {
+            QCOMPARE(item->OwnNet(), QString("B"));
+        }
+        QCOMPARE(design.second->Name(), QString("B"));
+        design.port->SetName("A", {});
+        QCOMPARE(design.sheet.DumpWithOwnNets(), before);
+    }
+
+    void theSameNameOnlyColours()
+    {
+        Wired design;
+        const QString before = design.sheet.DumpWithOwnNets();
+        design.port->SetName("A", Qt::red);
+        QCOMPARE(design.further->AltColor(), QColor(Qt::red));
+        QCOMPARE(design.second->AltColor(), QColor(Qt::red));
+        design.port->SetName("A", {});
+        QCOMPARE(design.sheet.DumpWithOwnNets(), before);
+    }
+
+    void whatIsOfAnotherNetKeepsItsName()
+    {
+        Wired design;
+        design.second->SetName("C", {}); // Takes all along,
+        design.port->SetName("A", {});   // and so back, but now with a port of C beside.
+        TGraphicsPortItem* third = design.sheet.Port({50, 50}, "C");
+        TGraphicsNetItem* ofThird = design.sheet.Wire({50, 0}, {50, 50}, "C");
+        ofThird->LinkToFirst(design.junction);
+        ofThird->LinkToLast(third->Pin());
+        QCOMPARE(ofThird->Net() + design.wire->Net(), QString("CA")); // Two names are given: each keeps its own.
+        const QString before = design.sheet.DumpWithOwnNets();
+        design.port->SetName("B", Qt::red);
+        QCOMPARE(ofThird->Net() + design.wire->Net() + third->Name() + design.second->Name(), QString("CBCB"));
+        QVERIFY(!ofThird->AltColor().isValid() && !third->AltColor().isValid());
+        design.port->SetName("C", Qt::red); // Of one name with the others,
+        QCOMPARE(ofThird->Net() + design.wire->Net() + third->Name() + design.second->Name(), QString("CCCC"));
+        design.port->SetName("B", {}); // and still told apart from them.
+        QCOMPARE(ofThird->Net() + design.wire->Net() + third->Name() + design.second->Name(), QString("CBCB"));
+        design.port->SetName("A", {});
+        QCOMPARE(design.sheet.DumpWithOwnNets(), before);
+    }
+
+    // As undo gives back old names: in the order of the renamings.
+    void portsThatAreWiredTogetherAreRenamedBackOneByOne()
+    {
+        Wired design;
+        TGraphicsPortItem* third = design.sheet.Port({50, 50}, "C");
+        TGraphicsNetItem* ofThird = design.sheet.Wire({50, 0}, {50, 50}, "C");
+        ofThird->LinkToFirst(design.junction);
+        ofThird->LinkToLast(third->Pin());
+        const QString before = design.sheet.DumpWithOwnNets();
+        const QList<TGraphicsPortItem*> ports{design.port, third, design.second};
+        for (const auto& order : {std::vector<int>{0, 1, 2}, {2, 1, 0}, {1, 2, 0}, {1, 0, 2}}) {
+            for (const char* name : {"N", "A", "C"}) {
+                for (int round = 0; round < 2; ++round) {
+                    QStringList old;
+                    for (const int i : order) {
+                        old.append(ports[i]->Name());
+                    }
+                    for (const int i : order) {
+                        ports[i]->SetName(name, {});
+                    }
+                    QCOMPARE(ofThird->Net() + design.wire->Net(), QString(name) + name);
+                    for (const int i : order) {
+                        ports[i]->SetName(old.takeFirst(), {});
+                    }
+                    QCOMPARE(design.sheet.DumpWithOwnNets(), before);
+                }
+            }
+        }
+    }
+
+    void theEmptyNameGoesToAllLikeAnyOther()
+    {
+        Wired design;
+        const QString before = design.sheet.DumpWithOwnNets();
+        design.port->SetName(QString(), {});
+        QCOMPARE(design.wire->Net() + design.further->OwnNet() + design.second->Name(), QString());
+        design.port->SetName("A", {});
+        QCOMPARE(design.sheet.DumpWithOwnNets(), before);
+    }
+
+    void whatComesToTheOldNameIsRenamedTheNextTime()
+    {
+        Wired design;
+        design.port->SetName("B", {});
+        design.port->SetName("A", {});
+        TGraphicsNetItem* late = design.sheet.Wire({50, 0}, {50, 50}, "A");
+        late->LinkToFirst(design.junction);
+        design.port->SetName("B", {});
+        QCOMPARE(late->OwnNet(), QString("B"));
+        design.port->SetName("A", {});
+        QCOMPARE(late->OwnNet(), QString("A"));
+    }
+
+    // The inverse calls in reverse order bring everything back, whatever is linked and cut in between.
+    void renamingBackAfterNewWiringIsTakenBackToo()
+    {
+        Wired design;
+        TGraphicsPortItem* other = design.sheet.Port({50, 50}, "C");
+        TGraphicsNetItem* late = design.sheet.Wire({50, 0}, {50, 50}, "A");
+        late->LinkToLast(other->Pin());
+        design.port->SetName("B", {});
+        late->LinkToFirst(design.junction);
+        const QString joined = design.sheet.DumpWithOwnNets();
+        design.port->SetName("A", {});
+        design.port->SetName("B", {});
+        QCOMPARE(design.sheet.DumpWithOwnNets(), joined);
+    }
+
+    void portsThatTouchAPinNameItsNet()
+    {
+        Sheet sheet;
+        TGraphicsPartItem* part = sheet.Part({0, 0}, 1, {{0, 0}});
+        TGraphicsPortItem* port = sheet.Port({0, 0}, "A");
+        TGraphicsNetItem* wire = sheet.Wire({0, 0}, {50, 0}, "A");
+        part->Connect({});
+        QCOMPARE(PinOf(part, 1)->Net(), QString("A"));
+        const QString before = sheet.DumpWithOwnNets();
+        port->SetName("B", Qt::red);
+        QCOMPARE(PinOf(part, 1)->Net() + wire->Net() + wire->OwnNet(), QString("BBB"));
+        QVERIFY(!PinOf(part, 1)->AltColor().isValid());
+        QVERIFY(!part->AltColor().isValid());
+        port->SetName("A", {});
+        QCOMPARE(sheet.DumpWithOwnNets(), before);
+    }
+
+    void portsOfOneNameOnSeveralPagesAreRenamedOneByOne()
+    {
+        Wired design;
+        design.sheet.GoToPage(design.sheet.AddPage());
+        TGraphicsPortItem* elsewhere = design.sheet.Port({0, 0}, "A");
+        design.port->SetName("B", {});
+        QCOMPARE(elsewhere->Name(), QString("A"));
+    }
+};
+
+PROPERTIES_TEST_MAIN(TestPorts)
+#include "tst_ports.moc"

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QObject>
+
+#include <memory>
+
+class QUndoStack;
+class TDesign;
+class TDocumentTabs;
+class TPart;
+class TSchPage;
+class TUndoCommand;
+
+/**
+ * Opens and renames pages and parts for the user through commands, and follows the undo stack: whatever was done or
+ * undone, one step or many at once, the last command that opens a page or a part tells which one is open.
+ */
+class TNavigation : public QObject
+{
+    Q_OBJECT
+
+public:
+    TNavigation(TDocumentTabs& documentTabs, QUndoStack& stack);
+
+    /** The design whose tree is used; null for none. */
+    void SetDesign(TDesign* newDesign);
+
+public slots:
+    /** Shows a page; coming from another page leaves an undo step. */
+    void OpenPage(TSchPage& page);
+    /** Opens a part's symbol for editing and shows it; a part that is open already is only shown. */
+    void OpenPart(TPart& part);
+    void CloseSymbol();
+    /** Give an entry of the tree another name; none, or the one that it has, changes nothing. */
+    void RenamePage(TSchPage& page, const QString& name);
+    void RenamePart(TPart& part, const QString& name);
+
+private slots:
+    void slotIndexChanged(int index);
+
+private:
+    void Push(std::unique_ptr<TUndoCommand> command, const QString& what);
+    void Reveal(const TPart& part);
+    void MarkOpenRows();
+
+    TDocumentTabs& tabs;
+    QUndoStack& undoStack;
+    TDesign* design = nullptr;
+    int lastIndex = 0;
+};

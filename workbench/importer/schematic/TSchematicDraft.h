@@ -1,0 +1,27 @@
+#pragma once
+
+#include "workbench/importer/schematic/TSheetPage.h"
+#include "workbench/importer/TextVariables.h"
+#include "workbench/importer/TNotShown.h"
+
+#include <application/TSchematic.h>
+
+#include <QMap>
+
+/** A schematic in the making, and what its items refer to while they are made. */
+struct TSchematicDraft
+{
+    TSchematic& schematic;
+    const TSheetHierarchy& hierarchy;
+    TextVariables::TValues variables; ///< Of the whole project.
+    QHash<QString, quint16> numbers;  ///< Of components and net ties, by `ComponentKey`.
+    QMap<QString, QString> tagValues; ///< What tags show, by their names.
+    TNotShown notShown;
+
+    /** The name of a net; empty for -1. */
+    QString NetName(int net) const { return net < 0 ? QString() : hierarchy.nets[static_cast<std::size_t>(net)].name; }
+    QColor NetColor(const QString& name) const
+    {
+        return schematic.NetModel()->ColorSch(schematic.NetModel()->NetRow(name));
+    }
+};
