@@ -72,6 +72,24 @@ private slots:
         QCOMPARE(model.Priority("B"), QString("2"));
     }
 
+    void rowsGivenBackInReverseOrderRestoreTheTable()
+    {
+        TNetModel model;
+        for (const char* net : {"A", "B", "C", "D"}) {
+            model.AddNet(net, "Default", QColor(), QColor(), 0);
+        }
+        const QString before = model.Dump();
+        QList<QVector<QVariant>> deleted;
+        for (const char* net : {"C", "A", "D"}) {
+            deleted.append(model.DeleteNet(net));
+        }
+        QCOMPARE(model.RowCount(), 1);
+        while (!deleted.isEmpty()) {
+            model.AddNet(deleted.takeLast());
+        }
+        QCOMPARE(model.Dump(), before);
+    }
+
     void deletedNetsRestoreTheTableInAnyOrder()
     {
         TNetModel model;
