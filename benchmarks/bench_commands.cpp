@@ -17,6 +17,12 @@ int main(int argc, char** argv)
     Bench::AddPackages(shelf);
     Bench::AddNets(shelf);
     Bench::AddNetTies(shelf);
+    Bench::AddSheetNets(shelf);
+    Bench::AddPins(shelf);
+    Bench::AddPorts(shelf);
+    Bench::AddParts(shelf);
+    Bench::AddProjectTree(shelf);
+    Bench::AddTags(shelf);
     return Bench::RunAndCompare(argc, argv,
                                 {{"construct", "loop", 1.0}, {"redo", "loop", 1.1}, {"undo", "loop back", 1.1}},
                                 Bench::Order::AsRegistered);

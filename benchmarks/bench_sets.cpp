@@ -2,16 +2,22 @@
 #include "benchmarks/support/BenchBoard.h"
 #include "benchmarks/support/Ratios.h"
 
+#include "properties/sets/TPropertySetForBus.h"
 #include "properties/sets/TPropertySetForHole.h"
 #include "properties/sets/TPropertySetForKeepout.h"
 #include "properties/sets/TPropertySetForMilling.h"
+#include "properties/sets/TPropertySetForNet.h"
 #include "properties/sets/TPropertySetForNetTiePcb.h"
 #include "properties/sets/TPropertySetForNetTieSch.h"
 #include "properties/sets/TPropertySetForOutline.h"
 #include "properties/sets/TPropertySetForPackage.h"
 #include "properties/sets/TPropertySetForPad.h"
+#include "properties/sets/TPropertySetForPart.h"
+#include "properties/sets/TPropertySetForPin.h"
+#include "properties/sets/TPropertySetForPort.h"
 #include "properties/sets/TPropertySetForPour.h"
 #include "properties/sets/TPropertySetForPrimitives.h"
+#include "properties/sets/TPropertySetForTag.h"
 #include "properties/sets/TPropertySetForText.h"
 #include "properties/sets/TPropertySetForVia.h"
 #include "properties/sets/TPropertySetForWire.h"
@@ -127,6 +133,25 @@ void AddOfDrawings(Shelf& shelf)
         [](const Items& items, BenchBoard&) { return std::make_unique<TPropertySetForOutline>(items); });
 }
 
+void AddOfSheets(Shelf& shelf, TProject& project)
+{
+    TSchematic* schematic = project.Schematic();
+    Add(shelf, "TPropertySetForNet", Kind::NetWire, Bench::ScanNetWires, [schematic](const Items& items, BenchBoard&) {
+        return std::make_unique<TPropertySetForNet>(items, schematic);
+    });
+    Add(shelf, "TPropertySetForBus", Kind::Bus, Bench::ScanBuses,
+        [](const Items& items, BenchBoard&) { return std::make_unique<TPropertySetForBus>(items); });
+    Add(shelf, "TPropertySetForPin", Kind::Pin, Bench::ScanPins,
+        [](const Items& items, BenchBoard&) { return std::make_unique<TPropertySetForPin>(items); });
+    Add(shelf, "TPropertySetForPort", Kind::Port, Bench::ScanPorts, [schematic](const Items& items, BenchBoard&) {
+        return std::make_unique<TPropertySetForPort>(items, schematic);
+    });
+    Add(shelf, "TPropertySetForPart", Kind::Part, Bench::ScanParts,
+        [](const Items& items, BenchBoard&) { return std::make_unique<TPropertySetForPart>(items); });
+    Add(shelf, "TPropertySetForTag", Kind::Tag, Bench::ScanTags,
+        [&project](const Items& items, BenchBoard&) { return std::make_unique<TPropertySetForTag>(items, &project); });
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -141,5 +166,6 @@ int main(int argc, char** argv)
     AddOfCopper(shelf, project);
     AddOfComponents(shelf, project);
     AddOfDrawings(shelf);
+    AddOfSheets(shelf, project);
     return Bench::RunAndCompare(argc, argv, {{"set", "scan", 2.0, 100'000}}, Bench::Order::AsRegistered);
 }

@@ -14,5 +14,11 @@ void AddWireLayer(Shelf& shelf);
 void AddPackages(Shelf& shelf);
 void AddNets(Shelf& shelf);
 void AddNetTies(Shelf& shelf);
+void AddSheetNets(Shelf& shelf);
+void AddPins(Shelf& shelf);
+void AddPorts(Shelf& shelf);
+void AddParts(Shelf& shelf);
+void AddProjectTree(Shelf& shelf);
+void AddTags(Shelf& shelf);
 
 } // namespace Bench

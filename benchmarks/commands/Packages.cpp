@@ -1,5 +1,6 @@
 #include "benchmarks/commands/Families.h"
 #include "benchmarks/support/AttributeEdits.h"
+#include "benchmarks/support/BenchItems.h"
 
 #include "properties/commands/TCmdLock.h"
 #include "properties/commands/TCmdPackage.h"
@@ -63,14 +64,6 @@ private:
             ->LinkToFirst(static_cast<TGraphicsPadItem*>(placed->Pads().first()));
         PlaceWire(at + QPointF(arm, 0), Osmirel::CopperBottom);
         return placed;
-    }
-
-    static TGraphicsTextItem* NewText()
-    {
-        auto* text = new TGraphicsTextItem;
-        text->SetLayer(Osmirel::SilkTop);
-        text->Font().setPixelSize(8);
-        return text;
     }
 
     TGraphicsWireItem* PlaceWire(const QPointF& from, Osmirel::Layer layer)
@@ -156,8 +149,8 @@ private:
     }
 };
 
-template <class NamedCommand, const QString& (TGraphicsPackageItem::*get)() const,
-          void (TGraphicsPackageItem::*set)(const QString&)>
+template <class NamedCommand, const QString& (TGraphicsComponentItem::*get)() const,
+          void (TGraphicsComponentItem::*set)(const QString&)>
 class Renaming : public PackagesEdit
 {
 public:
@@ -190,8 +183,8 @@ private:
     QStringList oldTexts;
 };
 
-using ChangingRefDes = Renaming<TCmdPackageRefDes, &TGraphicsPackageItem::RefDes, &TGraphicsPackageItem::SetRefDes>;
-using ChangingValue = Renaming<TCmdPackageValue, &TGraphicsPackageItem::Value, &TGraphicsPackageItem::SetValue>;
+using ChangingRefDes = Renaming<TCmdPackageRefDes, &TGraphicsComponentItem::RefDes, &TGraphicsComponentItem::SetRefDes>;
+using ChangingValue = Renaming<TCmdPackageValue, &TGraphicsComponentItem::Value, &TGraphicsComponentItem::SetValue>;
 
 /** Connects packages that are not connected. */
 class Connecting : public PackagesEdit

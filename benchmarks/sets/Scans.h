@@ -23,5 +23,11 @@ void ScanMillings(const Items& items);
 void ScanKeepouts(const Items& items);
 void ScanOutlines(const Items& items);
 void ScanPours(const Items& items);
+void ScanNetWires(const Items& items);
+void ScanBuses(const Items& items);
+void ScanPins(const Items& items);
+void ScanPorts(const Items& items);
+void ScanParts(const Items& items);
+void ScanTags(const Items& items);
 
 } // namespace Bench

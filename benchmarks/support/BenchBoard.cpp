@@ -32,16 +32,21 @@ BenchBoard::BenchBoard(Kind kind, int count)
     Settle();
 }
 
-QPointF GridPoint(int number, double pitch)
+QPointF GridPoint(int number, double pitch, int itemsInARow)
 {
-    constexpr int itemsInARow = 1000;
     return {pitch * (number % itemsInARow), pitch * (number / itemsInARow)}; // NOLINT: a whole row.
 }
 
 int MostOf(Kind kind)
 {
-    // A text keeps its glyphs as a path: a million of them take 13 GB.
-    return kind == Kind::Text ? 100'000 : 1'000'000;
+    switch (kind) {
+    // A text keeps its glyphs as a path: a million of them take 13 GB. Pins have one each, ports a pin.
+    case Kind::Text:
+    case Kind::Pin:
+    case Kind::Port:
+    case Kind::Tag: return 100'000;
+    default: return 1'000'000;
+    }
 }
 
 BenchBoard& BoardOf(Shelf& shelf, Kind kind, int count)

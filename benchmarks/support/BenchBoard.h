@@ -26,6 +26,13 @@ enum class Kind {
     NetTie,
     NetTieSymbol, ///< Those of a schematic; that they lie on a board makes no difference to a set.
     Package,      ///< Without children.
+    // Kinds of the schematic. That they lie on a board makes no difference to what edits them.
+    NetWire, ///< Of a hundred nets by turns.
+    Bus,
+    Pin, ///< Of no symbol.
+    Port,
+    Part, ///< Without children.
+    Tag,
 };
 
 /** A two-layer board that is shown by a view. */
@@ -66,7 +73,7 @@ private:
 };
 
 /** Where the item of a number lies in a grid. */
-QPointF GridPoint(int number, double pitch = 50);
+QPointF GridPoint(int number, double pitch = 50, int itemsInARow = 1000);
 
 /** The most items of a kind that a board is made of. */
 int MostOf(Kind kind);

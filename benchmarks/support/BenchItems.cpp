@@ -4,15 +4,21 @@
 #include <graphics/TGraphicsPolylineItem.h>
 #include <graphics/TGraphicsRectItem.h>
 #include <graphics/TGraphicsTextItem.h>
+#include <objects/TGraphicsBusItem.h>
 #include <objects/TGraphicsHoleItem.h>
 #include <objects/TGraphicsJunctionItem.h>
 #include <objects/TGraphicsKeepoutItem.h>
+#include <objects/TGraphicsNetItem.h>
 #include <objects/TGraphicsNetTiePcbItem.h>
 #include <objects/TGraphicsNetTieSchItem.h>
 #include <objects/TGraphicsOutlineItem.h>
 #include <objects/TGraphicsPackageItem.h>
 #include <objects/TGraphicsPadItem.h>
+#include <objects/TGraphicsPartItem.h>
+#include <objects/TGraphicsPinItem.h>
+#include <objects/TGraphicsPortItem.h>
 #include <objects/TGraphicsPourItem.h>
+#include <objects/TGraphicsTagItem.h>
 #include <objects/TGraphicsWireItem.h>
 
 #include <algorithm>
@@ -182,6 +188,66 @@ TGraphicsItem* PlacePackage(ShownBoard& board, int number)
     return package;
 }
 
+template <class Section>
+Section* PlaceSection(ShownBoard& board, int number)
+{
+    auto* section = board.Place<Section>({});
+    section->SetPoint1(GridPoint(number));
+    section->SetPoint2(GridPoint(number) + QPointF(20, 0));
+    return section;
+}
+
+TGraphicsItem* PlaceNetWire(ShownBoard& board, int number)
+{
+    auto* wire = PlaceSection<TGraphicsNetItem>(board, number);
+    wire->SetNet(QStringLiteral("N%1").arg(number % 100));
+    return wire;
+}
+
+TGraphicsItem* PlaceBus(ShownBoard& board, int number)
+{
+    auto* bus = PlaceSection<TGraphicsBusItem>(board, number);
+    bus->SetName(QStringLiteral("D%1[0..7]").arg(number % 100));
+    return bus;
+}
+
+TGraphicsItem* PlacePin(ShownBoard& board, int number)
+{
+    auto* pin = board.Place<TGraphicsPinItem>(GridPoint(number));
+    pin->SetName(QStringLiteral("P%1").arg(number));
+    pin->NumberText()->SetText(QString::number(number));
+    pin->SetPinType(static_cast<TGraphicsPinItem::TypePinType>(number % 7));
+    pin->SetPinStyle(static_cast<TGraphicsPinItem::TypePinStyle>(number % 2));
+    pin->SetPinLength(static_cast<TGraphicsPinItem::TypePinLength>(number % 4));
+    pin->SetSwap(static_cast<quint8>(number % 5));
+    pin->UpdatePath();
+    return pin;
+}
+
+TGraphicsItem* PlacePort(ShownBoard& board, int number)
+{
+    auto* port = board.Place<TGraphicsPortItem>(GridPoint(number));
+    port->SetName(QStringLiteral("N%1").arg(number), {});
+    return port;
+}
+
+TGraphicsItem* PlacePart(ShownBoard& board, int number)
+{
+    auto* part = board.Place<TGraphicsPartItem>(GridPoint(number));
+    part->SetRefDes(QStringLiteral("R%1").arg(number));
+    part->SetValue(QStringLiteral("%1k").arg(number % 10));
+    part->SetPackageName(QStringLiteral("SO8@wide"));
+    return part;
+}
+
+TGraphicsItem* PlaceTag(ShownBoard& board, int number)
+{
+    auto* tag = board.Place<TGraphicsTagItem>(GridPoint(number));
+    tag->Font().setFamily(QStringLiteral("Sans"));
+    tag->SetName(QStringLiteral("Title%1").arg(number % 10), true);
+    return tag;
+}
+
 } // namespace
 
 TGraphicsItem* PlaceItem(ShownBoard& board, Kind kind, int number, TGraphicsItem* previous)
@@ -200,9 +266,23 @@ TGraphicsItem* PlaceItem(ShownBoard& board, Kind kind, int number, TGraphicsItem
     case Kind::Keepout: return PlaceKeepout(board, number);
     case Kind::NetTie: return PlaceNetTie(board, number);
     case Kind::NetTieSymbol: return PlaceNetTieSymbol(board, number);
-    case Kind::Package: break;
+    case Kind::Package: return PlacePackage(board, number);
+    case Kind::NetWire: return PlaceNetWire(board, number);
+    case Kind::Bus: return PlaceBus(board, number);
+    case Kind::Pin: return PlacePin(board, number);
+    case Kind::Port: return PlacePort(board, number);
+    case Kind::Part: return PlacePart(board, number);
+    case Kind::Tag: break;
     }
-    return PlacePackage(board, number);
+    return PlaceTag(board, number);
+}
+
+TGraphicsTextItem* NewText()
+{
+    auto* text = new TGraphicsTextItem;
+    text->SetLayer(Osmirel::SilkTop);
+    text->Font().setPixelSize(8);
+    return text;
 }
 
 } // namespace Bench

@@ -2,9 +2,14 @@
 
 #include "benchmarks/support/BenchBoard.h"
 
+class TGraphicsTextItem;
+
 namespace Bench {
 
 /** Places the item of a number, at its grid point and with values of its own; @p previous is the one placed before. */
 TGraphicsItem* PlaceItem(ShownBoard& board, Kind kind, int number, TGraphicsItem* previous);
+
+/** A text for a component to own. */
+TGraphicsTextItem* NewText();
 
 } // namespace Bench

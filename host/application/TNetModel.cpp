@@ -2,8 +2,6 @@
 
 #include <graphics/TStateText.h>
 
-#include <algorithm>
-
 void TNetModel::AddNet(const QString& net, const QString& netClass, const QColor& colorSch, const QColor& colorPcb,
                        int priority)
 {
@@ -13,47 +11,69 @@ void TNetModel::AddNet(const QString& net, const QString& netClass, const QColor
 void TNetModel::AddNet(const QVector<QVariant>& row)
 {
     const QString net = row.value(Name).toString();
-    if (!net.isEmpty() && !HasNet(net)) {
-        const int place = row.size() > columnCount ? row[columnCount].toInt() : rows.size();
-        const int index = std::clamp(place, 0, rows.size());
-        ShiftRows(index, 1);
-        rowOf.insert(net, index);
-        rows.insert(index, row);
-        rows[index].resize(columnCount);
-    }
-}
-
-void TNetModel::ShiftRows(int from, int by)
-{
-    if (from >= rows.size()) {
+    if (net.isEmpty() || HasNet(net)) {
         return;
     }
-    for (int& row : rowOf) {
-        row += row >= from ? by : 0;
-    }
+    const int formerPlace = row.value(columnCount, nextPlace).toInt();
+    const bool isFree = formerPlace >= 0 && formerPlace < nextPlace && rows.count(formerPlace) == 0;
+    const int place = isFree ? formerPlace : nextPlace++;
+    const auto added = rows.insert({place, Row{row}}).first;
+    added->second.values.resize(columnCount);
+    rowOf.insert(net, added);
+    inOrder.clear();
 }
 
 QVector<QVariant> TNetModel::DeleteNet(const QString& net)
 {
-    const int deleted = NetRow(net);
-    if (deleted < 0) {
+    if (!HasNet(net)) {
         return {};
     }
-    rowOf.remove(net);
-    ShiftRows(deleted, -1);
-    return rows.takeAt(deleted) << deleted;
+    const Rows::iterator deleted = rowOf.take(net);
+    QVector<QVariant> row = deleted->second.values;
+    row.append(deleted->first);
+    rows.erase(deleted);
+    inOrder.clear();
+    return row;
+}
+
+const QVector<const TNetModel::Row*>& TNetModel::InOrder() const
+{
+    if (inOrder.isEmpty()) {
+        for (const auto& [place, row] : rows) {
+            row.number = inOrder.size();
+            inOrder.append(&row);
+        }
+    }
+    return inOrder;
+}
+
+int TNetModel::NetRow(const QString& net) const
+{
+    const auto found = rowOf.constFind(net);
+    if (found == rowOf.cend()) {
+        return -1;
+    }
+    InOrder();
+    return (*found)->second.number;
 }
 
 QVariant TNetModel::At(int row, Column column) const
 {
-    return row >= 0 && row < rows.size() ? rows[row][column] : QVariant();
+    const QVector<const Row*>& all = InOrder();
+    return row >= 0 && row < all.size() ? all[row]->values[column] : QVariant();
+}
+
+QString TNetModel::Text(const QString& net, Column column) const
+{
+    const auto found = rowOf.constFind(net);
+    return found == rowOf.cend() ? QString() : (*found)->second.values[column].toString();
 }
 
 void TNetModel::Set(const QString& net, Column column, const QVariant& value)
 {
-    const int row = NetRow(net);
-    if (row >= 0) {
-        rows[row][column] = value;
+    const auto found = rowOf.find(net);
+    if (found != rowOf.end()) {
+        (*found)->second.values[column] = value;
     }
 }
 

@@ -6,6 +6,8 @@
 #include <QVariant>
 #include <QVector>
 
+#include <map>
+
 /**
  * The table of a project's nets: a row for each, in the order in which they were added, found by name. Owned by its
  * schematic. A row read for a net that is not there is -1, and every value of it empty; writing to it does nothing.
@@ -16,19 +18,23 @@ public:
     /** A row's values in their order. The type of each: `QString`, `QString`, `QColor`, `QColor`, `QString`. */
     enum Column : int { Name, Class, ColorOfSchematic, ColorOfBoard, PriorityLevel, columnCount };
 
-    int RowCount() const { return rows.size(); }
+    TNetModel() = default;
+    TNetModel(const TNetModel&) = delete;
+    TNetModel& operator=(const TNetModel&) = delete;
+
+    int RowCount() const { return rowOf.size(); }
     bool HasNet(const QString& net) const { return rowOf.contains(net); }
-    int NetRow(const QString& net) const { return rowOf.value(net, -1); }
+    int NetRow(const QString& net) const;
     QString NetName(int row) const { return Text(row, Name); }
 
     /** Adds a net. A net that is there already, or has no name, is left alone. */
     void AddNet(const QString& net, const QString& netClass, const QColor& colorSch, const QColor& colorPcb,
                 int priority);
-    /** Adds a net with the values of a whole row. A row that `DeleteNet` returned goes back to its place, so that rows
-     *  that are given back in reverse order restore the table. */
+    /** Adds a net with the values of a whole row. A row that `DeleteNet` returned goes back to its place among the
+     *  others, so that rows that are given back, in whatever order, restore the table. */
     void AddNet(const QVector<QVariant>& row);
     /** Removes a net and returns its row, and behind its values the place of it; empty if there was none. The rows
-     * after it move up. */
+     *  after it move up, which is taken into account when a row is next asked for by its number. */
     QVector<QVariant> DeleteNet(const QString& net);
 
     /** Colours by row; invalid for none. */
@@ -38,23 +44,34 @@ public:
     void SetColorPcb(const QString& net, const QColor& color) { Set(net, ColorOfBoard, color); }
 
     /** The net's class; empty stands for the default class. */
-    QString NetClass(const QString& net) const { return Text(NetRow(net), Class); }
+    QString NetClass(const QString& net) const { return Text(net, Class); }
     void SetNetClass(const QString& net, const QString& netClass) { Set(net, Class, netClass); }
 
     /** The net's routing priority as text: a digit, or "Default". */
-    QString Priority(const QString& net) const { return Text(NetRow(net), PriorityLevel); }
+    QString Priority(const QString& net) const { return Text(net, PriorityLevel); }
     void SetPriority(const QString& net, const QString& level) { Set(net, PriorityLevel, level); }
 
     /** The state of every net, one line each, in the order of their rows. */
     QString Dump() const;
 
 private:
+    struct Row
+    {
+        QVector<QVariant> values;
+        mutable int number = 0; ///< Valid while `inOrder` is.
+    };
+    /** By their places, which only grow and are not used twice. */
+    using Rows = std::map<int, Row>;
+
     QVariant At(int row, Column column) const;
     QString Text(int row, Column column) const { return At(row, column).toString(); }
+    QString Text(const QString& net, Column column) const;
     void Set(const QString& net, Column column, const QVariant& value);
-    /** Moves what is known of the rows' numbers, from a row on, by one up or down. */
-    void ShiftRows(int from, int by);
+    /** The rows in their order. Works out anew which number each has if nets came or went since. */
+    const QVector<const Row*>& InOrder() const;
 
-    QVector<QVector<QVariant>> rows;
-    QHash<QString, int> rowOf;
+    Rows rows;
+    QHash<QString, Rows::iterator> rowOf;
+    int nextPlace = 0;
+    mutable QVector<const Row*> inOrder; ///< Empty when it is out of date.
 };

@@ -178,6 +178,9 @@ void TGraphicsItem::Flip()
 
 void TGraphicsItem::SetAltColor(const QColor& color)
 {
+    if (color != altColor) {
+        linkNode.ColorChanges();
+    }
     altColor = color;
     update();
 }

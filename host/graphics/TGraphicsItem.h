@@ -70,7 +70,7 @@ public:
     /** The item's own colour; invalid when it is drawn in its layer's colour. */
     const QColor& AltColor() const { return altColor; }
     /** Sets the item's own colour, or gives it back its layer's with an invalid one, and repaints. */
-    void SetAltColor(const QColor& color);
+    virtual void SetAltColor(const QColor& color);
 
     /** The scene that owns the item; null while it is detached. */
     TItemScene* Owner() const { return owner; }

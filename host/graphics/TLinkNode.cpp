@@ -356,6 +356,7 @@ void TLinkNode::LeaveIsland()
 
 void TLinkNode::Count(int difference) const
 {
+    island->colored.reset();
     CountIn(role == Role::Names ? island->namesGiven : island->namesKept, ownNet, difference);
     CountIn(island->scenes, item.owner, difference);
 }
@@ -406,4 +407,24 @@ const TLinkIsland* TLinkNode::Island() const
 {
     BringUpToDate();
     return island.get();
+}
+
+void TLinkNode::NoteColored(const QString& net, const QColor& color) const
+{
+    if (island) {
+        island->colored = qMakePair(net, color);
+    }
+}
+
+bool TLinkNode::IsColored(const QString& net, const QColor& color) const
+{
+    const TLinkIsland* joined = Island();
+    return joined && joined->colored == qMakePair(net, color);
+}
+
+void TLinkNode::ColorChanges() const
+{
+    if (island) {
+        island->colored.reset();
+    }
 }

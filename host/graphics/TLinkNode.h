@@ -1,11 +1,14 @@
 #pragma once
 
+#include <QColor>
 #include <QHash>
+#include <QPair>
 #include <QSet>
 #include <QString>
 #include <QVector>
 
 #include <memory>
+#include <optional>
 
 class TGraphicsItem;
 class TItemScene;
@@ -22,6 +25,9 @@ struct TLinkIsland
     QHash<QString, int> namesGiven; ///< Nets of the members that name one (pads, pins), with how often.
     QHash<QString, int> namesKept;  ///< Own names of the other members, with how often.
     QHash<TItemScene*, int> scenes; ///< That own members, with how many.
+    /** The net and the colour that a port has found all to have who bear that net or none. Void as soon as a member
+     *  comes, goes, or changes its name or colour. */
+    std::optional<QPair<QString, QColor>> colored;
 };
 
 /** The two ends of links that were made or cut since the islands were last brought up to date. */
@@ -80,6 +86,12 @@ public:
 
     /** The island, null for an item that nothing is linked with. Valid until links change. */
     const TLinkIsland* Island() const;
+
+    /** Notes in the island, if there is one, that all of a net have a colour; whether that is noted; and that an item
+     *  takes another one. */
+    void NoteColored(const QString& net, const QColor& color) const;
+    bool IsColored(const QString& net, const QColor& color) const;
+    void ColorChanges() const;
 
     /** Brings islands and nets up to date with the links. Called by the design's scene and by the nodes. */
     static void Apply(TLinkChanges& changes);

@@ -39,6 +39,9 @@ TGraphicsPortItem::TGraphicsPortItem(QGraphicsItem* parent) : TGraphicsItem(pare
 void TGraphicsPortItem::SetName(const QString& newName, const QColor& color)
 {
     const bool isNew = newName != name;
+    if (!isNew && pin && pin->LinkNode().IsColored(name, color)) {
+        return; // As when all ports of a net are renamed: the first of them has done it.
+    }
     const Items named = isNew ? Renamed(newName) : OfName(name);
     for (TGraphicsItem* item : named) {
         if (isNew) {
@@ -52,6 +55,17 @@ void TGraphicsPortItem::SetName(const QString& newName, const QColor& color)
             item->SetAltColor(color);
         }
     }
+    if (!isNew && pin) {
+        pin->LinkNode().NoteColored(name, color);
+    }
+}
+
+void TGraphicsPortItem::SetAltColor(const QColor& color)
+{
+    if (pin && color != AltColor()) {
+        pin->LinkNode().ColorChanges();
+    }
+    TGraphicsItem::SetAltColor(color);
 }
 
 TGraphicsPortItem::Items TGraphicsPortItem::OfName(const QString& wanted) const

@@ -36,6 +36,9 @@ public:
      */
     void SetName(const QString& newName, const QColor& color);
 
+    /** Tells those who are linked with the pin. */
+    void SetAltColor(const QColor& color) override;
+
     bool NameVisible() const { return nameVisible; }
     /** Shows or hides the name, and repaints. */
     void SetNameVisible(bool on);

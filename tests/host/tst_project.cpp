@@ -9,6 +9,8 @@
 #include <objects/TGraphicsPartItem.h>
 #include <objects/TGraphicsPinItem.h>
 
+#include <algorithm>
+
 class TestProject : public QObject
 {
     Q_OBJECT
@@ -56,14 +58,18 @@ private slots:
         for (const char* net : {"A", "B", "C"}) {
             model.AddNet(net, "Default", Qt::red, Qt::blue, 2);
         }
-        const QVector<QVariant> row = model.DeleteNet("A");
+        const QVector<QVariant> row = model.DeleteNet("B");
+        QCOMPARE(row.mid(0, TNetModel::columnCount),
+                 (QVector<QVariant>{"B", "Default", QColor(Qt::red), QColor(Qt::blue), "2"}));
+        QCOMPARE(model.RowCount(), 2);
         QCOMPARE(model.NetRow("C"), 1);
-        QCOMPARE(model.NetName(0), QString("B"));
+        QCOMPARE(model.NetName(1), QString("C"));
+        model.AddNet("D", "Default", {}, {}, 0);
         model.AddNet(row);
-        QCOMPARE(model.NetRow("A"), 0);
-        QCOMPARE(model.NetRow("C"), 2);
-        QCOMPARE(model.ColorPcb(0), QColor(Qt::blue));
-        QCOMPARE(model.Priority("A"), QString("2"));
+        QCOMPARE(model.NetRow("B"), 1);
+        QCOMPARE(model.NetRow("C") + model.NetRow("D"), 2 + 3);
+        QCOMPARE(model.ColorPcb(1), QColor(Qt::blue));
+        QCOMPARE(model.Priority("B"), QString("2"));
     }
 
     void rowsGivenBackInReverseOrderRestoreTheTable()
@@ -82,6 +88,42 @@ private slots:
             model.AddNet(deleted.takeLast());
         }
         QCOMPARE(model.Dump(), before);
+    }
+
+    void deletedNetsRestoreTheTableInAnyOrder()
+    {
+        TNetModel model;
+        for (const char* net : {"A", "B", "C", "D", "E"}) {
+            model.AddNet(net, net, {}, {}, 0);
+        }
+        const QString before = model.Dump();
+        QList<int> order{0, 1, 2, 3};
+        do {
+            QVector<QVector<QVariant>> rows;
+            for (const char* net : {"D", "A", "B", "C"}) {
+                rows.append(model.DeleteNet(net));
+            }
+            QCOMPARE(model.NetName(0), QString("E"));
+            model.AddNet("New", {}, {}, {}, 0); // Takes no place of theirs.
+            QCOMPARE(model.NetRow("New"), 1);
+            for (const int i : order) {
+                model.AddNet(rows.at(i));
+            }
+            model.DeleteNet("New");
+            QCOMPARE(model.Dump(), before);
+        } while (std::next_permutation(order.begin(), order.end()));
+    }
+
+    void aRowForATakenPlaceComesLast()
+    {
+        TNetModel model;
+        model.AddNet("A", {}, {}, {}, 0);
+        QVector<QVariant> row = model.DeleteNet("A");
+        model.AddNet("B", {}, {}, {}, 0);
+        model.AddNet(row);
+        row[TNetModel::Name] = "A again";
+        model.AddNet(row);
+        QCOMPARE(model.NetName(0) + model.NetName(1) + model.NetName(2), QString("ABA again"));
     }
 
     void netClasses()
