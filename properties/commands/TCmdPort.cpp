@@ -20,7 +20,8 @@ QColor ColorOf(const TNetModel& model, const QString& net)
     return model.ColorSch(model.NetRow(net));
 }
 
-/** The number of the component, or the net tie, whose pin an item is; nothing for other items. */
+/** The number of the component, or the net tie, whose pin an item is; nothing for other items. Intended: the board is
+ *  told both as numbers of components. */
 void AddNumberOf(const TGraphicsItem& item, TUniqueNumbers& numbers)
 {
     const QGraphicsItem* parent = item.type() == ItemType::Pin ? item.parentItem() : nullptr;
@@ -55,6 +56,7 @@ void TCmdPortName::Do()
 
 void TCmdPortName::AddNewNet(TNetModel& model)
 {
+    // Intended: the net is added even when there are no ports.
     if (!model.HasNet(newName)) {
         model.AddNet(newName, QStringLiteral("Default"), QColor(), QColor(), 0);
         addedNet = model.HasNet(newName) ? newName : QString(); // The empty name is no net.

@@ -18,7 +18,7 @@ TPropertySetForBus::TPropertySetForBus(QList<TGraphicsItem*> selection) : TPrope
     if (buses.isEmpty()) {
         return;
     }
-    name = NewRow<TPropertyText>(tr("Name"), QString(), false);
+    name = NewRow<TPropertyText>(tr("Name"), QString(), false); // Intended: no colon.
     RowValues::Show(*name, names);
     connect(name, SIGNAL(sigTextChanged(QString)), this, SLOT(SetName(QString)));
     AddProperty(name);

@@ -18,7 +18,8 @@ class PROPERTIES_EXPORT TPropertySetForNet : public TPropertySet
     Q_OBJECT
 
 public:
-    /** Looks at the net wires of @p selection, all of them on pages of @p schematic. */
+    /** Intended: the name of the set counts all items that are given. Looks at the net wires of @p selection, all of
+     * them on pages of @p schematic. */
     TPropertySetForNet(QList<TGraphicsItem*> selection, TSchematic* schematic);
 
 public slots:

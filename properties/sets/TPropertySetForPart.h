@@ -14,7 +14,7 @@ class PROPERTIES_EXPORT TPropertySetForPart : public TPropertySet
     Q_OBJECT
 
 public:
-    /** Keeps the parts of @p selection. */
+    /** Intended: the name of the set counts all items that are given. Keeps the parts of @p selection. */
     explicit TPropertySetForPart(QList<TGraphicsItem*> selection);
 
 public slots:

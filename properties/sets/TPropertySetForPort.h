@@ -12,7 +12,8 @@ class PROPERTIES_EXPORT TPropertySetForPort : public TPropertySet
     Q_OBJECT
 
 public:
-    /** Keeps the ports of @p selection, all of them on pages of @p schematic. */
+    /** Intended: the name of the set counts all items that are given. Keeps the ports of @p selection, all of them on
+     * pages of @p schematic. */
     TPropertySetForPort(QList<TGraphicsItem*> selection, TSchematic* schematic);
 
 public slots:

@@ -15,7 +15,8 @@ class PROPERTIES_EXPORT TPropertySetForTag : public TPropertySet
     Q_OBJECT
 
 public:
-    /** Keeps the tags of @p selection; @p project holds what they show. */
+    /** Intended: the set is called "Tags", however many there are. Keeps the tags of @p selection; @p project holds
+     * what they show. */
     TPropertySetForTag(const QList<TGraphicsItem*>& selection, TProject* project);
 
 public slots:

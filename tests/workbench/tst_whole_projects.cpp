@@ -41,6 +41,7 @@ const QVector<Script>& Scripts()
         {"arc", {"--set", "Line width:=0.33"}},
         {"part", {"--lock"}},
         {"part", {"--disconnect"}},
+        {"part", {"--revalue", "Changed"}},
         {"pin", {"--set", "Type:=Hi-Z"}},
         {"netwire", {"--set", "Level:=2", "--set", "Level:=7"}},
         {"port", {"--set", "Name:=MOVED"}},
@@ -88,6 +89,7 @@ private slots:
         for (const TDocument& document : workbench.window->Design()->Documents()) {
             EditDocument(workbench, document, edited);
         }
+        EditTree(workbench);
         const QString after = workbench.Dump();
         QVERIFY(after != before);
         QUndoStack& stack = workbench.window->UndoStack();
@@ -134,6 +136,18 @@ private:
             edited.insert(script.kind);
         }
         QVERIFY2(left.isEmpty(), qPrintable(QStringList(left.cbegin(), left.cend()).join(", ")));
+    }
+
+    static void EditTree(Test::ShownWorkbench& workbench)
+    {
+        const TProjectTree& tree = workbench.window->Design()->Tree();
+        const int stepsBefore = workbench.window->UndoStack().count();
+        const QString part = QString::number(tree.Parts().first()->ComponentNumber());
+        const QString page = QString::number(tree.Pages().last()->Number());
+        const Test::Outcome outcome = workbench.Run({"--open-part", part, "--rename-part", part + "=Renamed",
+                                                     "--open-page", page, "--rename-page", page + "=Last page"});
+        QVERIFY2(outcome.code == 0, qPrintable(outcome.messages));
+        QVERIFY(workbench.window->UndoStack().count() >= stepsBefore + 3);
     }
 
     static void ExpectEqual(const char* what, const QString& actual, const QString& expected)
