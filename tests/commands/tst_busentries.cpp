@@ -1,6 +1,7 @@
 #include "properties/commands/TCmdBusEntry.h"
 #include "tests/commands/Links.h"
 #include "tests/commands/SheetDesign.h"
+#include "tests/support/Observers.h"
 #include "tests/support/TestMain.h"
 
 #include <QUndoStack>
@@ -127,14 +128,20 @@ private slots:
         QCOMPARE(design.starting->Owner(), first);
     }
 
-    void repaintsWhatComesBack()
+    void repaintsWhatGoesAndWhatComesBack()
     {
         Design design;
+        TItemScene* page = design.sheet.CurrentPage()->Scene();
+        const QRectF place = design.starting->sceneBoundingRect();
         TCmdBusEntryDisconnect command({design.starting});
+        Test::RepaintLog repaints(*page);
+        QCOMPARE(repaints.Take(), QRectF());
         command.redo();
-        QVERIFY(!design.sheet.CurrentPage()->Scene()->items().contains(design.starting));
+        QVERIFY(!page->items().contains(design.starting));
+        QVERIFY(repaints.Take().contains(place));
         command.undo();
-        QVERIFY(design.sheet.CurrentPage()->Scene()->items().contains(design.starting));
+        QVERIFY(page->items().contains(design.starting));
+        QVERIFY(repaints.Take().contains(place));
     }
 
     void netsFollowTheLinks()

@@ -165,17 +165,25 @@ private slots:
         QCOMPARE(design.atOne->LastLink(), PinOf(design.one, 1));
     }
 
-    // Intended: the board is asked to update no component.
-    void overNoPartsOnlyTheBoardIsAsked()
+    // No component is updated then, and not all of them.
+    void overNoPartsPadsKeepTheirNets()
     {
         Design design;
+        TCmdPartConnect({design.one, design.other}, nullptr).redo(); // Without the board.
         const QString before = design.Dump();
         TCmdPartConnect connect({nullptr, design.atOne, design.packageOfOne}, &design.project);
         Test::CheckBothWays(connect, design);
         connect.redo();
+        QCOMPARE(design.Dump(), before);
         TCmdPartDisconnect disconnect({}, &design.project);
         Test::CheckBothWays(disconnect, design);
+        disconnect.redo();
         QCOMPARE(design.Dump(), before);
+        for (const TGraphicsPackageItem* package : {design.packageOfOne, design.packageOfOther}) {
+            QCOMPARE(SheetDesign::PadNets(package), (QStringList{"stale", "stale"}));
+        }
+        TCmdPartConnect({design.one}, &design.project).redo();
+        QCOMPARE(SheetDesign::PadNets(design.packageOfOne), (QStringList{"A", ""})); // There was something to update.
     }
 
     void commandsInTurnAreUndoneInTurn()

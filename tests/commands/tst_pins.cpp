@@ -45,6 +45,19 @@ const QList<Refreshing>& EveryCommand()
     return commands;
 }
 
+/** A tag that counts how often its extent is asked for, as every update of its text does. */
+class MeasuredTag : public TGraphicsTagItem
+{
+public:
+    QRectF boundingRect() const override
+    {
+        ++measurings;
+        return TGraphicsTagItem::boundingRect();
+    }
+
+    mutable int measurings = 0;
+};
+
 /** What a tag holds and shows. */
 QStringList Written(const TGraphicsTagItem& tag)
 {
@@ -243,10 +256,28 @@ private slots:
     {
         SheetDesign design;
         design.project.SetTagValues({{"DATE", "today"}});
-        TGraphicsTagItem* tag = design.sheet.Tag({0, 0}, "TITLE");
+        auto* tag = design.sheet.Add<MeasuredTag>({0, 0});
+        tag->SetName("TITLE", true);
         TCmdTagName command({tag}, "DATE", &design.project);
         Test::RepaintLog repaints(*design.sheet.CurrentPage()->Scene());
-        command.SetName(tag, "DATE");
+        const auto measuringsOf = [&](const auto& change) {
+            tag->SetValue(QString(), false);
+            tag->SetName("TITLE", true);
+            repaints.Take();
+            tag->measurings = 0;
+            change();
+            return tag->measurings;
+        };
+        const int once = measuringsOf([&] { tag->UpdatePath(false); });
+        QVERIFY(once > 0);
+        QCOMPARE(measuringsOf([&] { tag->SetValue("today", false); }), 0);
+        QCOMPARE(measuringsOf([&] { tag->SetName("DATE", true); }), once);
+        QVERIFY(measuringsOf([&] {
+                    tag->SetValue("today", true);
+                    tag->SetName("DATE", true);
+                })
+                > once);
+        QCOMPARE(measuringsOf([&] { command.SetName(tag, "DATE"); }), once);
         QCOMPARE(tag->Text(), QString("today")); // Of name before value it would be "{DATE}" still.
         QVERIFY(repaints.Take().contains(tag->sceneBoundingRect().center()));
     }

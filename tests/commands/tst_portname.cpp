@@ -162,7 +162,8 @@ private slots:
         QCOMPARE(design.Dump(), before);
     }
 
-    void rowsComeBackToTheirPlaces()
+    // Only their places are held: the model finds them in whatever order the rows are added again.
+    void deletedNetsComeBackToTheirPlaces()
     {
         SheetDesign design;
         design.AddNets({"A", "X", "B", "Y", "C"});

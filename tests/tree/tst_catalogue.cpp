@@ -1,41 +1,36 @@
 #include "tests/support/TestMain.h"
+#include "tests/tree/TestSources.h"
 
-#include <QDir>
-#include <QFile>
+#include <QHash>
 #include <QProcess>
-#include <QRegularExpression>
 #include <QtTest>
+
+using Test::SourcesOf;
+using Test::TextOf;
 
 namespace {
 
-QString TextOf(const QString& file)
-{
-    QFile text(QStringLiteral(PROPERTIES_SOURCE_DIR "/") + file);
-    if (!text.open(QIODevice::ReadOnly)) {
-        qFatal("%s cannot be read", qPrintable(file));
-    }
-    return QString::fromUtf8(text.readAll());
-}
-
-/** One line of the catalogue: a class, the header that declares it, and the test programs that hold it. */
+/** One line of the catalogue: a class, its id, the header that declares it, and the test programs that hold it. */
 struct Row
 {
     QString name;
+    QString id; ///< As it is written; empty for none. Sets have no ids.
     QString header;
     QStringList programs;
 };
 
 QVector<Row> Catalogue()
 {
-    static const QRegularExpression line(QStringLiteral(R"(^\| `(T\w+)` \|.*\| `(properties/[\w/.]+)` \| (.+) \|$)"),
-                                         QRegularExpression::MultilineOption);
+    static const QRegularExpression line(
+        QStringLiteral(R"(^\| `(T\w+)` \|[^|]*\|(?:([^|`]*)\|)? `(properties/[\w/.]+)` \| (.+) \|$)"),
+        QRegularExpression::MultilineOption);
     static const QRegularExpression program(QStringLiteral("`([a-z]+\\.\\w+)`"));
     QVector<Row> rows;
     auto matches = line.globalMatch(TextOf(QStringLiteral("docs/catalogue.md")));
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
-        Row row{match.captured(1), match.captured(2), {}};
-        auto programs = program.globalMatch(match.captured(3));
+        Row row{match.captured(1), match.captured(2).trimmed(), match.captured(3), {}};
+        auto programs = program.globalMatch(match.captured(4));
         while (programs.hasNext()) {
             row.programs.append(programs.next().captured(1));
         }
@@ -76,27 +71,18 @@ QStringList Listed(const QString& prefix)
     return names;
 }
 
-/** All that the sources of a test program say; empty when there is no such program. */
-QString SourcesOf(const QString& program)
+/** The ids as they are written in their header, by the names of the commands without "TCmd". */
+QHash<QString, QString> Ids()
 {
-    const QString folder = QStringLiteral("tests/%1/").arg(program.section(QLatin1Char('.'), 0, 0));
-    QString list = TextOf(folder + QStringLiteral("CMakeLists.txt"));
-    static const QRegularExpression variable(QStringLiteral(R"(set\((\w+) ([^)]*)\))"));
-    auto variables = variable.globalMatch(list);
-    while (variables.hasNext()) {
-        const QRegularExpressionMatch match = variables.next();
-        list.replace(QStringLiteral("${%1}").arg(match.captured(1)), match.captured(2));
+    static const QRegularExpression line(QStringLiteral(R"(^    (\w+) = (\d+),$)"),
+                                         QRegularExpression::MultilineOption);
+    QHash<QString, QString> ids;
+    auto matches = line.globalMatch(TextOf(QStringLiteral("properties/commands/CommandIds.h")));
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        ids.insert(match.captured(1), match.captured(2));
     }
-    const QRegularExpression added(
-        QStringLiteral(R"(properties_add_test\(%1\s+SOURCES ([^)]*)\))").arg(QRegularExpression::escape(program)));
-    const QStringList words = added.match(list).captured(1).simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    QString sources;
-    for (const QString& word : words) {
-        if (QFile::exists(QStringLiteral(PROPERTIES_SOURCE_DIR "/") + folder + word)) {
-            sources += TextOf(folder + word);
-        }
-    }
-    return sources;
+    return ids;
 }
 
 bool Mentions(const QString& text, const QString& name)
@@ -146,6 +132,31 @@ private slots:
         QVERIFY(!programs.isEmpty());
         for (const QString& program : qAsConst(programs)) {
             QVERIFY2(Mentions(SourcesOf(program), name), qPrintable(program));
+        }
+    }
+
+    void saysTheIdOfEachCommand_data()
+    {
+        QTest::addColumn<QString>("id");
+        for (const Row& row : Catalogue()) {
+            if (row.name.startsWith(QStringLiteral("TCmd"))) {
+                QTest::newRow(row.name.toUtf8()) << row.id;
+            }
+        }
+    }
+    void saysTheIdOfEachCommand()
+    {
+        QFETCH(QString, id);
+        QCOMPARE(id, Ids().value(QString::fromUtf8(QTest::currentDataTag()).mid(4)));
+    }
+
+    void everyIdIsThatOfACommand()
+    {
+        const QStringList commands = Listed(QStringLiteral("TCmd"));
+        const QStringList names = Ids().keys();
+        QVERIFY(!names.isEmpty());
+        for (const QString& name : names) {
+            QVERIFY2(commands.contains(QStringLiteral("TCmd") + name), qPrintable(name));
         }
     }
 };
