@@ -47,29 +47,4 @@ const std::vector<CommandLaw>& LawTable()
     return table;
 }
 
-const QStringList& CommandsWithTestsOfTheirOwn()
-{
-    static const QStringList names{
-        "TCmdNetClass",        "TCmdNetColorSch",
-        "TCmdNetColorPcb",     "TCmdNetPrio",   // commands.netattributes
-        "TCmdNetName",         "TCmdFragmName", //
-        "TCmdNetTieBase",      "TCmdNetTieName",
-        "TCmdNetTieNameVis", // commands.netties
-        "TCmdNetTiePcbLayer",  "TCmdNetTiePadSz",
-        "TCmdNetTieWireWidth", "TCmdNetTieSchSymbol",
-        "TCmdOutlineAddNode",  "TCmdOutlineDelNode", // commands.drawings
-        "TCmdPackageRefDes",   "TCmdPackageValue",
-        "TCmdPkgConnect", // commands.packages
-        "TCmdPkgDisconnect",   "TCmdPkgSide",
-        "TCmdWireAddNode",     "TCmdWireDelNode",        // commands.nodes
-        "TCmdWireLayer",                                 // commands.wirelayer, commands.wirelayer_vias
-        "TCmdPartConnect",     "TCmdPartDisconnect",     // commands.parts
-        "TCmdPortName",        "TCmdBusEntryDisconnect", // commands.portname, commands.busentries
-        "TCmdCmpValue",                                  // commands.components
-        "TCmdPartRename",      "TCmdPageRename",
-        "TCmdPartOpen",        "TCmdPageOpen", // commands.projecttree
-    };
-    return names;
-}
-
 } // namespace Test

@@ -7,7 +7,6 @@
 
 #include <QList>
 #include <QString>
-#include <QStringList>
 
 #include <functional>
 #include <memory>
@@ -49,10 +48,8 @@ struct CommandLaw
     CommandLaw& Undone(std::function<void(StateFields&)> quirk);
 };
 
-/** One law for each command that writes one value to each of the items that it is given. */
+/** One law for each command that writes one value to each of the items that it is given; `ProjectLawTable` has the
+ *  others. */
 const std::vector<CommandLaw>& LawTable();
-
-/** The other commands that the library has: a test of its own holds each of them. */
-const QStringList& CommandsWithTestsOfTheirOwn();
 
 } // namespace Test
