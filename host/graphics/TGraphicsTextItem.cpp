@@ -15,6 +15,8 @@ constexpr int layoutPixelSize = 100;
 /** Below this many pixels a text is drawn as its box, and below the other not at all. */
 constexpr double smallestReadable = 5.0;
 constexpr double smallestVisible = 1.5;
+/** How wide the stems of a usual font's glyphs are by themselves, as a part of the pixel size. */
+constexpr double stemOfGlyphs = 0.09;
 
 double HorizontalShift(int alignment, double width)
 {
@@ -122,8 +124,10 @@ void TGraphicsTextItem::Draw(QPainter& painter, double pixelsPerUnit) const
         painter.fillRect(boundingRect(), faint);
         return;
     }
-    painter.setPen(vector ? QPen(Color(), static_cast<double>(lineWidth), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin)
-                          : QPen(Qt::NoPen));
+    // Strokes are drawn as the outlines of a font, made wider by what its stems lack of the line width.
+    const double added = static_cast<double>(lineWidth) - stemOfGlyphs * font.pixelSize();
+    painter.setPen(vector && added > 0 ? QPen(Color(), added, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin)
+                                       : QPen(Qt::NoPen));
     painter.setBrush(Color());
     painter.drawPath(Path());
 }

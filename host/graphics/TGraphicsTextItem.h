@@ -34,7 +34,7 @@ public:
     int Alignment() const { return alignment; }
     void SetAlignment(int alignmentFlags) { alignment = alignmentFlags; }
 
-    /** Stroke width of vector glyphs in scene units; 0 draws the finest line. */
+    /** Stroke width of vector glyphs in scene units. Less than the stems of the font family draws these as they are. */
     float LineWidth() const { return lineWidth; }
     void SetLineWidth(float width) { lineWidth = width; }
 

@@ -1,6 +1,7 @@
 #include "tests/support/TestBoard.h"
 #include "tests/support/TestMain.h"
 
+#include <graphics/TGraphicsTextItem.h>
 #include <objects/DrawingStyle.h>
 
 #include <QImage>
@@ -40,16 +41,16 @@ public:
         plain.fill(color);
         return image == plain;
     }
-    bool Has(const QColor& color) const
+    bool Has(const QColor& color) const { return Count(color) > 0; }
+    int Count(const QColor& color) const
     {
+        int count = 0;
         for (int y = 0; y < image.height(); ++y) {
             for (int x = 0; x < image.width(); ++x) {
-                if (image.pixelColor(x, y) == color) {
-                    return true;
-                }
+                count += image.pixelColor(x, y) == color ? 1 : 0;
             }
         }
-        return false;
+        return count;
     }
 
 private:
@@ -296,6 +297,31 @@ private slots:
         pad->SetNumber("8");
         QVERIFY(Picture(board, *pad).Has(DrawingStyle::textOnCopper));
         QVERIFY(!Picture(board, *pad, 4000).Has(DrawingStyle::textOnCopper)); // too small from afar
+    }
+
+    // The strokes of a text are as wide as its line width, but never thinner than its font draws them.
+    void strokesOfATextAreWidenedToTheLineWidth()
+    {
+        Test::TestBoard board;
+        auto owned = std::make_unique<TGraphicsTextItem>();
+        TGraphicsTextItem* text = owned.get();
+        board.Attach(std::move(owned));
+        text->SetText("H");
+        text->SetLayer(Osmirel::SilkTop);
+        text->Font().setPixelSize(30);
+        const auto inked = [&](bool vector, float width) {
+            text->SetVector(vector);
+            text->SetLineWidth(width);
+            text->UpdatePath(false);
+            return Picture(board, *text).Count(ColorOf(board, Osmirel::SilkTop));
+        };
+        const int filled = inked(false, 6);
+        QVERIFY(filled > 0);
+        QCOMPARE(inked(true, 0), filled);
+        QCOMPARE(inked(true, 2), filled);
+        const int wider = inked(true, 4);
+        QVERIFY(wider > filled);
+        QVERIFY(inked(true, 6) > wider);
     }
 
     void itemsOfNoBoardCanBeDrawn()
