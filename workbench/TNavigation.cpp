@@ -21,6 +21,13 @@ void SetBold(QTreeWidgetItem& row, bool on)
     }
 }
 
+/** Whether a command edits what is shown on the canvas, and does not only rename an entry of the tree. False for null,
+ *  as the stack gives out for a command that it has thrown away. */
+bool IsSeenOnCanvas(const QUndoCommand* command)
+{
+    return command && !dynamic_cast<const TTreeEntryCommand*>(command);
+}
+
 } // namespace
 
 TNavigation::TNavigation(TDocumentTabs& documentTabs, QUndoStack& stack) : tabs(documentTabs), undoStack(stack)
@@ -32,6 +39,7 @@ TNavigation::TNavigation(TDocumentTabs& documentTabs, QUndoStack& stack) : tabs(
 void TNavigation::SetDesign(TDesign* newDesign)
 {
     design = newDesign;
+    steps.clear();
     lastIndex = undoStack.index();
     MarkOpenRows();
 }
@@ -84,16 +92,29 @@ void TNavigation::Push(std::unique_ptr<TUndoCommand> command, const QString& wha
     undoStack.push(command.release());
 }
 
+void TNavigation::NotePushed(int index)
+{
+    // A new command was made while those that it throws away were there, so that its address is none of theirs.
+    const bool isPushed =
+        index > 0 && (steps.size() < index || steps[index - 1].command != undoStack.command(index - 1));
+    if (isPushed) {
+        steps.resize(index - 1);
+        steps.append({undoStack.command(index - 1), design ? tabs.Document().page : 0});
+    }
+}
+
 void TNavigation::slotIndexChanged(int index)
 {
+    NotePushed(index);
     const int step = index > lastIndex ? 1 : -1;
     const TUndoCommand* opensPart = nullptr;
-    int page = 0;
+    int page = -1;
     bool isPartLast = false;
     for (int i = lastIndex; i != index; i += step) {
+        const int position = step > 0 ? i : i - 1;
         // The question for the page changes the answer to the next one, and the stack gives out constants only.
         // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
-        auto* command = const_cast<QUndoCommand*>(undoStack.command(step > 0 ? i : i - 1));
+        auto* command = const_cast<QUndoCommand*>(undoStack.command(position));
         if (auto* opensPage = dynamic_cast<TCmdPageOpen*>(command)) {
             if (const int asked = opensPage->OpeningPageId()) {
                 page = asked;
@@ -102,6 +123,9 @@ void TNavigation::slotIndexChanged(int index)
         } else if (const auto* opens = dynamic_cast<const TCmdPartOpen*>(command)) {
             opensPart = opens;
             isPartLast = true;
+        } else if (IsSeenOnCanvas(command)) {
+            page = steps[position].page;
+            isPartLast = false;
         }
     }
     lastIndex = index;
@@ -116,7 +140,7 @@ void TNavigation::slotIndexChanged(int index)
     }
     if (isPartLast && opensPart->PartToOpen()) {
         Reveal(*opensPart->PartToOpen());
-    } else if (page != 0) {
+    } else if (page >= 0) {
         tabs.ShowPage(page);
     }
     MarkOpenRows();

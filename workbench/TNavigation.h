@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QObject>
+#include <QVector>
 
 #include <memory>
 
+class QUndoCommand;
 class QUndoStack;
 class TDesign;
 class TDocumentTabs;
@@ -13,7 +15,8 @@ class TUndoCommand;
 
 /**
  * Opens and renames pages and parts for the user through commands, and follows the undo stack: whatever was done or
- * undone, one step or many at once, the last command that opens a page or a part tells which one is open.
+ * undone, one step or many at once, the last command that opens a page or a part tells which one is open, and an edit
+ * that is undone or redone is shown where it was made.
  */
 class TNavigation : public QObject
 {
@@ -39,6 +42,15 @@ private slots:
     void slotIndexChanged(int index);
 
 private:
+    /** A command on the undo stack, compared only, and the page that was shown when it was pushed: 0 for the board. */
+    struct Step
+    {
+        const QUndoCommand* command;
+        int page;
+    };
+
+    /** Keeps `steps` up to date with the stack when it has come to an index. */
+    void NotePushed(int index);
     void Push(std::unique_ptr<TUndoCommand> command, const QString& what);
     void Reveal(const TPart& part);
     void MarkOpenRows();
@@ -46,5 +58,6 @@ private:
     TDocumentTabs& tabs;
     QUndoStack& undoStack;
     TDesign* design = nullptr;
+    QVector<Step> steps; ///< Parallel to the commands on the stack.
     int lastIndex = 0;
 };

@@ -91,6 +91,7 @@ private slots:
     void aJumpInTheHistoryOpensWhatTheLastCommandDid_data();
     void aJumpInTheHistoryOpensWhatTheLastCommandDid();
     void stepsThatWereThrownAwayOpenNothing();
+    void anEditIsUndoneWhereItWasMade();
     void commandsOfOthersAreFollowed();
     void aPageIsRenamedInItsRow();
     void aPartIsRenamedInItsRow();
@@ -281,6 +282,33 @@ void TestNavigation::stepsThatWereThrownAwayOpenNothing()
     QCOMPARE(project.OpenSymbols(), QString());
     project.Results({"--undo", "--redo"});
     QCOMPARE(project.Page(), 0);
+}
+
+void TestNavigation::anEditIsUndoneWhereItWasMade()
+{
+    Project project;
+    project.Results({"--page", "1", "--select", "part[0]", "--revalue", "47k"});
+    project.Results({"--page", "2", "--select", "part[0]", "--revalue", "1n", "--open-page", "1"});
+    project.Results({"--board", "--select", "package[0]", "--lock", "--rename-page", "1=One"});
+    QCOMPARE(project.Stack().count(), 5);
+    project.Results({"--page", "2"});
+    project.Stack().undo(); // The page's name
+    QCOMPARE(project.Page(), 2);
+    for (const int page : {0, 2, 2, 1}) { // The lock, the open page, and both values
+        project.Stack().undo();
+        QCOMPARE(project.Page(), page);
+    }
+    for (const int page : {1, 2, 1, 0}) {
+        project.Stack().redo();
+        QCOMPARE(project.Page(), page);
+    }
+    project.Stack().setIndex(1); // Undone last: the value on the second page.
+    QCOMPARE(project.Page(), 2);
+    project.Results({"--page", "1", "--select", "part[0]", "--revalue", "10k"}); // Takes the place of all the others.
+    QCOMPARE(project.Stack().count(), 2);
+    project.Results({"--board"});
+    project.Stack().undo();
+    QCOMPARE(project.Page(), 1);
 }
 
 void TestNavigation::commandsOfOthersAreFollowed()
