@@ -35,11 +35,6 @@ std::ostream& operator<<(std::ostream& stream, const PlannedTrack& track)
     return stream << '{' << track.from << ',' << track.to << ',' << track.layer << ',' << track.shape << '}';
 }
 
-std::ostream& operator<<(std::ostream& stream, const PlannedStep& step)
-{
-    return stream << '{' << step.action << ',' << step.what << ',' << step.value << '}';
-}
-
 RandomNetwork::RandomNetwork(const std::vector<int>& kindsOfPlaces, const std::vector<PlannedTrack>& tracks)
 {
     for (const QString& net : nets) {
@@ -57,7 +52,7 @@ RandomNetwork::RandomNetwork(const std::vector<int>& kindsOfPlaces, const std::v
         AddTrack(track);
     }
     FitJunctions();
-    states.append(State());
+    stack.Begin();
 }
 
 TGraphicsItem* RandomNetwork::AddPlace(int number, int kind)
@@ -143,40 +138,40 @@ QList<TGraphicsWireItem*> RandomNetwork::WiresOnBoard() const
 }
 
 /** One to all of the wires, those that items hold in common more often than not. */
-QList<TGraphicsWireItem*> RandomNetwork::SomeWires(const PlannedStep& step) const
+QList<TGraphicsWireItem*> RandomNetwork::SomeWires(const PlannedEdit& edit) const
 {
     const QList<TGraphicsWireItem*> all = WiresOnBoard();
     QList<TGraphicsWireItem*> some;
     for (int i = 0; i < all.size(); ++i) {
-        if ((step.what >> (i % 10) & 1) != 0) {
+        if ((edit.what >> (i % 10) & 1) != 0) {
             some.append(all[i]);
         }
     }
-    if (step.what % 3 == 0) {
+    if (edit.what % 3 == 0) {
         std::reverse(some.begin(), some.end());
     }
     return some;
 }
 
-std::unique_ptr<QUndoCommand> RandomNetwork::Command(const PlannedStep& step)
+std::unique_ptr<QUndoCommand> RandomNetwork::Command(const PlannedEdit& edit)
 {
     const QList<TGraphicsWireItem*> all = WiresOnBoard();
     if (all.isEmpty()) {
         return nullptr;
     }
-    switch (step.action % 8) {
-    case 0: commandName = "width"; return std::make_unique<TCmdWireWidth>(SomeWires(step), 0.5 * (step.value % 9));
+    switch (edit.action) {
+    case 0: commandName = "width"; return std::make_unique<TCmdWireWidth>(SomeWires(edit), 0.5 * (edit.value % 9));
     case 1:
     case 2: {
         commandName = "layer";
-        return std::make_unique<TCmdWireLayer>(&project, SomeWires(step), layers[step.value % 4]);
+        return std::make_unique<TCmdWireLayer>(&project, SomeWires(edit), layers[edit.value % 4]);
     }
     case 3: {
         commandName = "add node";
-        TGraphicsWireItem* wire = At(all, step.what);
+        TGraphicsWireItem* wire = At(all, edit.what);
         const QLineF line = wire->SceneLine();
-        const double part = (step.value % 9 + 1) / 10.0;
-        return std::make_unique<TCmdWireAddNode>(wire, line.pointAt(part) + QPointF(step.value % 5, 0));
+        const double part = (edit.value % 9 + 1) / 10.0;
+        return std::make_unique<TCmdWireAddNode>(wire, line.pointAt(part) + QPointF(edit.value % 5, 0));
     }
     case 4: {
         // Of equal widths, as the junction at the far end is not fitted to the kept wire.
@@ -189,34 +184,29 @@ std::unique_ptr<QUndoCommand> RandomNetwork::Command(const PlannedStep& step)
             return nullptr;
         }
         commandName = "delete node";
-        TGraphicsWireItem* kept = At(joinable, step.what);
+        TGraphicsWireItem* kept = At(joinable, edit.what);
         return std::make_unique<TCmdWireDelNode>(kept, static_cast<TGraphicsWireItem*>(kept->LastLink()));
     }
     default: {
         commandName = "net color";
-        coloredNet = At(nets, step.what);
-        newColor = step.value % 4 == 0 ? QColor() : QColor(step.value % 256, 20, 30);
+        coloredNet = At(nets, edit.what);
+        newColor = edit.value % 4 == 0 ? QColor() : QColor(edit.value % 256, 20, 30);
         return std::make_unique<TCmdNetColorPcb>(coloredNet, newColor, &project);
     }
     }
 }
 
-QString RandomNetwork::Do(const PlannedStep& step)
+QString RandomNetwork::Do(const PlannedEdit& edit)
 {
-    if (step.action % 8 == 6) {
-        return MoveTo(std::max(0, stack.index() - 1 - step.value % 3));
+    if (edit.action >= actions - 2) {
+        const int steps = 1 + edit.value % 3;
+        return stack.Move(edit.action == actions - 1 ? steps : -steps);
     }
-    if (step.action % 8 == 7) {
-        return MoveTo(std::min(stack.count(), stack.index() + 1 + step.value % 3));
-    }
-    std::unique_ptr<QUndoCommand> command = Command(step);
+    std::unique_ptr<QUndoCommand> command = Command(edit);
     if (!command) {
         return {};
     }
-    ++made[commandName];
-    states = states.mid(0, stack.index() + 1);
-    stack.push(command.release());
-    states.append(State());
+    const QString fault = stack.Push(std::move(command), commandName);
     if (commandName == "net color") {
         const auto isOdd = [this](const TGraphicsItem* item) {
             return item->Net() == coloredNet && item->AltColor() != newColor;
@@ -227,45 +217,7 @@ QString RandomNetwork::Do(const PlannedStep& step)
             return QStringLiteral("not in the color of its net: ") + (*odd)->StateLine();
         }
     }
-    return Fault();
-}
-
-QString RandomNetwork::MoveTo(int index)
-{
-    while (stack.index() != index) {
-        stack.index() < index ? stack.redo() : stack.undo();
-        const QString state = State();
-        if (state != states[stack.index()]) {
-            return QStringLiteral("at index %1 is\n%2\nwas\n%3").arg(stack.index()).arg(state, states[stack.index()]);
-        }
-        const QString fault = Fault();
-        if (!fault.isEmpty()) {
-            return fault;
-        }
-    }
-    return {};
-}
-
-QString RandomNetwork::UndoAllAndRedoAll()
-{
-    for (const int index : {0, stack.count(), 0}) {
-        const QString fault = MoveTo(index);
-        if (!fault.isEmpty()) {
-            return fault;
-        }
-    }
-    return {};
-}
-
-QString RandomNetwork::ClearAt(int index)
-{
-    const QString fault = MoveTo(index % (stack.count() + 1));
-    if (!fault.isEmpty()) {
-        return fault;
-    }
-    const QString before = State();
-    stack.clear();
-    return State() == before ? Fault() : QStringLiteral("clearing the stack changed\n") + before;
+    return fault;
 }
 
 /** All lines without the items' colours, which undo takes from the nets, and the colours of the nets. */

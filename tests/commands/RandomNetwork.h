@@ -1,19 +1,21 @@
 #pragma once
 
 #include "tests/commands/Links.h"
+#include "tests/commands/PlannedEdit.h"
+#include "tests/commands/TracedStack.h"
 
 #include <application/TProject.h>
 #include <application/TSchematic.h>
 
 #include <QGraphicsView>
-#include <QUndoStack>
 
 #include <ostream>
 #include <vector>
 
 namespace Test {
 
-/** Numbers that are taken modulo what there is, so that every plan can be built and shrunk. */
+/** A track of a random board. Its numbers are taken modulo what there is, so that every plan can be built and shrunk.
+ */
 struct PlannedTrack
 {
     int from;
@@ -21,15 +23,8 @@ struct PlannedTrack
     int layer;
     int shape;
 };
-struct PlannedStep
-{
-    int action;
-    int what;
-    int value;
-};
 
 std::ostream& operator<<(std::ostream& stream, const PlannedTrack& track);
-std::ostream& operator<<(std::ostream& stream, const PlannedStep& step);
 
 /**
  * A board of places (vias, pads and junctions) with tracks between them, each a chain of wires, which is edited step by
@@ -40,17 +35,11 @@ class RandomNetwork
 public:
     RandomNetwork(const std::vector<int>& places, const std::vector<PlannedTrack>& tracks);
 
-    /** Does one step and tells what is wrong after it; empty for nothing. */
-    QString Do(const PlannedStep& step);
-    /** Undoes all and redoes all, one step after the other, and tells what is wrong. */
-    QString UndoAllAndRedoAll();
-
-    /** Goes to an index of the stack and clears it there: nothing changes, and what was made or taken off before stays
-     *  as it is. Tells what is wrong. */
-    QString ClearAt(int index);
-
-    /** How often each command was made. */
-    const QMap<QString, int>& Made() const { return made; }
+    /** So many kinds of edits there are; the last two are undo and redo. */
+    static constexpr int actions = 8;
+    /** Does one edit and tells what is wrong after it; empty for nothing. */
+    QString Do(const PlannedEdit& edit);
+    TracedStack& Stack() { return stack; }
 
 private:
     TGraphicsItem* AddPlace(int number, int kind);
@@ -58,12 +47,11 @@ private:
     void FitJunctions();
 
     QList<TGraphicsWireItem*> WiresOnBoard() const;
-    QList<TGraphicsWireItem*> SomeWires(const PlannedStep& step) const;
-    std::unique_ptr<QUndoCommand> Command(const PlannedStep& step);
+    QList<TGraphicsWireItem*> SomeWires(const PlannedEdit& edit) const;
+    std::unique_ptr<QUndoCommand> Command(const PlannedEdit& edit);
 
     QString State() const;
     QString Fault() const;
-    QString MoveTo(int index);
     QString WrongNet() const;
 
     QGraphicsView view;
@@ -71,12 +59,10 @@ private:
     TSchematic schematic;
     TProject project;
     QVector<TGraphicsItem*> places;
-    QUndoStack stack;
-    QStringList states; ///< At each index of the stack.
-    QMap<QString, int> made;
     QString commandName; ///< Of the last command that was made.
     QString coloredNet;  ///< What the last command over a net's colour was about.
     QColor newColor;
+    TracedStack stack{[this] { return State(); }, [this] { return Fault(); }}; // Destroyed before the board.
 };
 
 } // namespace Test

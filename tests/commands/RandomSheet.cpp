@@ -41,20 +41,6 @@ QString NewName(const PlannedEdit& edit)
     return edit.value % 3 == 0 ? At(names, edit.value / 3) : QStringLiteral("N%1").arg(edit.value);
 }
 
-/** The lines in which two states differ. */
-QString Difference(const QString& is, const QString& was)
-{
-    const QStringList now = is.split(QLatin1Char('\n'));
-    const QStringList before = was.split(QLatin1Char('\n'));
-    QString difference;
-    for (int i = 0; i < std::max(now.size(), before.size()); ++i) {
-        if (now.value(i) != before.value(i)) {
-            difference += QStringLiteral("is\n%1\nwas\n%2\n").arg(now.value(i), before.value(i));
-        }
-    }
-    return difference;
-}
-
 /** Links the free end of a wire, as drawing it does. */
 class LinkCommand : public QUndoCommand
 {
@@ -81,11 +67,6 @@ std::ostream& operator<<(std::ostream& stream, const PlannedThing& thing)
 std::ostream& operator<<(std::ostream& stream, const PlannedWire& wire)
 {
     return stream << '{' << wire.from << ',' << wire.to << ',' << wire.linked << '}';
-}
-
-std::ostream& operator<<(std::ostream& stream, const PlannedEdit& edit)
-{
-    return stream << '{' << edit.action << ',' << edit.what << ',' << edit.value << '}';
 }
 
 RandomSheet::RandomSheet(const std::vector<PlannedThing>& things, const std::vector<PlannedWire>& wires)
@@ -116,7 +97,7 @@ RandomSheet::RandomSheet(const std::vector<PlannedThing>& things, const std::vec
             package->SetValue(QString::number(package->ComponentNumber()));
         }
     }
-    states.append(State());
+    stack.Begin();
 }
 
 void RandomSheet::AddThing(const PlannedThing& thing)
@@ -197,7 +178,7 @@ std::unique_ptr<QUndoCommand> RandomSheet::Command(const PlannedEdit& edit)
 {
     Sheet& sheet = design.sheet;
     const auto ofKind = [&](ItemType::Number kind) { return Some<TGraphicsItem>(kind, edit); };
-    switch (edit.action % 14) {
+    switch (edit.action) {
     case 0:
     case 1:
     case 2: {
@@ -278,59 +259,12 @@ std::unique_ptr<QUndoCommand> RandomSheet::LinkOfAFreeEnd(const PlannedEdit& edi
 
 QString RandomSheet::Do(const PlannedEdit& edit)
 {
-    if (edit.action % 14 == 12) {
-        return MoveTo(std::max(0, stack.index() - 1 - edit.value % 3));
-    }
-    if (edit.action % 14 == 13) {
-        return MoveTo(std::min(stack.count(), stack.index() + 1 + edit.value % 3));
+    if (edit.action >= actions - 2) {
+        const int steps = 1 + edit.value % 3;
+        return stack.Move(edit.action == actions - 1 ? steps : -steps);
     }
     std::unique_ptr<QUndoCommand> command = Command(edit);
-    if (!command) {
-        return {};
-    }
-    ++made[commandName];
-    states = states.mid(0, stack.index() + 1);
-    stack.push(command.release());
-    states.append(State());
-    return Fault();
-}
-
-QString RandomSheet::MoveTo(int index)
-{
-    while (stack.index() != index) {
-        stack.index() < index ? stack.redo() : stack.undo();
-        const QString state = State();
-        if (state != states[stack.index()]) {
-            return QStringLiteral("at index %1 ").arg(stack.index()) + Difference(state, states[stack.index()]);
-        }
-        const QString fault = Fault();
-        if (!fault.isEmpty()) {
-            return fault;
-        }
-    }
-    return {};
-}
-
-QString RandomSheet::UndoAllAndRedoAll()
-{
-    for (const int index : {0, stack.count(), 0}) {
-        const QString fault = MoveTo(index);
-        if (!fault.isEmpty()) {
-            return fault;
-        }
-    }
-    return {};
-}
-
-QString RandomSheet::ClearAt(int index)
-{
-    const QString fault = MoveTo(index % (stack.count() + 1));
-    if (!fault.isEmpty()) {
-        return fault;
-    }
-    const QString before = State();
-    stack.clear();
-    return State() == before ? Fault() : QStringLiteral("clearing the stack changed\n") + before;
+    return command ? stack.Push(std::move(command), commandName) : QString();
 }
 
 /** All lines without the items' colours, which undo takes from the nets. Of the board only what packages say: pads get

@@ -1,17 +1,18 @@
 #pragma once
 
+#include "tests/commands/PlannedEdit.h"
 #include "tests/commands/SheetDesign.h"
+#include "tests/commands/TracedStack.h"
 
 #include <application/TProjectTree.h>
-
-#include <QUndoStack>
 
 #include <ostream>
 #include <vector>
 
 namespace Test {
 
-/** Numbers that are taken modulo what there is, so that every plan can be built and shrunk. */
+/** What random pages consist of. The numbers are taken modulo what there is, so that every plan can be built and
+ * shrunk. */
 struct PlannedThing
 {
     int kind;
@@ -24,16 +25,9 @@ struct PlannedWire
     int to;
     int linked;
 };
-struct PlannedEdit
-{
-    int action;
-    int what;
-    int value;
-};
 
 std::ostream& operator<<(std::ostream& stream, const PlannedThing& thing);
 std::ostream& operator<<(std::ostream& stream, const PlannedWire& wire);
-std::ostream& operator<<(std::ostream& stream, const PlannedEdit& edit);
 
 /**
  * Two pages of ports, parts, net ties, junctions, buses with entries and tags on the points of a grid, with net wires
@@ -45,15 +39,11 @@ class RandomSheet
 public:
     RandomSheet(const std::vector<PlannedThing>& things, const std::vector<PlannedWire>& wires);
 
-    /** Does one step and tells what is wrong after it; empty for nothing. */
+    /** So many kinds of edits there are; the last two are undo and redo. */
+    static constexpr int actions = 14;
+    /** Does one edit and tells what is wrong after it; empty for nothing. */
     QString Do(const PlannedEdit& edit);
-    /** Undoes all and redoes all, one step after the other, and tells what is wrong. */
-    QString UndoAllAndRedoAll();
-    /** Goes to an index of the stack and clears it there, which changes nothing. Tells what is wrong. */
-    QString ClearAt(int index);
-
-    /** How often each command was made. */
-    const QMap<QString, int>& Made() const { return made; }
+    TracedStack& Stack() { return stack; }
 
 private:
     void AddThing(const PlannedThing& thing);
@@ -71,14 +61,11 @@ private:
     QString State() const;
     QString Fault() const;
     QString WrongNet() const;
-    QString MoveTo(int index);
 
     SheetDesign design;
     TProjectTree tree;
-    QUndoStack stack;
-    QStringList states; ///< At each index of the stack.
-    QMap<QString, int> made;
-    QString commandName; ///< Of the last command that was made.
+    QString commandName;                                                       ///< Of the last command that was made.
+    TracedStack stack{[this] { return State(); }, [this] { return Fault(); }}; // Destroyed before the design.
 };
 
 } // namespace Test

@@ -1,3 +1,4 @@
+#include "tests/commands/RandomEditing.h"
 #include "tests/commands/RandomNetwork.h"
 #include "tests/support/TestMain.h"
 
@@ -5,20 +6,9 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <rapidcheck.h>
-
 namespace {
 
-using Test::PlannedStep;
 using Test::PlannedTrack;
-
-constexpr int fullRange = 100; // the size at which numbers are drawn from their whole range
-
-template <class Part>
-rc::Gen<std::vector<Part>> UpTo(int most, const rc::Gen<Part>& part)
-{
-    return rc::gen::resize(most, rc::gen::container<std::vector<Part>>(rc::gen::resize(fullRange, part)));
-}
 
 rc::Gen<PlannedTrack> Track()
 {
@@ -28,13 +18,6 @@ rc::Gen<PlannedTrack> Track()
                                         rc::gen::set(&PlannedTrack::shape, rc::gen::inRange(0, 420)));
 }
 
-rc::Gen<PlannedStep> Step()
-{
-    return rc::gen::build<PlannedStep>(rc::gen::set(&PlannedStep::action, rc::gen::inRange(0, 80)),
-                                       rc::gen::set(&PlannedStep::what, rc::gen::inRange(0, 1024)),
-                                       rc::gen::set(&PlannedStep::value, rc::gen::inRange(0, 1000)));
-}
-
 } // namespace
 
 class TestRandomNetworks : public QObject
@@ -42,43 +25,25 @@ class TestRandomNetworks : public QObject
     Q_OBJECT
 
 private slots:
-    // `RC_PARAMS` repeats a failed case or tries others: "seed=1", "max_success=10000".
     void initTestCase()
     {
         QVERIFY(folder.isValid());
         QCoreApplication::setOrganizationName("Properties tests");
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
-        triesAll = qEnvironmentVariableIsEmpty("RC_PARAMS");
-        if (triesAll) {
-            qputenv("RC_PARAMS", "seed=20240108 max_success=300");
-        }
     }
 
     void undoneAndRedoneStepsEndInTheSameStates()
     {
+        const bool isUsual = Test::TriesUsualCases(300);
         QMap<QString, int> made;
         const auto everyStateComesBack = [&made] {
-            const auto places = *UpTo(12, rc::gen::inRange(0, 24));
-            const auto tracks = *UpTo(14, Track());
-            const auto steps = *UpTo(40, Step());
+            const auto places = *Test::UpTo(12, rc::gen::inRange(0, 24));
+            const auto tracks = *Test::UpTo(14, Track());
             Test::RandomNetwork network(places, tracks);
-            const auto check = [](const QString& fault) {
-                if (!fault.isEmpty()) {
-                    RC_LOG() << fault.toStdString();
-                    RC_FAIL("a state did not come back, or links or nets are wrong");
-                }
-            };
-            for (const PlannedStep& step : steps) {
-                check(network.Do(step));
-            }
-            check(network.UndoAllAndRedoAll());
-            check(network.ClearAt(*rc::gen::inRange(0, 40)));
-            for (auto command = network.Made().cbegin(); command != network.Made().cend(); ++command) {
-                made[command.key()] += command.value();
-            }
+            Test::CheckThatEveryStateComesBack(network, made);
         };
         QVERIFY(rc::check("every state comes back, with two-sided links and nets that follow", everyStateComesBack));
-        if (triesAll) {
+        if (isUsual) {
             for (const char* name : {"width", "layer", "add node", "delete node", "net color"}) {
                 QVERIFY2(made.value(name) > 100, name);
             }
@@ -87,7 +52,6 @@ private slots:
 
 private:
     QTemporaryDir folder;
-    bool triesAll = true;
 };
 
 PROPERTIES_TEST_MAIN(TestRandomNetworks)

@@ -1,6 +1,7 @@
 #include "properties/commands/TCmdProjectTree.h"
 #include "properties/commands/TCmdText.h"
 #include "tests/support/PanelFixture.h"
+#include "tests/support/RandomCases.h"
 #include "tests/support/TestMain.h"
 #include "tests/workbench/PanelCells.h"
 #include "workbench/DesignActions.h"
@@ -16,8 +17,6 @@
 #include <QRegularExpression>
 #include <QtTest>
 #include <QUndoStack>
-
-#include <rapidcheck.h>
 
 #include <algorithm>
 #include <ostream>
@@ -355,15 +354,12 @@ private:
     QSet<QString>& used;
 };
 
+/** Of a case; half as many on average. */
 rc::Gen<std::vector<Step>> Steps()
 {
-    constexpr int fullRange = 100; // the size at which numbers are drawn from their whole range
-    constexpr int most = 60;       // steps of a case, half as many on average
-    const auto step =
-        rc::gen::resize(fullRange, rc::gen::build<Step>(rc::gen::set(&Step::action, rc::gen::inRange(0, 100)),
-                                                        rc::gen::set(&Step::what, rc::gen::inRange(0, 1000)),
-                                                        rc::gen::set(&Step::value, rc::gen::inRange(0, 2500))));
-    return rc::gen::resize(most, rc::gen::container<std::vector<Step>>(step));
+    return Test::UpTo(60, rc::gen::build<Step>(rc::gen::set(&Step::action, rc::gen::inRange(0, 100)),
+                                               rc::gen::set(&Step::what, rc::gen::inRange(0, 1000)),
+                                               rc::gen::set(&Step::value, rc::gen::inRange(0, 2500))));
 }
 
 } // namespace
@@ -373,15 +369,6 @@ class TestRandomDesign : public QObject
     Q_OBJECT
 
 private slots:
-    // `RC_PARAMS` repeats a failed case or tries others: "seed=1", "max_success=10000".
-    void initTestCase()
-    {
-        triesAll = qEnvironmentVariableIsEmpty("RC_PARAMS");
-        if (triesAll) {
-            qputenv("RC_PARAMS", "seed=20240108 max_success=80");
-        }
-    }
-
     void sampleHasEveryKind()
     {
         const TDesign design(ImportDesign(SampleProjectFile()));
@@ -395,6 +382,7 @@ private slots:
 
     void everyStateOfTheStackHasOneDump()
     {
+        const bool isUsual = Test::TriesUsualCases(80);
         Test::PanelWindow window;
         QSet<QString> used;
         const auto undoAndRedoAreExact = [&window, &used] {
@@ -412,7 +400,7 @@ private slots:
             }
         };
         QVERIFY(rc::check("undo and redo bring back every state of the design", undoAndRedoAreExact));
-        if (triesAll) {
+        if (isUsual) {
             QStringList editors(used.cbegin(), used.cend());
             editors.sort();
             qInfo("%d editors and actions: %s", editors.size(), qPrintable(editors.join(QStringLiteral(", "))));
@@ -421,9 +409,6 @@ private slots:
             }
         }
     }
-
-private:
-    bool triesAll = true;
 };
 
 PROPERTIES_TEST_MAIN(TestRandomDesign)

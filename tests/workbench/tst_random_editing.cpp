@@ -1,11 +1,10 @@
+#include "tests/support/RandomCases.h"
 #include "tests/support/TestMain.h"
 #include "tests/workbench/FreePads.h"
 #include "tests/workbench/PanelSession.h"
 #include "workbench/LoadDesign.h"
 
 #include <QtTest>
-
-#include <rapidcheck.h>
 
 #include <algorithm>
 #include <ostream>
@@ -167,16 +166,13 @@ QStringList Sorted(const QSet<QString>& names)
     return sorted;
 }
 
+/** Of a case; half as many on average. */
 rc::Gen<std::vector<Step>> Steps()
 {
-    constexpr int fullRange = 100; // the size at which numbers are drawn from their whole range
-    constexpr int most = 60;       // steps of a case, half as many on average
-    const auto step =
-        rc::gen::resize(fullRange, rc::gen::build<Step>(rc::gen::set(&Step::action, rc::gen::inRange(0, 130)),
-                                                        rc::gen::set(&Step::what, rc::gen::inRange(0, 1000)),
-                                                        rc::gen::set(&Step::value, rc::gen::inRange(0, 2500)),
-                                                        rc::gen::set(&Step::spread, rc::gen::inRange(0, 60))));
-    return rc::gen::resize(most, rc::gen::container<std::vector<Step>>(step));
+    return Test::UpTo(60, rc::gen::build<Step>(rc::gen::set(&Step::action, rc::gen::inRange(0, 130)),
+                                               rc::gen::set(&Step::what, rc::gen::inRange(0, 1000)),
+                                               rc::gen::set(&Step::value, rc::gen::inRange(0, 2500)),
+                                               rc::gen::set(&Step::spread, rc::gen::inRange(0, 60))));
 }
 
 } // namespace
@@ -186,15 +182,6 @@ class TestRandomEditing : public QObject
     Q_OBJECT
 
 private slots:
-    // `RC_PARAMS` repeats a failed case or tries others: "seed=1", "max_success=10000".
-    void initTestCase()
-    {
-        triesAll = qEnvironmentVariableIsEmpty("RC_PARAMS");
-        if (triesAll) {
-            qputenv("RC_PARAMS", "seed=20240108 max_success=200");
-        }
-    }
-
     void sampleHasEveryKind()
     {
         const auto board = ImportBoard(SampleBoardFile()).board;
@@ -207,6 +194,7 @@ private slots:
 
     void panelDoesWhatTheModelSays()
     {
+        const bool isUsual = Test::TriesUsualCases(200);
         Test::PanelWindow window;
         QSet<QString> used;
         const auto editingFollowsTheModel = [&window, &used] {
@@ -223,13 +211,10 @@ private slots:
         };
         QVERIFY(
             rc::check("board, undo stack and panel are those of the model after every step", editingFollowsTheModel));
-        if (triesAll) {
+        if (isUsual) {
             QVERIFY2((Editors() - used).isEmpty(), qPrintable(Sorted(Editors() - used).join(", ")));
         }
     }
-
-private:
-    bool triesAll = true;
 };
 
 PROPERTIES_TEST_MAIN(TestRandomEditing)
