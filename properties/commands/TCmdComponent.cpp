@@ -68,22 +68,21 @@ void TCmdCmpValue::SetValue(const QStringList& values)
     }
     TCmpModel& model = *schematic->CmpModel();
     const bool isFirstTime = oldValues.isEmpty();
-    const QStringList written = values; // The old values may be what is given, and what is appended to.
     TItemsByNumber items;
     AddParts(*schematic, items);
     AddPackages(project, items);
     for (int i = 0; i < numbers.size(); ++i) {
         TCmpModelItem* component = model.CmpModelItem(numbers.at(i));
-        if (isFirstTime) {
+        if (isFirstTime) { // If it is the old values that are given, each is there before it is written.
             oldValues.append(component ? component->value : QString());
         }
         if (!component) {
             continue;
         }
-        component->value = written.value(i);
+        component->value = values.value(i);
         const QVector<TGraphicsComponentItem*> ofComponent = items.value(numbers.at(i));
         for (TGraphicsComponentItem* item : ofComponent) {
-            item->SetValue(written.value(i));
+            item->SetValue(values.value(i));
         }
     }
     model.UpdateCount(); // Intended: even when there are no numbers.

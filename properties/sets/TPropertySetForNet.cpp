@@ -25,7 +25,7 @@ TPropertySetForNet::TPropertySetForNet(QList<TGraphicsItem*> selection, TSchemat
         }
     }
     netName = names.First();
-    if (!netName.isEmpty() && schematic) {
+    if (HasNet()) {
         MakeRows(names.AllEqual());
     }
 }
@@ -54,23 +54,28 @@ void TPropertySetForNet::MakeRows(bool onOneNet)
     AddProperties({net, netClass, level, color});
 }
 
+bool TPropertySetForNet::HasNet() const
+{
+    return schematic && !netName.isEmpty();
+}
+
 void TPropertySetForNet::slotSetClass(QString newClass)
 {
-    if (net) {
+    if (HasNet()) {
         Emit(new TCmdNetClass(netName, newClass, schematic->Project()));
     }
 }
 
 void TPropertySetForNet::slotSetPrio(QString newLevel)
 {
-    if (net) {
+    if (HasNet()) {
         Emit(new TCmdNetPrio(nets, newLevel, schematic->Project()));
     }
 }
 
 void TPropertySetForNet::slotSetColor(const QColor& newColor)
 {
-    if (net) {
+    if (HasNet()) {
         Emit(new TCmdNetColorSch(netName, newColor, schematic));
     }
 }

@@ -29,6 +29,7 @@ public slots:
     void slotSetColor(const QColor& newColor);
 
 private:
+    bool HasNet() const;
     void MakeRows(bool onOneNet);
 
     TSchematic* schematic;

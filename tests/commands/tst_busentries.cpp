@@ -115,6 +115,22 @@ private slots:
         QCOMPARE(design.bus->LinkedBusEntries().count(design.starting), 1);
     }
 
+    // Intended: an entry is noted as a wire's first link or else as its last, not as both.
+    void aWireWithBothEndsOnAnEntryGetsItsFirstEndBack()
+    {
+        Design design;
+        TGraphicsNetItem* loop = design.sheet.Wire({210, 10}, {210, 10});
+        loop->LinkToFirst(design.bare);
+        loop->LinkToLast(design.bare);
+        TCmdBusEntryDisconnect command({design.bare});
+        command.redo();
+        QCOMPARE(loop->Links(), Items());
+        command.undo();
+        QCOMPARE(loop->FirstLink(), design.bare);
+        QCOMPARE(loop->LastLink(), nullptr);
+        QCOMPARE(design.Fault(), QString());
+    }
+
     void entriesComeBackToTheirOwnPage()
     {
         Design design;

@@ -185,6 +185,24 @@ private slots:
             command.redo();
             QCOMPARE(design.Dump(), before);
         }
+        // Nothing was done, so that there is nothing to be undone when a schematic comes.
+        TCmdCmpValue command({4, 5}, "10k", &design.project);
+        command.redo();
+        design.project.SetSchematic(&design.sheet);
+        command.undo();
+        QCOMPARE(design.Dump(), before);
+    }
+
+    void partsAndPackagesAreLookedForEachTime()
+    {
+        Design design;
+        TCmdCmpValue command({4}, "10k", &design.project);
+        command.redo();
+        TGraphicsPartItem* part = design.sheet.Part({0, 200}, 4, {});
+        TGraphicsPackageItem* package = design.Package(4);
+        delete std::exchange(design.unitB, nullptr);
+        command.undo();
+        QCOMPARE(part->Value() + package->Value(), QString("4k4k"));
     }
 
     // Intended: the counts are brought up to date even if no value is changed.

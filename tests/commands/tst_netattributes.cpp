@@ -94,6 +94,17 @@ private slots:
         QCOMPARE(design.Model().NetClass("B"), QString());
     }
 
+    // Undo is held to the same rule as redo.
+    void anOldClassThatNobodyKnowsAnyMoreDoesNotComeBack()
+    {
+        Design design;
+        design.Model().SetNetClass("A", "of no schematic");
+        TCmdNetClass command("A", "Signal", &design.project);
+        command.redo();
+        command.undo();
+        QCOMPARE(design.Model().NetClass("A"), QString("Signal"));
+    }
+
     void oldClassIsThatOfTheMomentItWasMade()
     {
         Design design;
@@ -156,6 +167,40 @@ private slots:
         command.redo();
         command.undo();
         QVERIFY(!wire->AltColor().isValid());
+    }
+
+    void oldColorIsThatOfTheMomentItWasMade()
+    {
+        Design design;
+        TCmdNetColorPcb command("A", Qt::magenta, &design.project);
+        design.Model().SetColorPcb("A", Qt::cyan);
+        command.redo();
+        command.undo();
+        QCOMPARE(design.Model().ColorPcb(0), QColor(Qt::green));
+    }
+
+    void colorIsSetDirectly()
+    {
+        Design design;
+        auto* wire = design.board.Wire({0, 0}, {20, 0}, "A");
+        auto* other = design.board.Wire({0, 200}, {20, 200}, "B");
+        TCmdNetColorPcb command("A", Qt::magenta, &design.project);
+        command.SetColor("B", Qt::cyan);
+        QCOMPARE(design.Model().ColorPcb(1), QColor(Qt::cyan));
+        QCOMPARE(other->AltColor(), QColor(Qt::cyan));
+        QCOMPARE(design.Model().ColorPcb(0), QColor(Qt::green));
+        QVERIFY(!wire->AltColor().isValid());
+    }
+
+    void colorWithoutABoard()
+    {
+        Design design;
+        design.project.SetBoard(nullptr);
+        TCmdNetColorPcb command("A", Qt::magenta, &design.project);
+        command.redo();
+        QCOMPARE(design.Model().ColorPcb(0), QColor(Qt::magenta));
+        command.undo();
+        QCOMPARE(design.Model().ColorPcb(0), QColor(Qt::green));
     }
 
     void colorIsTakenAway()
@@ -224,6 +269,44 @@ private slots:
         design.Model().SetPriority("B", "8");
         command.undo();
         QCOMPARE(design.Levels(), QStringList({"A 1 1", "B 8 8", "C 3 3"}));
+    }
+
+    // Those that the board's own nest does not keep, too.
+    void levelIsWrittenToEveryRatLineOfTheView()
+    {
+        Design design;
+        auto* rat = design.board.Add<TGraphicsRatLineItem>({});
+        rat->SetLine({0, 0, 9, 9}, "C");
+        TCmdNetPrio command({"A", "C"}, "7", &design.project);
+        command.redo();
+        QCOMPARE(rat->Priority(), QString("7"));
+        command.undo();
+        QCOMPARE(rat->Priority(), QString("3")); // that of its own net
+        design.board.SetView(nullptr);
+        command.redo();
+        QCOMPARE(rat->Priority(), QString("3"));
+    }
+
+    void ratLinesAreBroughtUpToDateWithoutAView()
+    {
+        Design design;
+        design.Levels(); // works out the lines
+        design.board.SetView(nullptr);
+        TCmdNetPrio command({"A"}, "7", &design.project);
+        command.redo();
+        QCOMPARE(design.Levels(), QStringList({"A 7 7", "B 2 2", "C 3 3"}));
+        command.undo();
+        QCOMPARE(design.Levels(), QStringList({"A 1 1", "B 2 2", "C 3 3"}));
+    }
+
+    void oldLevelsAreThoseOfTheMomentItWasMade()
+    {
+        Design design;
+        TCmdNetPrio command({"A"}, "5", &design.project);
+        design.Model().SetPriority("A", "6");
+        command.redo();
+        command.undo();
+        QCOMPARE(design.Model().Priority("A"), QString("1"));
     }
 
     void netsThatAreUnknownOrListedTwice()
@@ -356,6 +439,17 @@ private slots:
             command->undo();
             QCOMPARE(design.Dump(), before);
         }
+        struct Fields : TCmdNetName
+        {
+            using TCmdNetName::items;
+            using TCmdNetName::newName;
+            using TCmdNetName::oldName;
+            using TCmdNetName::TCmdNetName;
+        };
+        const Fields fields(wire, "B", used, &design.project);
+        QVERIFY(fields.items.isEmpty());
+        QCOMPARE(fields.oldName, QString());
+        QCOMPARE(fields.newName, QString("B"));
         QUndoStack stack;
         stack.push(new TCmdNetName(nullptr, "B", used, nullptr));
         QCOMPARE(stack.count(), 1); // The undo step is there all the same.

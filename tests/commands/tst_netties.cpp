@@ -195,6 +195,21 @@ private slots:
         QCOMPARE(design.Lines() == before, kind != 1);
     }
 
+    void everyTieGetsItsOwnVisibilityBack()
+    {
+        Design design;
+        const QStringList before = design.Lines();
+        for (const bool visible : {false, true}) {
+            TCmdNetTieNameVis ofBoard(design.boardTies, visible, &design.project);
+            TCmdNetTieNameVis ofPage(design.pageTies, visible, &design.project);
+            for (TUndoCommand* command : std::initializer_list<TUndoCommand*>{&ofBoard, &ofPage}) {
+                CheckBothWays(*command, design);
+                command->undo();
+                QCOMPARE(design.Lines(), before);
+            }
+        }
+    }
+
     void modeIsReadAnewEachTime()
     {
         Design design;
@@ -275,6 +290,55 @@ private slots:
         command.redo();
         QCOMPARE(newTie->Name(), QString("X"));
         QCOMPARE(newSymbol->Name(), QString("X"));
+    }
+
+    void tiesMadeAnewAreChangedByEveryCommand_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::newRow("name") << 0;
+        QTest::newRow("visibility") << 1;
+        QTest::newRow("layer") << 2;
+        QTest::newRow("pad size") << 3;
+        QTest::newRow("wire width") << 4;
+        QTest::newRow("symbol") << 5;
+    }
+    void tiesMadeAnewAreChangedByEveryCommand()
+    {
+        QFETCH(int, index);
+        Design design;
+        TProject* project = &design.project;
+        const BoardTies board{design.boardTies[1]};
+        const PageTies page{design.pageTies[1]};
+        const std::unique_ptr<TUndoCommand> commands[] = {
+            std::make_unique<TCmdNetTieName>(page, "X", project),
+            std::make_unique<TCmdNetTieNameVis>(board, true, project),
+            std::make_unique<TCmdNetTiePcbLayer>(board, Osmirel::Copper2, project),
+            std::make_unique<TCmdNetTiePadSz>(board, 23.6, project),
+            std::make_unique<TCmdNetTieWireWidth>(board, 3.3, project),
+            std::make_unique<TCmdNetTieSchSymbol>(page, 2, project),
+        };
+        TUndoCommand& command = *commands[index];
+        const auto renew = [&design] {
+            delete design.boardTies.takeAt(1);
+            delete design.pageTies.takeAt(1);
+            design.boardTies.insert(1, design.AddToBoard(2));
+            design.pageTies.insert(1, design.AddToPage(2));
+            design.boardTies.removeLast();
+            design.pageTies.removeLast();
+        };
+        const QStringList before = design.Lines();
+        command.redo();
+        const QStringList after = design.Lines();
+        QVERIFY(after != before);
+        renew();
+        QCOMPARE(design.Lines(), before); // They are as they were first made.
+        command.redo();
+        QCOMPARE(design.Lines(), after);
+        command.undo();
+        QCOMPARE(design.Lines(), before);
+        renew();
+        command.redo();
+        QCOMPARE(design.Lines(), after);
     }
 
     void deletedTiesAreNotMissed()

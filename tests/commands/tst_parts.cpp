@@ -60,6 +60,52 @@ private slots:
         QCOMPARE(late->Links(), Items());
     }
 
+    void everyDisconnectSavesAnew()
+    {
+        Design design;
+        design.one->Connect({});
+        TCmdPartDisconnect command({design.one}, nullptr);
+        command.redo();
+        command.undo();
+        design.atOne->Unlink(TGraphicsItem::LinkEnd::Last);
+        const QString before = design.Dump();
+        command.redo();
+        command.undo();
+        QCOMPARE(design.Dump(), before);
+        QCOMPARE(design.atOne->Links(), Items());
+    }
+
+    void partsAreConnectedInTheirOrder()
+    {
+        for (const bool otherFirst : {false, true}) {
+            SheetDesign design;
+            TGraphicsPartItem* one = design.sheet.Part({0, 0}, 4, {{0, 0}});
+            TGraphicsPartItem* other = design.sheet.Part({0, 0}, 5, {{0, 0}});
+            TGraphicsNetItem* wire = design.sheet.Wire({0, 0}, {50, 0});
+            TCmdPartConnect command(otherFirst ? QList<TGraphicsItem*>{other, one} : QList<TGraphicsItem*>{one, other},
+                                    nullptr);
+            Test::CheckBothWays(command, design);
+            command.redo();
+            QCOMPARE(wire->FirstLink(), PinOf(otherFirst ? other : one, 1));
+        }
+    }
+
+    // Intended: unlike packages, parts are not looked for before they are changed.
+    void partsOffTheirPageAreChangedAllTheSame()
+    {
+        Design design;
+        design.one->Connect({});
+        TItemScene* page = design.sheet.CurrentPage()->Scene();
+        TCmdPartDisconnect command({design.one}, nullptr);
+        design.one->Detach();
+        command.redo();
+        QCOMPARE(design.atOne->Links(), Items());
+        command.undo();
+        QCOMPARE(design.atOne->LastLink(), PinOf(design.one, 1));
+        design.one->AttachTo(page);
+        QCOMPARE(design.Fault(), QString());
+    }
+
     // An empty list would mean everything that touches.
     void whatWasNotChangedIsNotUndone_data()
     {
@@ -163,6 +209,20 @@ private slots:
         design.project.SetBoard(nullptr);
         command.redo();
         QCOMPARE(design.atOne->LastLink(), PinOf(design.one, 1));
+    }
+
+    void theBoardIsUpdatedDirectly()
+    {
+        Design design;
+        TCmdPartConnect connect({design.one}, &design.project);
+        connect.redo();
+        const QVector<TGraphicsItem*> pads = design.packageOfOne->Pads();
+        TCmdPartDisconnect disconnect({design.one}, &design.project);
+        for (TCmdPartConnect* command : {&connect, static_cast<TCmdPartConnect*>(&disconnect)}) {
+            static_cast<TGraphicsPadItem*>(pads.first())->SetNet("stale");
+            command->UpdatePCB();
+            QCOMPARE(SheetDesign::PadNets(design.packageOfOne), (QStringList{"A", ""}));
+        }
     }
 
     // No component is updated then, and not all of them.

@@ -89,11 +89,76 @@ private slots:
         TGraphicsPortItem* port = design.sheet.Port({0, 0}, "A");
         TGraphicsPortItem* other = design.sheet.Port({0, 50}, "A");
         design.sheet.Junction({0, 90}, "A");
+        design.sheet.Bus({0, 200}, {90, 200})->SetNet("A"); // No net wire, though drawn like one.
         TCmdPortName command({port}, "B", &design.sheet);
         Test::CheckBothWays(command, design);
         command.redo();
         QCOMPARE(design.Nets(), QStringList{"B"});
         QCOMPARE(other->Name(), QString("A"));
+    }
+
+    void onlyTheNetOfTheWireIsKept()
+    {
+        SheetDesign design;
+        design.AddNets({"A", "C"});
+        const Ports ports{design.sheet.Port({0, 0}, "A"), design.sheet.Port({0, 50}, "C")};
+        design.sheet.Wire({0, 90}, {50, 90}, "A");
+        TCmdPortName command(ports, "B", &design.sheet);
+        Test::CheckBothWays(command, design);
+        command.redo();
+        QCOMPARE(design.Nets(), (QStringList{"A", "B"}));
+    }
+
+    // The name to go back to is that of the moment it was made; the net to leave is that of the moment it is done.
+    void namesAreReadWhenMadeAndNetsWhenDone()
+    {
+        SheetDesign design;
+        design.AddNets({"A", "C"});
+        TGraphicsPortItem* port = design.sheet.Port({0, 0}, "A");
+        TCmdPortName command({port}, "B", &design.sheet);
+        port->SetName("C", {});
+        command.redo();
+        QCOMPARE(design.Nets(), (QStringList{"A", "B"}));
+        command.undo();
+        QCOMPARE(port->Name(), QString("A"));
+        QCOMPARE(design.Nets(), (QStringList{"A", "C"}));
+    }
+
+    void everyPortGetsTheColorOfItsOwnNetBack()
+    {
+        SheetDesign design;
+        design.Model().AddNet("A", {}, Qt::red, {}, 0);
+        design.Model().AddNet("C", {}, Qt::blue, {}, 0);
+        const Ports ports{design.sheet.Port({0, 0}, "A"), design.sheet.Port({0, 50}, "C")};
+        TCmdPortName command(ports, "B", &design.sheet);
+        command.redo();
+        QVERIFY(!ports[0]->AltColor().isValid() && !ports[1]->AltColor().isValid());
+        command.undo();
+        QCOMPARE(ports[0]->AltColor(), QColor(Qt::red));
+        QCOMPARE(ports[1]->AltColor(), QColor(Qt::blue));
+    }
+
+    // Two ports that are wired together, and one apart.
+    void padsOfAllPortsFollow()
+    {
+        SheetDesign design;
+        design.AddNets({"A"});
+        TGraphicsPortItem* port = design.sheet.Port({0, 0}, "A");
+        TGraphicsPortItem* wired = design.sheet.Port({50, 0}, "A");
+        TGraphicsPortItem* apart = design.sheet.Port({0, 300}, "A");
+        design.WireFrom(port->Pin(), "A")->LinkToLast(wired->Pin());
+        wired->Pin()->LinkToPin(PinOf(design.sheet.Part({50, 0}, 4, {{0, 0}}), 1));
+        apart->Pin()->LinkToPin(PinOf(design.sheet.Part({0, 300}, 5, {{0, 0}}), 1));
+        const TGraphicsPackageItem* packages[] = {design.Package(4, 1), design.Package(5, 1)};
+        TCmdPortName command({port, wired, apart}, "B", &design.sheet);
+        command.redo();
+        for (const TGraphicsPackageItem* package : packages) {
+            QCOMPARE(SheetDesign::PadNets(package), QStringList{"B"});
+        }
+        command.undo();
+        for (const TGraphicsPackageItem* package : packages) {
+            QCOMPARE(SheetDesign::PadNets(package), QStringList{"A"});
+        }
     }
 
     void aKnownNetIsNotAdded()

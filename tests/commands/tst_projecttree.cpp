@@ -16,6 +16,26 @@ struct Tree : TProjectTree
     TPart* second = AddPart(5, "U5", "74HC04");
 };
 
+/** An entry that notes every column and role by which it is read or written. */
+template <class Entry>
+struct Watched : Entry
+{
+    using Entry::Entry;
+
+    QVariant data(int column, int role) const override
+    {
+        asked.append({column, role});
+        return Entry::data(column, role);
+    }
+    void setData(int column, int role, const QVariant& value) override
+    {
+        asked.append({column, role});
+        Entry::setData(column, role, value);
+    }
+
+    mutable QList<QPair<int, int>> asked;
+};
+
 /** Redoes and undoes twice; the command is undone in the end. */
 void CheckBothWays(TUndoCommand& command, const TProjectTree& tree)
 {
@@ -63,6 +83,26 @@ private slots:
         QCOMPARE(tree.other->Name(), QString("Output"));
         QCOMPARE(command.Categories(), 0U);
         QCOMPARE(command.id(), -1);
+    }
+
+    void entriesAreAskedForTheirShownNameOnly()
+    {
+        const auto check = [](auto& entry, auto make, int column) {
+            entry.asked.clear();
+            const auto command = make();
+            command->redo();
+            command->undo();
+            QVERIFY(entry.asked.size() >= 3); // The command reads it, writes it, and writes it back.
+            for (const auto& asked : entry.asked) {
+                QCOMPARE(asked, qMakePair(column, int(Qt::DisplayRole)));
+            }
+        };
+        Watched<TPart> part(4, "U4", "74HC00");
+        check(
+            part, [&part] { return std::make_unique<TCmdPartRename>(&part, "A"); }, 1);
+        Watched<TSchPage> page(1, "Supply");
+        check(
+            page, [&page] { return std::make_unique<TCmdPageRename>(&page, "A"); }, 0);
     }
 
     // The old name is that of the moment when the command was made.

@@ -169,6 +169,28 @@ private slots:
         QCOMPARE(Test::RowTexts(&set), RowsOfA());
     }
 
+    void wiresOfOtherNetsMarkTheRow_data()
+    {
+        QTest::addColumn<QStringList>("nets");
+        QTest::addColumn<bool>("mixed");
+        QTest::newRow("one") << QStringList{"A"} << false;
+        QTest::newRow("of one net") << QStringList{"A", "A", "A"} << false;
+        QTest::newRow("another one") << QStringList{"A", "B"} << true;
+        QTest::newRow("another one in the middle") << QStringList{"A", "B", "A"} << true;
+        QTest::newRow("one without a net") << QStringList{"A", QString()} << true;
+    }
+
+    void wiresOfOtherNetsMarkTheRow()
+    {
+        QFETCH(QStringList, nets);
+        NetDesign design;
+        QList<TGraphicsItem*> selection = design.WiresOf(nets);
+        selection.insert(1, design.board.AddVia());
+        Set set(selection, &design.schematic);
+        QTEST(Test::RowOf<TPropertyText>(&set, "Net:")->IsMixed(), "mixed");
+        QVERIFY(!Test::RowOf<TPropertyEnum>(&set, "Level:")->IsMixed());
+    }
+
     void withoutANetOfTheFirstWireThereAreNoRows()
     {
         NetDesign design;

@@ -171,6 +171,24 @@ private slots:
         QVERIFY(!repaints.Take().isNull());
     }
 
+    void directChangesStayOnThePage()
+    {
+        Test::TieProject design;
+        design.project.SetKind(TProject::InStep);
+        const TGraphicsNetTiePcbItem* tie = design.AddTie(3, "NT3");
+        Item* symbol = design.AddSymbol(3, "NT3");
+        symbol->SetTFlag(TGraphicsItem::UndoBypass, true);
+        Set set({symbol}, &design.project);
+        const Test::CommandLog log(set);
+        set.SetName("other");
+        set.SetNameVis(false);
+        QCOMPARE(log.Count(), 0);
+        QCOMPARE(symbol->Name(), QString("other"));
+        QVERIFY(!symbol->NameVisible());
+        QCOMPARE(tie->Name(), QString("NT3"));
+        QVERIFY(tie->NameVisible());
+    }
+
     void textsAreTranslated()
     {
         Test::TieProject design;

@@ -249,6 +249,21 @@ private slots:
         QCOMPARE(Test::RowTexts(&set), plainRows + rows);
     }
 
+    void swapRowOfTwoPartsIsMadeAndShowsTheFirstOnesNumber()
+    {
+        Test::SheetProject design;
+        Item* first = AddPart(design);
+        Item* second = AddPart(design);
+        first->SetSwapNumber(3);
+        second->SetSwapNumber(5);
+        const Test::UnshownEditors unshown;
+        const Set set({first, second});
+        const QList<QSpinBox*> boxes = unshown.Of<QSpinBox>(set);
+        QCOMPARE(boxes.size(), 1);
+        QCOMPARE(boxes.first()->value(), 3);
+        QVERIFY(!boxes.first()->isEnabled());
+    }
+
     void swapRowCannotBeEditedInThePanel()
     {
         Test::SheetProject design;

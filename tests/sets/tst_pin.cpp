@@ -272,6 +272,18 @@ private slots:
         QCOMPARE(static_cast<int>(pin->Swap()), 5);
     }
 
+    void swapRowOfPinsThatDifferIsLeftAtItsDefault()
+    {
+        Test::SheetProject design;
+        Item* second = AddPin(design);
+        second->SetSwap(6);
+        const Test::UnshownEditors unshown;
+        const Set set({AddPin(design), second});
+        const QList<QSpinBox*> boxes = unshown.Of<QSpinBox>(set);
+        QCOMPARE(boxes.size(), 1);
+        QCOMPARE(boxes.first()->value(), 0);
+    }
+
     void unshownRowsOfPlacedPinsAreMadeAllTheSame()
     {
         Test::SheetProject design;

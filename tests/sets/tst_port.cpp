@@ -164,6 +164,20 @@ private slots:
         QCOMPARE(Test::RowTexts(&set), QStringList{row});
     }
 
+    void aPortInTheMiddleCountsToo()
+    {
+        PortDesign design;
+        const QList<TGraphicsItem*> ports{design.AddPort("A"), design.AddPort("A"), design.AddPort("A")};
+        auto* middle = static_cast<Item*>(ports[1]);
+        middle->SetName("B", {});
+        const Set ofNames(ports, &design.schematic);
+        QCOMPARE(Test::RowTexts(&ofNames), QStringList{"TPropertyText Name: = , [x] Show"});
+        middle->SetName("A", {});
+        middle->SetNameVisible(false);
+        const Set ofVisibilities(ports, &design.schematic);
+        QCOMPARE(Test::RowTexts(&ofVisibilities), QStringList{"TPropertyText Name: = A, [ ] Show"});
+    }
+
     void allHiddenNamesAreUnticked()
     {
         PortDesign design;

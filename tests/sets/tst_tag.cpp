@@ -57,8 +57,10 @@ struct Tags
         auto* text = board.Add<TGraphicsTextItem>();
         text->SetTFlag(TGraphicsItem::UndoBypass, true);
         items = {board.AddTag("Title", 41), board.AddTag("Date", 45), board.AddTag("none", 50)};
-        items[1]->SetVector(false);
-        items[1]->SetAlignment(Qt::AlignCenter);
+        for (const int index : {0, 1}) { // The last one's is shown.
+            items[index]->SetVector(false);
+            items[index]->SetAlignment(Qt::AlignCenter);
+        }
         items[2]->Font().setFamily("Another");
         items[2]->SetLineWidth(5);
         selection = {text, items[0], items[1], board.board.AddVia(), items[2]};
@@ -368,6 +370,16 @@ private slots:
         const QRectF before = tag->boundingRect();
         Set set({tag}, &design.project);
         callSlot(set);
+        QVERIFY(tag->boundingRect() != before);
+    }
+
+    void lineWidthRefreshesThePathWithoutABypassToo()
+    {
+        TagDesign design;
+        Item* tag = design.AddTag("Title");
+        const QRectF before = tag->boundingRect();
+        Set set({tag}, &design.project);
+        set.SetLine(9);
         QVERIFY(tag->boundingRect() != before);
     }
 
