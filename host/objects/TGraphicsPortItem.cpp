@@ -38,25 +38,65 @@ TGraphicsPortItem::TGraphicsPortItem(QGraphicsItem* parent) : TGraphicsItem(pare
 
 void TGraphicsPortItem::SetName(const QString& newName, const QColor& color)
 {
-    const bool isNew = newName != name;
-    if (!isNew && pin && pin->LinkNode().IsColored(name, color)) {
+    if (newName != name) {
+        Rename(newName, color);
+    } else if (pin && pin->LinkNode().IsColored(name, color)) {
         return; // As when all ports of a net are renamed: the first of them has done it.
-    }
-    const Items named = isNew ? Renamed(newName) : OfName(name);
-    for (TGraphicsItem* item : named) {
-        if (isNew) {
-            GiveName(*item, newName);
+    } else {
+        const TFormers wired = Wired();
+        for (auto each = wired.cbegin(); each != wired.cend(); ++each) {
+            if (each->name == name) {
+                each.key()->SetAltColor(color);
+            }
         }
-        item->SetAltColor(color);
     }
+    ColorNameless(color);
+    if (pin) {
+        pin->LinkNode().NoteColored(name, color);
+    }
+}
+
+void TGraphicsPortItem::Rename(const QString& newName, const QColor& color)
+{
+    const TFormers wired = Wired();
+    const bool takesBack = TakesBack(newName, wired);
+    const TFormers former = takesBack ? renamings.takeLast().from : TFormers();
+    const bool isOfOneName =
+        std::all_of(wired.cbegin(), wired.cend(), [this](const Former& each) { return each.name == name; });
+    if (!takesBack && !(isOfOneName && renamings.isEmpty())) {
+        renamings.append({newName, wired});
+    }
+    for (auto each = wired.cbegin(); each != wired.cend(); ++each) {
+        const Former given = former.value(each.key(), {newName, color});
+        GiveName(*each.key(), given.name);
+        each.key()->SetAltColor(given.name == newName ? color : given.color);
+    }
+}
+
+/** Whether a new name takes the last renaming back. That depends on this port's own name and renamings alone, and not
+ * on whether a command is undone; but whatever is taken back can be done again just so. */
+bool TGraphicsPortItem::TakesBack(const QString& newName, const TFormers& wired)
+{
+    if (renamings.isEmpty()) {
+        return false;
+    }
+    const Renaming& last = renamings.last();
+    const auto isAsGiven = [&](TGraphicsItem* item) {
+        return last.from.contains(item) && wired.value(item).name == last.to;
+    };
+    const QList<TGraphicsItem*> items = wired.keys();
+    return last.from.value(this).name == newName && items.size() == last.from.size()
+           && std::all_of(items.cbegin(), items.cend(), isAsGiven);
+}
+
+/** What is wired to the port and takes its net from the others, such as bus entries. */
+void TGraphicsPortItem::ColorNameless(const QColor& color)
+{
     const QVector<TGraphicsItem*> items = ConnectedItems();
     for (TGraphicsItem* item : items) {
         if (!item->parentItem() && item->OwnNet().isEmpty()) {
             item->SetAltColor(color);
         }
-    }
-    if (!isNew && pin) {
-        pin->LinkNode().NoteColored(name, color);
     }
 }
 
@@ -68,83 +108,18 @@ void TGraphicsPortItem::SetAltColor(const QColor& color)
     TGraphicsItem::SetAltColor(color);
 }
 
-TGraphicsPortItem::Items TGraphicsPortItem::OfName(const QString& wanted) const
+TGraphicsPortItem::TFormers TGraphicsPortItem::Wired()
 {
-    Items found;
-    const QVector<TGraphicsItem*> items = ConnectedItems() << pin;
-    for (TGraphicsItem* item : items) {
-        auto* port = item ? dynamic_cast<TGraphicsPortItem*>(item->parentItem()) : nullptr;
-        if (port ? port->name == wanted : item && HasOwnNet(*item) && item->OwnNet() == wanted) {
-            found.insert(port ? port : item);
-        }
-    }
-    return found;
-}
-
-TGraphicsPortItem::Items TGraphicsPortItem::Renamed(const QString& newName)
-{
-    static quint64 moment = 0;
-    ++moment;
-    Items ofOldName = OfName(name);
-    ofOldName.insert(this);
-    if (name.isEmpty() && ConnectedItems().isEmpty() && done.isEmpty() && undone.isEmpty()) {
-        return ofOldName; // The first name of a new port is nothing that later renamings take back.
-    }
-    const std::shared_ptr<Renaming> last = done.isEmpty() ? nullptr : done.last();
-    if (last && last->from == newName && last->to == name && ofOldName.contains(last->items)) {
-        last->spared = OfName(newName);
-        last->changedAt = moment;
-        Move(last, last->items, &TGraphicsPortItem::done, &TGraphicsPortItem::undone);
-        return last->items;
-    }
-    std::shared_ptr<Renaming> renaming = Repeated(newName, ofOldName);
-    if (!renaming) {
-        renaming = std::make_shared<Renaming>(Renaming{name, newName, ofOldName, {}});
-    }
-    renaming->changedAt = moment;
-    Move(renaming, renaming->items, &TGraphicsPortItem::undone, &TGraphicsPortItem::done);
-    return renaming->items;
-}
-
-std::shared_ptr<TGraphicsPortItem::Renaming> TGraphicsPortItem::Repeated(const QString& newName,
-                                                                         const Items& ofOldName) const
-{
-    for (int i = undone.size() - 1; i >= 0; --i) {
-        const std::shared_ptr<Renaming>& each = undone[i];
-        const bool isSame = each->from == name && each->to == newName && ofOldName.contains(each->items);
-        // What has come to the old name since, other than by renamings, is to be taken along: a new renaming.
-        if (isSame && (each->items + each->spared + ChangedSince(each->changedAt)).contains(ofOldName)) {
-            return each;
-        }
-    }
-    return nullptr;
-}
-
-TGraphicsPortItem::Items TGraphicsPortItem::ChangedSince(quint64 moment) const
-{
-    Items changed;
+    TFormers wired{{this, {name, AltColor()}}};
     const QVector<TGraphicsItem*> items = ConnectedItems();
-    for (const TGraphicsItem* item : items) {
-        const auto* port = dynamic_cast<const TGraphicsPortItem*>(item->parentItem());
-        const TRenamings renamings = port ? port->done + port->undone : TRenamings();
-        for (const std::shared_ptr<Renaming>& each : renamings) {
-            if (each->changedAt > moment) {
-                changed += each->items;
-            }
-        }
-    }
-    return changed;
-}
-
-void TGraphicsPortItem::Move(const std::shared_ptr<Renaming>& renaming, const Items& items,
-                             TRenamings TGraphicsPortItem::*from, TRenamings TGraphicsPortItem::*to)
-{
     for (TGraphicsItem* item : items) {
-        if (auto* port = dynamic_cast<TGraphicsPortItem*>(item)) {
-            (port->*from).removeOne(renaming);
-            (port->*to).append(renaming);
+        if (auto* port = dynamic_cast<TGraphicsPortItem*>(item->parentItem())) {
+            wired.insert(port, {port->name, port->AltColor()});
+        } else if (HasOwnNet(*item)) {
+            wired.insert(item, {item->OwnNet(), item->AltColor()});
         }
     }
+    return wired;
 }
 
 void TGraphicsPortItem::GiveName(TGraphicsItem& item, const QString& newName)

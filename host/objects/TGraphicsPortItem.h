@@ -2,7 +2,7 @@
 
 #include <graphics/TGraphicsItem.h>
 
-#include <QSet>
+#include <QHash>
 #include <QVector>
 
 #include <memory>
@@ -26,13 +26,12 @@ public:
 
     const QString& Name() const { return name; }
     /**
-     * Renames the port, and with it all that is wired to it and is on its net: wires get the new name, and so do other
-     * ports of the old one. All of these get the colour (invalid for the layer's), and are repainted.
+     * Renames the port and, if that is a new name, all that is wired to it, whatever it was called: wires, junctions
+     * and other ports. All of these get the colour (invalid for the layer's), and are repainted.
      *
-     * Renaming it back gives the old name back to just those that it was taken from, if they all still have the new
-     * one, whichever of their ports has its turn first; and doing it once more takes it from the same, if nothing else
-     * has come to the old name since. Where wired ports of several names are renamed back and forth one by one, a new
-     * renaming may look just like one that is taken back.
+     * Renaming the same port back gives everything its former name back, as long as just the same things are wired to
+     * it and all have the name that it gave them; so commands that are undone in their order bring back every name. Its
+     * own name only gives the colour to what has that name.
      */
     void SetName(const QString& newName, const QColor& color);
 
@@ -66,28 +65,27 @@ protected:
     QVariant itemChange(GraphicsItemChange change, const QVariant& value) override;
 
 private:
-    using Items = QSet<TGraphicsItem*>;
+    /** What an item was called before a renaming, and how it was coloured. */
+    struct Former
+    {
+        QString name;
+        QColor color;
+    };
+    /** By the items, which are compared only and never followed. */
+    using TFormers = QHash<TGraphicsItem*, Former>;
 
-    /** One renaming of a port and all that it took along. Items are compared only, never followed. */
+    /** One renaming by this port of all that was wired to it, the port too. */
     struct Renaming
     {
-        QString from;
         QString to;
-        Items items;
-        Items spared;          ///< What else was of the old name when it was last taken back.
-        quint64 changedAt = 0; ///< When it was last done or taken back.
+        TFormers from;
     };
-    using TRenamings = QVector<std::shared_ptr<Renaming>>;
 
-    /** The ports, wires and junctions that links join with the port and that have a name as their own. */
-    Items OfName(const QString& wanted) const;
-    /** Those that a new name is for, the port too: notes the renaming, or finds that it takes one back or repeats one.
-     */
-    Items Renamed(const QString& newName);
-    std::shared_ptr<Renaming> Repeated(const QString& newName, const Items& ofOldName) const;
-    Items ChangedSince(quint64 moment) const;
-    static void Move(const std::shared_ptr<Renaming>& renaming, const Items& items, TRenamings TGraphicsPortItem::*from,
-                     TRenamings TGraphicsPortItem::*to);
+    /** The port, and the ports, wires and junctions that links join with it. */
+    TFormers Wired();
+    void Rename(const QString& newName, const QColor& color);
+    bool TakesBack(const QString& newName, const TFormers& wired);
+    void ColorNameless(const QColor& color);
 
     static void GiveName(TGraphicsItem& item, const QString& newName);
     void StoreName(const QString& newName);
@@ -98,7 +96,6 @@ private:
     bool nameVisible = true;
     TypePortShape portShape = ShapePassive;
     TGraphicsPinItem* pin;
-    TRenamings done;               ///< What took this port along, the last one last.
-    TRenamings undone;             ///< What was taken back, the last one last.
+    QVector<Renaming> renamings;   ///< The last one last. A first one of things that had one name is not noted.
     mutable QPainterPath namePath; ///< Made when first asked for; empty until then.
 };

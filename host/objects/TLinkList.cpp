@@ -5,6 +5,7 @@
 #include <objects/TGraphicsSectionItem.h>
 
 #include <algorithm>
+#include <iterator>
 
 template <class Linked>
 QVector<TGraphicsItem*> TLinksTo<Linked>::Items() const
@@ -25,6 +26,17 @@ void TLinksTo<Linked>::Add(TGraphicsItem* item)
 }
 
 template <class Linked>
+void TLinksTo<Linked>::Remove(const TGraphicsItem* item)
+{
+    const auto found = std::find(list.rbegin(), list.rend(), item);
+    if (found != list.rend()) {
+        TGraphicsItem* removed = *found;
+        list.erase(std::prev(found.base()));
+        node.Drop(removed->LinkNode());
+    }
+}
+
+template <class Linked>
 bool TLinksTo<Linked>::Replace(const TGraphicsItem* from, TGraphicsItem* to)
 {
     const auto found = std::find(list.begin(), list.end(), from);
@@ -32,8 +44,7 @@ bool TLinksTo<Linked>::Replace(const TGraphicsItem* from, TGraphicsItem* to)
         return false;
     }
     TGraphicsItem* replaced = *found;
-    auto* added = dynamic_cast<Linked*>(to);
-    if (added) {
+    if (auto* added = dynamic_cast<Linked*>(to)) {
         *found = added;
         node.Hold(added->LinkNode());
     } else {

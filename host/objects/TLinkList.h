@@ -20,9 +20,9 @@ public:
 
     /** Adds one link. What is of another class is ignored. */
     void Add(TGraphicsItem* item);
-    /** Removes one link, if there is one. */
-    void Remove(const TGraphicsItem* item) { Replace(item, nullptr); }
-    /** Puts another item in the place of one link, or removes it, and tells whether there was one. */
+    /** Removes the last link, if there is one, so that one that is made and cut again leaves the order as it was. */
+    void Remove(const TGraphicsItem* item);
+    /** Puts another item in the place of the first link, or removes it, and tells whether there was one. */
     bool Replace(const TGraphicsItem* from, TGraphicsItem* to);
 
 private:

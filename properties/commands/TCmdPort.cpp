@@ -68,12 +68,14 @@ QStringList TCmdPortName::MoveToNewNet(const TNetModel& model)
     QStringList oldNets;
     QSet<QString> known;
     const QColor color = ColorOf(model, newName);
+    replacedNames.clear();
     for (TGraphicsPortItem* port : qAsConst(ports)) {
         const QString net = port->Net();
         if (!net.isEmpty() && !known.contains(net)) {
             known.insert(net);
             oldNets.append(net);
         }
+        replacedNames.append(port->Name());
         port->SetName(newName, color);
     }
     return oldNets;
@@ -110,10 +112,22 @@ void TCmdPortName::Undo()
     while (!deletedNets.isEmpty()) {
         model.AddNet(deletedNets.takeLast());
     }
-    for (int i = 0; i < ports.size(); ++i) {
-        ports.at(i)->SetName(oldNames.at(i), ColorOf(model, oldNames.at(i)));
-    }
+    GiveOldNames(model);
     UpdateBoardInStep();
+}
+
+void TCmdPortName::GiveOldNames(const TNetModel& model)
+{
+    // Ports that are wired together rename each other: what each of them has done is taken back, the last one first.
+    for (int i = ports.size() - 1; i >= 0; --i) {
+        ports.at(i)->SetName(replacedNames.at(i), ColorOf(model, replacedNames.at(i)));
+    }
+    for (int i = 0; i < ports.size(); ++i) {
+        const QColor color = ColorOf(model, oldNames.at(i));
+        if (ports.at(i)->Name() != oldNames.at(i) || ports.at(i)->AltColor() != color) {
+            ports.at(i)->SetName(oldNames.at(i), color);
+        }
+    }
 }
 
 void TCmdPortName::UpdateBoardInStep()

@@ -46,13 +46,15 @@ private:
     void AddNewNet(TNetModel& model);
     /** Renames the ports, and returns the nets that they were on, each once. */
     QStringList MoveToNewNet(const TNetModel& model);
+    void GiveOldNames(const TNetModel& model);
     void DeleteUnused(const QStringList& nets, TNetModel& model);
     void UpdateBoardInStep();
     QList<unsigned short> ConnectedNumbers() const;
 
     TSchematic* schematic;
     QList<TGraphicsPortItem*> ports;
-    QStringList oldNames; ///< Parallel to `ports`.
+    QStringList oldNames;      ///< Parallel to `ports`: of the moment when the command was made.
+    QStringList replacedNames; ///< Parallel to `ports`: what each was called when the last redo came to it.
     QString newName;
     QString addedNet;                     ///< What the last redo added to the net model; empty for nothing.
     QList<QVector<QVariant>> deletedNets; ///< The rows that the last redo deleted from it, in that order.

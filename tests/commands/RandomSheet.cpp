@@ -34,13 +34,6 @@ auto At(const List& list, int number)
     return list[number % list.size()];
 }
 
-/** What ports are renamed to: more often than not a name that is new, as names that come and go tell renamings from
- *  those that take them back only as long as ports do not take each other along both ways. */
-QString NewName(const PlannedEdit& edit)
-{
-    return edit.value % 3 == 0 ? At(names, edit.value / 3) : QStringLiteral("N%1").arg(edit.value);
-}
-
 /** Links the free end of a wire, as drawing it does. */
 class LinkCommand : public QUndoCommand
 {
@@ -183,7 +176,8 @@ std::unique_ptr<QUndoCommand> RandomSheet::Command(const PlannedEdit& edit)
     case 1:
     case 2: {
         commandName = "port name";
-        return std::make_unique<TCmdPortName>(Some<TGraphicsPortItem>(ItemType::Port, edit), NewName(edit), &sheet);
+        return std::make_unique<TCmdPortName>(Some<TGraphicsPortItem>(ItemType::Port, edit), At(names, edit.value),
+                                              &sheet);
     }
     case 3: commandName = "connect"; return std::make_unique<TCmdPartConnect>(ofKind(ItemType::Part), &design.project);
     case 4: {

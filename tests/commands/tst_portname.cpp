@@ -262,8 +262,37 @@ private slots:
         TCmdPortName command({port}, "B", &design.sheet);
         Test::CheckBothWays(command, design);
         command.redo();
-        QCOMPARE(wire->Net(), QString("W"));
-        QCOMPARE(design.Nets(), (QStringList{"A", "C", "W", "B"})); // The wire keeps its net; nobody asks for A.
+        QCOMPARE(wire->Net() + other->Name(), QString("BB"));
+        QCOMPARE(design.Nets(), (QStringList{"A", "C", "B"})); // Nobody asks for the ports' own names.
+    }
+
+    // Three commands in turn, each over one or both of two ports that are wired together and renamed to one of three
+    // names: every such sequence.
+    void portsOfSeveralNamesThatAreWiredTogether()
+    {
+        SheetDesign design;
+        design.AddNets({"C", "W", "A"});
+        TGraphicsPortItem* one = design.sheet.Port({0, 0}, "A");
+        TGraphicsPortItem* other = design.sheet.Port({50, 0}, "C");
+        design.WireFrom(one->Pin(), "W")->LinkToLast(other->Pin());
+        const QList<Ports> lists{{one}, {other}, {one, other}, {other, one}};
+        const QStringList names{"A", "C", "N"};
+        const int edits = lists.size() * names.size();
+        for (int sequence = 0; sequence < edits * edits * edits; ++sequence) {
+            QUndoStack stack;
+            QStringList states{design.Dump()};
+            for (int i = 0, rest = sequence; i < 3; ++i, rest /= edits) {
+                const int edit = rest % edits;
+                stack.push(new TCmdPortName(lists[edit % lists.size()], names[edit / lists.size()], &design.sheet));
+                states.append(design.Dump());
+            }
+            for (const int end : {0, 3, 0}) {
+                while (stack.index() != end) {
+                    stack.index() < end ? stack.redo() : stack.undo();
+                    QCOMPARE(design.Dump(), states[stack.index()]);
+                }
+            }
+        }
     }
 
     void namesAreSwappedAndSwappedBack()

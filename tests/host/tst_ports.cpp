@@ -10,7 +10,7 @@ using Test::PinOf;
 using Test::Sheet;
 using Items = QVector<TGraphicsItem*>;
 
-/** A port at the origin with two wires, a junction and a second port on one net, and a wire of another net there. */
+/** A port at the origin with two wires, a junction and a second port on one net. */
 struct Wired
 {
     Wired()
@@ -95,54 +95,93 @@ private slots:
         QCOMPARE(design.sheet.DumpWithOwnNets(), before);
     }
 
-    void whatIsOfAnotherNetKeepsItsName()
+    void whatIsOfAnotherNameMovesAlongAndGetsItsOwnBack()
     {
         Wired design;
-        design.second->SetName("C", {}); // Takes all along,
-        design.port->SetName("A", {});   // and so back, but now with a port of C beside.
         TGraphicsPortItem* third = design.sheet.Port({50, 50}, "C");
         TGraphicsNetItem* ofThird = design.sheet.Wire({50, 0}, {50, 50}, "C");
+        for (TGraphicsItem* item : Items{third, ofThird}) {
+            item->SetAltColor(Qt::green);
+        }
         ofThird->LinkToFirst(design.junction);
         ofThird->LinkToLast(third->Pin());
         QCOMPARE(ofThird->Net() + design.wire->Net(), QString("CA")); // Two names are given: each keeps its own.
         const QString before = design.sheet.DumpWithOwnNets();
+        const auto names = [&] {
+            return ofThird->Net() + ofThird->OwnNet() + design.wire->OwnNet() + third->Name() + design.second->Name();
+        };
         design.port->SetName("B", Qt::red);
-        QCOMPARE(ofThird->Net() + design.wire->Net() + third->Name() + design.second->Name(), QString("CBCB"));
-        QVERIFY(!ofThird->AltColor().isValid() && !third->AltColor().isValid());
-        design.port->SetName("C", Qt::red); // Of one name with the others,
-        QCOMPARE(ofThird->Net() + design.wire->Net() + third->Name() + design.second->Name(), QString("CCCC"));
-        design.port->SetName("B", {}); // and still told apart from them.
-        QCOMPARE(ofThird->Net() + design.wire->Net() + third->Name() + design.second->Name(), QString("CBCB"));
+        QCOMPARE(names(), QString("BBBBB"));
+        QCOMPARE(third->AltColor(), QColor(Qt::red));
+        design.port->SetName("C", Qt::red);
+        QCOMPARE(names(), QString("CCCCC"));
+        design.port->SetName("B", {});
+        QCOMPARE(names(), QString("BBBBB"));
         design.port->SetName("A", {});
         QCOMPARE(design.sheet.DumpWithOwnNets(), before);
     }
 
-    // As undo gives back old names: in the order of the renamings.
-    void portsThatAreWiredTogetherAreRenamedBackOneByOne()
+    // Another port, other things that are wired, or another name: then nothing is taken back.
+    void onlyTheSameRenamingIsTakenBack_data()
+    {
+        QTest::addColumn<int>("difference");
+        QTest::newRow("none") << 0;
+        QTest::newRow("another port") << 1;
+        QTest::newRow("a wire more") << 2;
+        QTest::newRow("a wire less") << 3;
+        QTest::newRow("another name in between") << 4;
+        QTest::newRow("a wire renamed in between") << 5;
+    }
+    void onlyTheSameRenamingIsTakenBack()
+    {
+        QFETCH(int, difference);
+        Wired design;
+        design.wire->SetNet("W"); // Of another name than what it is wired to.
+        design.port->SetName("B", {});
+        TGraphicsPortItem* port = difference == 1 ? design.second : design.port;
+        if (difference == 2) {
+            design.sheet.Wire({50, 0}, {50, 50}, "B")->LinkToFirst(design.junction);
+        } else if (difference == 3) {
+            design.further->UnlinkFrom(design.second->Pin());
+        } else if (difference == 4) {
+            design.second->SetName("C", {});
+        } else if (difference == 5) {
+            design.further->SetNet("X");
+        }
+        port->SetName("A", {});
+        QCOMPARE(design.wire->OwnNet(), QString(difference == 0 ? "W" : "A"));
+        QCOMPARE(design.further->OwnNet(), QString("A"));
+    }
+
+    // Whatever each port was called, and whichever of them are renamed in which order.
+    void renamingsThatAreTakenBackFromTheLastOneBringEverythingBack()
     {
         Wired design;
         TGraphicsPortItem* third = design.sheet.Port({50, 50}, "C");
         TGraphicsNetItem* ofThird = design.sheet.Wire({50, 0}, {50, 50}, "C");
         ofThird->LinkToFirst(design.junction);
         ofThird->LinkToLast(third->Pin());
-        const QString before = design.sheet.DumpWithOwnNets();
         const QList<TGraphicsPortItem*> ports{design.port, third, design.second};
-        for (const auto& order : {std::vector<int>{0, 1, 2}, {2, 1, 0}, {1, 2, 0}, {1, 0, 2}}) {
-            for (const char* name : {"N", "A", "C"}) {
-                for (int round = 0; round < 2; ++round) {
-                    QStringList old;
-                    for (const int i : order) {
-                        old.append(ports[i]->Name());
-                    }
-                    for (const int i : order) {
-                        ports[i]->SetName(name, {});
-                    }
-                    QCOMPARE(ofThird->Net() + design.wire->Net(), QString(name) + name);
-                    for (const int i : order) {
-                        ports[i]->SetName(old.takeFirst(), {});
-                    }
-                    QCOMPARE(design.sheet.DumpWithOwnNets(), before);
-                }
+        const QStringList names{"A", "C", "N", ""};
+        struct Renamed
+        {
+            TGraphicsPortItem* port;
+            QString from;
+            QString before;
+        };
+        // Five renamings, each of one of three ports to one of four names; every 211th of all sequences.
+        for (int sequence = 0; sequence < 12 * 12 * 12 * 12 * 12; sequence += 211) {
+            QVector<Renamed> renamed;
+            for (int i = 0, rest = sequence; i < 5; ++i, rest /= 12) {
+                TGraphicsPortItem* port = ports[rest % 3];
+                renamed.append({port, port->Name(), design.sheet.DumpWithOwnNets()});
+                port->SetName(names[rest / 3 % 4], {});
+                QCOMPARE(port->Name(), names[rest / 3 % 4]);
+            }
+            while (!renamed.isEmpty()) {
+                const Renamed last = renamed.takeLast();
+                last.port->SetName(last.from, {});
+                QCOMPARE(design.sheet.DumpWithOwnNets(), last.before);
             }
         }
     }
