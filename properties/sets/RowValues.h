@@ -17,7 +17,8 @@
 
 /**
  * Gives rows their values. A row for a value that all items share stays at its editor's default (no current item, an
- * empty text, an unticked box) when they differ, and is marked as mixed. A "Show" box is ticked only where all are shown.
+ * empty text, an unticked box) when they differ, and is marked as mixed. A "Show" box is ticked only where all are
+ * shown.
  */
 namespace RowValues {
 
