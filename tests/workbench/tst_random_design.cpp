@@ -108,9 +108,9 @@ public:
         view.setScene(design.Board()->Scene());
         design.Board()->SetView(&view);
         MakeTextsExact(design);
-        const Items items = design.Board()->Items();
-        itemsOpened = static_cast<int>(
-            std::count_if(items.cbegin(), items.cend(), [](const TGraphicsItem* item) { return !item->IsDerived(); }));
+        for (const TGraphicsItem* item : design.Board()->Items()) {
+            opened.insert(item);
+        }
         dumps.append(Dump());
     }
     ~Run() override { window.panel->SetPropertySet(nullptr); }
@@ -184,9 +184,9 @@ private:
     {
         static const QRegularExpression color(QStringLiteral(" color=\\S+"));
         QStringList lines = design.Dump().split(QLatin1Char('\n'));
-        for (int i = 0; i < lines.size(); ++i) {
-            const bool isMade = i >= itemsOpened && (lines[i].startsWith("via ") || lines[i].startsWith("wire "));
-            if (isMade) {
+        const Items items = design.Board()->Items(); // Each is a line, and these are the first ones.
+        for (int i = 0; i < items.size(); ++i) {
+            if (!opened.contains(items[i])) {
                 lines[i].remove(color);
             }
         }
@@ -347,9 +347,9 @@ private:
 
     QGraphicsView view;
     TDesign design;
-    QUndoStack stack; // Its commands point to items.
-    int itemsOpened = 0;
-    QStringList dumps; ///< By the index of the undo stack.
+    QUndoStack stack;                  // Its commands point to items.
+    QSet<const TGraphicsItem*> opened; ///< Those of the board that no command has made. Compared only.
+    QStringList dumps;                 ///< By the index of the undo stack.
     Test::PanelWindow& window;
     QSet<QString>& used;
 };
