@@ -44,7 +44,7 @@ public:
     /** Whether pours were noted since the last call. */
     bool TakeMarkedPours();
 
-signals:
+Q_SIGNALS:
     /** The first mark since the marks were last taken. */
     void sigMarked();
 

@@ -45,6 +45,11 @@ QPainterPath Trapezoid(const QRectF& box, const QSizeF& taper)
     return path;
 }
 
+Osmirel::Layer ThroughFrom(Osmirel::Layer start)
+{
+    return start == Osmirel::CopperBottom ? Osmirel::CopperTop : Osmirel::CopperBottom;
+}
+
 QPainterPath Rounded(const QRectF& box, double radius)
 {
     QPainterPath path;
@@ -92,8 +97,10 @@ void TGraphicsPadItem::SetPadShape(TypePadShape shape)
 void TGraphicsPadItem::SetTypeSMD(bool smd)
 {
     const Osmirel::Layer start = StartLayer();
-    const Osmirel::Layer through = start == Osmirel::CopperBottom ? Osmirel::CopperTop : Osmirel::CopperBottom;
-    SetLayers(start, smd ? start : through);
+    if (!IsSMD()) {
+        farLayers.insert(start, EndLayer());
+    }
+    SetLayers(start, smd ? start : farLayers.value(start, ThroughFrom(start)));
 }
 
 void TGraphicsPadItem::SetPadSide(Osmirel::Layer side)
@@ -148,6 +155,11 @@ void TGraphicsPadItem::Flip()
     copperOffset.setX(-copperOffset.x());
     extraCopper = QTransform::fromScale(-1, 1).map(extraCopper);
     SetLayers(Osmirel::OppositeLayer(StartLayer()), Osmirel::OppositeLayer(EndLayer()));
+    QHash<Osmirel::Layer, Osmirel::Layer> turned;
+    for (auto far = farLayers.cbegin(); far != farLayers.cend(); ++far) {
+        turned.insert(Osmirel::OppositeLayer(far.key()), Osmirel::OppositeLayer(*far));
+    }
+    farLayers = turned;
 }
 
 QRectF TGraphicsPadItem::boundingRect() const
@@ -293,4 +305,5 @@ void TGraphicsPadItem::CopyFrom(const TGraphicsItem& source)
     copperOffset = other.copperOffset;
     drillStretch = other.drillStretch;
     extraCopper = other.extraCopper;
+    farLayers = other.farLayers;
 }

@@ -42,7 +42,8 @@ public:
 
     /** Whether the pad lies on one layer only. */
     bool IsSMD() const { return StartLayer() == EndLayer(); }
-    /** Makes a surface pad of the start layer, or a pad that goes from the start layer through the board. Repaints. */
+    /** Makes a surface pad of the start layer, or a pad that goes from the start layer through the board, or as far as
+     *  it went from there before. Repaints. */
     void SetTypeSMD(bool smd);
     /** Moves a surface pad to a layer and repaints; a pad through the board has no side and stays as it is. */
     void SetPadSide(Osmirel::Layer side);
@@ -99,6 +100,8 @@ private:
     void DrawHole(QPainter& painter) const;
     void DrawNumber(QPainter& painter, double pixelsPerUnit) const;
 
+    /** By start layers: how far the pad went from there when it was made a surface pad. */
+    QHash<Osmirel::Layer, Osmirel::Layer> farLayers;
     QString number;
     QString name;
     TypePadShape padShape = ShapeRound;

@@ -2,30 +2,6 @@
 
 #include <graphics/TStateText.h>
 
-#include <algorithm>
-
-namespace {
-
-/** What is given to those who link wires and to those who link pins; nobody is to be asked for nothing, which would
- *  mean everything. */
-struct Given
-{
-    explicit Given(const QVector<TGraphicsItem*>& items) : isAll(items.isEmpty())
-    {
-        const auto isPin = [](const TGraphicsItem* item) { return item->type() == ItemType::Pin; };
-        std::partition_copy(items.cbegin(), items.cend(), std::back_inserter(pins), std::back_inserter(wires), isPin);
-    }
-
-    bool HasWires() const { return isAll || !wires.isEmpty(); }
-    bool HasPins() const { return isAll || !pins.isEmpty(); }
-
-    bool isAll;
-    QVector<TGraphicsItem*> pins;
-    QVector<TGraphicsItem*> wires;
-};
-
-} // namespace
-
 TGraphicsPartItem::TGraphicsPartItem(QGraphicsItem* parent) : TGraphicsComponentItem(parent)
 {
     SetLayer(Osmirel::SchematicSymbols);
@@ -33,30 +9,12 @@ TGraphicsPartItem::TGraphicsPartItem(QGraphicsItem* parent) : TGraphicsComponent
 
 QVector<TGraphicsItem*> TGraphicsPartItem::Connect(const QVector<TGraphicsItem*>& items)
 {
-    const Given given(items);
-    const QVector<TGraphicsItem*> pins = Pins();
-    QVector<TGraphicsItem*> linked;
-    if (given.HasWires()) {
-        linked += landing.Connect(pins, given.wires);
-    }
-    if (given.HasPins()) {
-        linked += contacts.Connect(pins, given.pins);
-    }
-    return linked;
+    return landing.Connect(Pins(), items);
 }
 
 QVector<TGraphicsItem*> TGraphicsPartItem::Disconnect(const QVector<TGraphicsItem*>& items)
 {
-    const Given given(items);
-    const QVector<TGraphicsItem*> pins = Pins();
-    QVector<TGraphicsItem*> cut;
-    if (given.HasWires()) {
-        cut += landing.Disconnect(pins, given.wires);
-    }
-    if (given.HasPins()) {
-        cut += contacts.Disconnect(pins, given.pins);
-    }
-    return cut;
+    return landing.Disconnect(Pins(), items);
 }
 
 void TGraphicsPartItem::Describe(TStateText& state) const

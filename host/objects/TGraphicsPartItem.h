@@ -2,7 +2,6 @@
 
 #include <objects/TGraphicsComponentItem.h>
 #include <objects/TLanding.h>
-#include <objects/TPinContacts.h>
 
 /** A component's symbol, or one of its units, on a schematic page: the parent of its pins, drawings and texts. */
 class TGraphicsPartItem : public TGraphicsComponentItem
@@ -46,5 +45,4 @@ private:
     quint8 swapNumber = 0;
     bool symbolOpen = false;
     TLanding landing;
-    TPinContacts contacts;
 };

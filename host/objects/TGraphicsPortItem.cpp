@@ -81,12 +81,11 @@ bool TGraphicsPortItem::TakesBack(const QString& newName, const TFormers& wired)
         return false;
     }
     const Renaming& last = renamings.last();
-    const auto isAsGiven = [&](TGraphicsItem* item) {
-        return last.from.contains(item) && wired.value(item).name == last.to;
+    const auto isAsGiven = [&last](const auto& each) {
+        return last.from.contains(each.first) && each.second.name == last.to;
     };
-    const QList<TGraphicsItem*> items = wired.keys();
-    return last.from.value(this).name == newName && items.size() == last.from.size()
-           && std::all_of(items.cbegin(), items.cend(), isAsGiven);
+    return last.from.value(this).name == newName && wired.size() == last.from.size()
+           && std::all_of(wired.constKeyValueBegin(), wired.constKeyValueEnd(), isAsGiven);
 }
 
 /** What is wired to the port and takes its net from the others, such as bus entries. */

@@ -8,6 +8,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <tuple>
 
 TGraphicsViaItem::TGraphicsViaItem(QGraphicsItem* parent) : TGraphicsItem(parent)
 {
@@ -25,12 +26,22 @@ void TGraphicsViaItem::SetSize(double width, double height)
 
 void TGraphicsViaItem::SetViaGroup(const QString& name)
 {
-    viaGroup = name;
-    const TDrillPair* pair = Workspace() ? Workspace()->Layers().DrillPair(name) : nullptr;
-    startLayer = pair ? pair->first : Osmirel::CopperTop;
-    endLayer = pair ? pair->last : Osmirel::CopperBottom;
+    if (name != viaGroup) {
+        const TLayers current(startLayer, endLayer);
+        if (current != LayersOfPair(viaGroup)) {
+            otherLayers.insert(viaGroup, current);
+        }
+        viaGroup = name;
+        std::tie(startLayer, endLayer) = otherLayers.contains(name) ? otherLayers.take(name) : LayersOfPair(name);
+    }
     MarkNet();
     Refresh();
+}
+
+TGraphicsViaItem::TLayers TGraphicsViaItem::LayersOfPair(const QString& name) const
+{
+    const TDrillPair* pair = Workspace() ? Workspace()->Layers().DrillPair(name) : nullptr;
+    return pair ? TLayers{pair->first, pair->last} : TLayers{Osmirel::CopperTop, Osmirel::CopperBottom};
 }
 
 void TGraphicsViaItem::SetMaskClearance(float clearance)
@@ -187,4 +198,5 @@ void TGraphicsViaItem::CopyFrom(const TGraphicsItem& source)
     maskClearance = other.maskClearance;
     startLayer = other.startLayer;
     endLayer = other.endLayer;
+    otherLayers = other.otherLayers;
 }

@@ -3,6 +3,10 @@
 #include <graphics/TGraphicsItem.h>
 #include <objects/TLinkList.h>
 
+#include <QHash>
+
+#include <utility>
+
 /** A plated hole that joins copper layers: a via of the board, and the base of its pads. */
 class TGraphicsViaItem : public TGraphicsItem
 {
@@ -32,7 +36,7 @@ public:
     /** Name of the drill pair that tells which copper layers are joined. */
     const QString& ViaGroup() const { return viaGroup; }
     /** Sets the drill pair, takes its layers, and repaints. A name that the document does not know goes through the
-     *  whole board. */
+     *  whole board. Layers that went with a former name and were not those of its pair come back with that name. */
     void SetViaGroup(const QString& name);
 
     /** Whether the solder mask is open over the copper. The setter stores only. */
@@ -95,6 +99,9 @@ protected:
     void DrawOpening(QPainter& painter, Osmirel::Layer top, Osmirel::Layer bottom, const QPainterPath& opening) const;
 
 private:
+    using TLayers = std::pair<Osmirel::Layer, Osmirel::Layer>;
+    TLayers LayersOfPair(const QString& name) const;
+
     QSizeF size;
     float drill = 0;
     TypeThermal thermal = ThermalAuto;
@@ -103,5 +110,6 @@ private:
     float maskClearance = 0;
     Osmirel::Layer startLayer = Osmirel::CopperTop;
     Osmirel::Layer endLayer = Osmirel::CopperBottom;
+    QHash<QString, TLayers> otherLayers; ///< Of former names, where they were not those of the pair.
     TLinkList linked{LinkNode()};
 };

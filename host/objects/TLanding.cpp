@@ -1,207 +1,135 @@
 #include <objects/TLanding.h>
 
-#include <graphics/TItemScene.h>
+#include <objects/TGraphicsPinItem.h>
 #include <objects/TGraphicsSectionItem.h>
-
-#include <QHash>
-#include <QSet>
+#include <objects/TPinContacts.h>
+#include <objects/TWireContacts.h>
 
 #include <algorithm>
-#include <array>
-#include <optional>
 
 namespace {
 
 using LinkEnd = TGraphicsItem::LinkEnd;
+using PinContacts::AsPin;
 
-/** A wire and one of its ends. */
-using End = QPair<const TGraphicsItem*, int>;
-
-End KeyOf(const TGraphicsItem* wire, LinkEnd end)
+TGraphicsSectionItem* AsWire(TGraphicsItem* item)
 {
-    return {wire, static_cast<int>(end)};
+    return dynamic_cast<TGraphicsSectionItem*>(item);
 }
 
-constexpr std::array<LinkEnd, 2> bothEnds = {LinkEnd::First, LinkEnd::Last};
-
-/** One end of a wire, and the copper that it lies on. */
-struct Touch
+bool IsLinked(const TConnection& connection)
 {
-    TGraphicsSectionItem* wire;
-    LinkEnd end;
-    TGraphicsItem* target;
-    double squareDistance; ///< From the target's centre.
-};
-
-std::optional<Touch> TouchOf(TGraphicsSectionItem* wire, LinkEnd end, TGraphicsItem* target)
-{
-    const QPointF point = target->mapFromScene(wire->ScenePoint(end));
-    if (!target->TakesEnd(point, wire->Layer())) {
-        return {};
+    if (const TGraphicsPinItem* pin = AsPin(connection.item)) {
+        return pin->LinkedPins().contains(AsPin(connection.place));
     }
-    return Touch{wire, end, target, QPointF::dotProduct(point, point)};
+    return AsWire(connection.item)->Link(connection.end) == connection.place;
 }
 
-QVector<TGraphicsSectionItem*> WiresNear(const TGraphicsItem& target)
+void Link(const TConnection& connection)
 {
-    QVector<TGraphicsSectionItem*> wires;
-    if (!target.Owner()) {
-        return wires;
+    if (TGraphicsPinItem* pin = AsPin(connection.item)) {
+        AsPin(connection.place)->LinkToPin(pin);
+    } else {
+        AsWire(connection.item)->LinkTo(connection.end, connection.place);
     }
-    const QList<QGraphicsItem*> near =
-        target.Owner()->items(target.sceneBoundingRect(), Qt::IntersectsItemBoundingRect);
-    for (QGraphicsItem* item : near) {
-        if (auto* wire = dynamic_cast<TGraphicsSectionItem*>(item)) {
-            wires.append(wire);
-        }
+}
+
+void Cut(const TConnection& connection)
+{
+    if (TGraphicsPinItem* pin = AsPin(connection.item)) {
+        AsPin(connection.place)->UnlinkFromPin(pin);
+    } else {
+        AsWire(connection.item)->Unlink(connection.end);
     }
-    return wires;
+}
+
+/** The connection behind an item of a list, if it is known and its place is still there. */
+std::optional<TConnection> Known(const TConnections& known, int index, const QVector<TGraphicsItem*>& places)
+{
+    return index < known.size() && places.contains(known.at(index).place) ? std::make_optional(known.at(index))
+                                                                          : std::nullopt;
 }
 
 } // namespace
 
-QVector<TGraphicsItem*> TLanding::Connect(const QVector<TGraphicsItem*>& targets, const QVector<TGraphicsItem*>& wires)
+QVector<TGraphicsItem*> TLanding::Connect(const QVector<TGraphicsItem*>& places, const QVector<TGraphicsItem*>& items)
 {
-    return wires.isEmpty() ? ConnectTouching(targets) : ConnectAgain(targets, wires);
-}
-
-QVector<TGraphicsItem*> TLanding::ConnectTouching(const QVector<TGraphicsItem*>& targets)
-{
-    // An end that lies on several targets goes to the one whose centre is nearest.
-    QHash<End, Touch> nearest;
-    for (TGraphicsItem* target : targets) {
-        const QVector<TGraphicsSectionItem*> near = WiresNear(*target);
-        for (TGraphicsSectionItem* wire : near) {
-            for (const LinkEnd end : bothEnds) {
-                const std::optional<Touch> touch = wire->Link(end) ? std::nullopt : TouchOf(wire, end, target);
-                const auto known = nearest.constFind(KeyOf(wire, end));
-                if (touch && (known == nearest.cend() || touch->squareDistance < known->squareDistance)) {
-                    nearest.insert(KeyOf(wire, end), *touch);
-                }
-            }
+    TConnections linked;
+    if (items.isEmpty()) {
+        linked = WireContacts::Free(places) + PinContacts::Free(places);
+        std::for_each(linked.cbegin(), linked.cend(), Link);
+        return memory.ListOf(linked);
+    }
+    const TConnections known = memory.Behind(items);
+    for (int i = 0; i < items.size(); ++i) {
+        const auto ofList = Known(known, i, places);
+        const auto wanted = ofList ? ofList : GuessFree(items.at(i), places);
+        if (wanted && !IsLinked(*wanted)) {
+            Link(*wanted);
+            linked.append(*wanted);
         }
     }
-    QVector<Touch> touches;
-    touches.reserve(nearest.size());
-    std::copy(nearest.cbegin(), nearest.cend(), std::back_inserter(touches));
-    std::sort(touches.begin(), touches.end(), [](const Touch& left, const Touch& right) {
-        const auto order = [](const Touch& touch) {
-            return std::make_tuple(touch.target->DesignOrder(), touch.wire->DesignOrder(), touch.end);
-        };
-        return order(left) < order(right);
-    });
-    QVector<TGraphicsItem*> linked;
-    for (const Touch& touch : qAsConst(touches)) {
-        touch.wire->LinkTo(touch.end, touch.target);
-        memory.Note(touch.wire, TConnectionMemory::Change::Linked, {touch.end, touch.target});
-        linked.append(touch.wire);
-    }
-    return linked;
+    return memory.ListOf(linked);
 }
 
-QVector<TGraphicsItem*> TLanding::ConnectAgain(const QVector<TGraphicsItem*>& targets,
-                                               const QVector<TGraphicsItem*>& wires)
+QVector<TGraphicsItem*> TLanding::Disconnect(const QVector<TGraphicsItem*>& places,
+                                             const QVector<TGraphicsItem*>& items)
 {
-    QVector<TGraphicsItem*> linked;
-    for (TGraphicsItem* item : wires) {
-        auto* wire = dynamic_cast<TGraphicsSectionItem*>(item);
-        std::optional<Place> place = wire ? PlaceItWasCutFrom(wire, targets) : std::nullopt;
-        if (wire && !place) {
-            place = PlaceItTouches(wire, targets);
-            if (place) {
-                memory.Note(wire, TConnectionMemory::Change::Linked, {place->end, place->target});
-            }
-        }
-        if (place) {
-            wire->LinkTo(place->end, place->target);
-            linked.append(wire);
+    TConnections cut;
+    if (items.isEmpty()) {
+        cut = WireContacts::Linked(places) + PinContacts::Linked(places);
+        std::for_each(cut.cbegin(), cut.cend(), Cut);
+        return memory.ListOf(cut);
+    }
+    const TConnections known = memory.Behind(items);
+    for (int i = 0; i < items.size(); ++i) {
+        const auto ofList = Known(known, i, places);
+        const auto wanted = ofList ? ofList : GuessLinked(items.at(i), places);
+        if (wanted && IsLinked(*wanted)) {
+            Cut(*wanted);
+            cut.append(*wanted);
         }
     }
-    return linked;
+    return memory.ListOf(cut);
 }
 
-std::optional<TLanding::Place> TLanding::PlaceItWasCutFrom(TGraphicsSectionItem* wire,
-                                                           const QVector<TGraphicsItem*>& targets)
+std::optional<TConnection> TLanding::GuessFree(TGraphicsItem* item, const Places& places) const
 {
-    // What it was cut from gets it back even if it has been linked elsewhere since, or does not touch any more; but
-    // what touches comes first, and then a free end.
-    struct Rank
-    {
-        bool touches;
-        bool isFree;
+    TGraphicsSectionItem* wire = AsWire(item);
+    TGraphicsPinItem* pin = AsPin(item);
+    if (!wire && !pin) {
+        return {};
+    }
+    // What touches with a free end comes first. But what it was linked with gets it back even if it is linked elsewhere
+    // by now, or does not touch any more.
+    const auto wasHere = [&](const TConnection& former) {
+        return places.contains(former.place) && (pin ? !IsLinked(former) : !places.contains(wire->Link(former.end)));
     };
-    for (const Rank& wanted : {Rank{true, true}, Rank{true, false}, Rank{false, true}, Rank{false, false}}) {
-        TGraphicsItem* target = nullptr;
-        const auto suits = [&](const TConnectionMemory::Place& cut) {
-            const auto found = std::find(targets.cbegin(), targets.cend(), cut.target);
-            target = found == targets.cend() || wire->Link(cut.end) == *found ? nullptr : *found;
-            return target && (wire->Link(cut.end) == nullptr) == wanted.isFree
-                   && TouchOf(wire, cut.end, target).has_value() == wanted.touches;
-        };
-        const auto cut = memory.Take(wire, TConnectionMemory::Change::Cut, suits);
-        if (cut) {
-            return Place{cut->end, target};
+    const auto wasHereAndTouches = [&](const TConnection& former) {
+        return wasHere(former) && (pin || (!wire->Link(former.end) && WireContacts::Touch(former)));
+    };
+    auto found = memory.Latest(item, wasHereAndTouches);
+    found = found ? found : memory.Latest(item, wasHere);
+    return found ? found : pin ? PinContacts::Nearest(pin, places) : WireContacts::Nearest(wire, places);
+}
+
+std::optional<TConnection> TLanding::GuessLinked(TGraphicsItem* item, const Places& places) const
+{
+    TGraphicsSectionItem* wire = AsWire(item);
+    TGraphicsPinItem* pin = AsPin(item);
+    const auto isHere = [&places](const TConnection& made) { return places.contains(made.place) && IsLinked(made); };
+    if (const auto found = wire || pin ? memory.Latest(item, isHere) : std::nullopt) {
+        return found;
+    }
+    if (pin) {
+        const auto place = std::find_if(places.cbegin(), places.cend(),
+                                        [pin](TGraphicsItem* each) { return pin->LinkedPins().contains(AsPin(each)); });
+        return place == places.cend() ? std::nullopt : std::make_optional(TConnection{item, LinkEnd::First, *place});
+    }
+    for (const LinkEnd end : {LinkEnd::First, LinkEnd::Last}) {
+        if (wire && places.contains(wire->Link(end))) {
+            return TConnection{item, end, wire->Link(end)};
         }
     }
     return {};
-}
-
-std::optional<TLanding::Place> TLanding::PlaceItTouches(TGraphicsSectionItem* wire,
-                                                        const QVector<TGraphicsItem*>& targets)
-{
-    std::optional<Touch> nearest;
-    for (const LinkEnd end : bothEnds) {
-        for (TGraphicsItem* target : targets) {
-            const std::optional<Touch> touch = wire->Link(end) ? std::nullopt : TouchOf(wire, end, target);
-            if (touch && (!nearest || touch->squareDistance < nearest->squareDistance)) {
-                nearest = touch;
-            }
-        }
-    }
-    return nearest ? std::make_optional(Place{nearest->end, nearest->target}) : std::nullopt;
-}
-
-void TLanding::Cut(TGraphicsSectionItem* wire, LinkEnd end)
-{
-    memory.Note(wire, TConnectionMemory::Change::Cut, {end, wire->Link(end)});
-    wire->Unlink(end);
-}
-
-QVector<TGraphicsItem*> TLanding::Disconnect(const QVector<TGraphicsItem*>& targets,
-                                             const QVector<TGraphicsItem*>& wires)
-{
-    QVector<TGraphicsItem*> cut;
-    if (wires.isEmpty()) {
-        for (TGraphicsItem* target : targets) {
-            const QVector<TGraphicsItem*> links = target->Links();
-            for (TGraphicsItem* link : links) {
-                if (auto* wire = dynamic_cast<TGraphicsSectionItem*>(link)) {
-                    Cut(wire, wire->FirstLink() == target ? LinkEnd::First : LinkEnd::Last);
-                    cut.append(wire);
-                }
-            }
-        }
-        return cut;
-    }
-    const QSet<TGraphicsItem*> landings(targets.cbegin(), targets.cend());
-    for (TGraphicsItem* item : wires) {
-        auto* wire = dynamic_cast<TGraphicsSectionItem*>(item);
-        const auto isLinked = [&](const TConnectionMemory::Place& linked) {
-            return wire->Link(linked.end) == linked.target && landings.contains(wire->Link(linked.end));
-        };
-        if (!wire) {
-            continue;
-        }
-        if (const auto linked = memory.Take(wire, TConnectionMemory::Change::Linked, isLinked)) {
-            wire->Unlink(linked->end);
-        } else if (landings.contains(wire->FirstLink())) {
-            Cut(wire, LinkEnd::First);
-        } else if (landings.contains(wire->LastLink())) {
-            Cut(wire, LinkEnd::Last);
-        } else {
-            continue;
-        }
-        cut.append(wire);
-    }
-    return cut;
 }

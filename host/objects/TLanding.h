@@ -2,46 +2,34 @@
 
 #include <objects/TConnectionMemory.h>
 
-#include <QVector>
-
-#include <optional>
-
-class TGraphicsSectionItem;
-
 /**
- * Links the free ends of the wires of a design to copper that they end on, and cuts them from it: what a package does
- * with its pads, and a net tie with itself. A part of that item.
+ * Links what ends on the places of a symbol or package, its pins or pads, and cuts it from them: wires, and pins of
+ * other symbols. A part of that item, or of a net tie, which is a place by itself.
  *
- * It remembers from which copper a wire's end was cut, so that linking the same wires again gives each end the copper
- * that it had, even where several pads lie there; and which end it linked, so that just that one is cut again.
+ * It returns what it linked or cut as a list of items, once for each link. When such a list is given back, just these
+ * links are made or cut again: each end gets the place that it had, even where several lie there.
  */
 class TLanding
 {
 public:
-    /**
-     * Links wires to the targets and returns them, once for each end. With @p wires empty these are all wires of the
-     * targets' scene with a free end on a target's copper; otherwise exactly the given ones, with one end for each
-     * occurrence: one that was cut from a target before, or else one that ends there.
-     */
-    QVector<TGraphicsItem*> Connect(const QVector<TGraphicsItem*>& targets, const QVector<TGraphicsItem*>& wires);
+    /** With @p items empty links all that touches a place: free ends of wires, each with the place that is nearest, and
+     *  pins with all pins. Otherwise exactly the given items, once for each occurrence. Of a list that was not
+     *  returned by one of these functions: with what the item was linked before, or else with what it touches. */
+    QVector<TGraphicsItem*> Connect(const QVector<TGraphicsItem*>& places, const QVector<TGraphicsItem*>& items);
 
-    /** Cuts all wires, or exactly the given ones with one end for each occurrence, from the targets, and returns them
-     *  once for each end, in the order of the targets and their links. Of a given wire the end that was linked here
-     * last is cut, or else the first end before the last. */
-    QVector<TGraphicsItem*> Disconnect(const QVector<TGraphicsItem*>& targets, const QVector<TGraphicsItem*>& wires);
+    /** With @p items empty cuts all from the places, in the order of the places and their links. Otherwise exactly the
+     *  given items, once for each occurrence. Of a list that was not returned by one of these functions: the link that
+     *  was made here last, or else the first end before the last. */
+    QVector<TGraphicsItem*> Disconnect(const QVector<TGraphicsItem*>& places, const QVector<TGraphicsItem*>& items);
+
+    /** How many lists can be given back. */
+    int Remembered() const { return memory.Size(); }
 
 private:
-    struct Place
-    {
-        TGraphicsItem::LinkEnd end;
-        TGraphicsItem* target;
-    };
+    using Places = QVector<TGraphicsItem*>;
 
-    QVector<TGraphicsItem*> ConnectTouching(const QVector<TGraphicsItem*>& targets);
-    QVector<TGraphicsItem*> ConnectAgain(const QVector<TGraphicsItem*>& targets, const QVector<TGraphicsItem*>& wires);
-    std::optional<Place> PlaceItWasCutFrom(TGraphicsSectionItem* wire, const QVector<TGraphicsItem*>& targets);
-    static std::optional<Place> PlaceItTouches(TGraphicsSectionItem* wire, const QVector<TGraphicsItem*>& targets);
-    void Cut(TGraphicsSectionItem* wire, TGraphicsItem::LinkEnd end);
+    std::optional<TConnection> GuessFree(TGraphicsItem* item, const Places& places) const;
+    std::optional<TConnection> GuessLinked(TGraphicsItem* item, const Places& places) const;
 
     TConnectionMemory memory;
 };

@@ -3,6 +3,7 @@
 
 #include <graphics/TGraphicsTextItem.h>
 #include <objects/TGraphicsRatLineItem.h>
+#include <objects/TLanding.h>
 
 namespace {
 
@@ -116,6 +117,73 @@ private slots:
         package->Disconnect({});
         QCOMPARE(package->Connect({}).size(), 2);
         QCOMPARE(toLarge->FirstLink(), small);
+    }
+
+    // Lists of the same wires, each for the links that it was returned for.
+    void aListStandsForTheLinksThatItWasReturnedFor()
+    {
+        Test::Network board;
+        const Part part(board);
+        part.left->setPos(0, 0); // Within the pad through the board.
+        TGraphicsWireItem* wire = board.Wire({2, 0}, {3, 0});
+        QVector<Items> lists;
+        const QVector<QPair<TGraphicsItem::LinkEnd, TGraphicsPadItem*>> places{
+            {TGraphicsItem::LinkEnd::First, part.left},
+            {TGraphicsItem::LinkEnd::Last, part.through},
+            {TGraphicsItem::LinkEnd::First, part.through},
+            {TGraphicsItem::LinkEnd::Last, part.left}};
+        for (const auto& [end, pad] : places) {
+            wire->LinkTo(end, pad);
+            lists.append(part.package->Disconnect({}));
+            QCOMPARE(lists.last(), Items{wire});
+        }
+        for (const int index : {2, 0, 3, 1, 2}) {
+            QCOMPARE(part.package->Connect(lists[index]), Items{wire});
+            QCOMPARE(wire->Link(places[index].first), places[index].second);
+            QCOMPARE(wire->Links().size(), 1);
+            QCOMPARE(part.package->Connect(lists[index]), Items());              // It is there.
+            QCOMPARE(part.package->Disconnect(lists[(index + 1) % 4]), Items()); // Another link.
+            QCOMPARE(part.package->Disconnect(lists[index]), Items{wire});
+        }
+        // A list that was put together by hand: what was linked here before, or else what touches.
+        QCOMPARE(part.package->Connect(Items{wire, wire, wire}), (Items{wire, wire}));
+        QCOMPARE(wire->Links().size(), 2);
+        QCOMPARE(part.package->Disconnect(Items{wire}), Items{wire});
+        QCOMPARE(part.package->Disconnect(Items{wire, wire}), Items{wire});
+    }
+
+    void aPadThatIsGoneLeavesItsWiresToTheOthers()
+    {
+        Test::Network board;
+        const Part part(board);
+        part.left->setPos(0, 0);
+        TGraphicsWireItem* wire = board.Wire({0, 0}, {0, 300});
+        wire->LinkToFirst(part.left);
+        const Items cut = part.package->Disconnect({});
+        delete part.left;
+        QCOMPARE(part.package->Connect(cut), Items{wire});
+        QCOMPARE(wire->FirstLink(), part.through);
+    }
+
+    void remembersTheListsThatSomebodyHolds()
+    {
+        Test::Network board;
+        const Part part(board);
+        board.Wire({-100, 0}, {100, 0});
+        TLanding landing;
+        const Items pads = part.package->Pads();
+        QVector<Items> held;
+        for (int round = 0; round < 100; ++round) {
+            landing.Connect(pads, {});
+            held.append(landing.Disconnect(pads, {}));
+            landing.Connect(pads, Items(held.last())); // A copy is as good.
+            landing.Disconnect(pads, {});
+        }
+        QVERIFY(landing.Remembered() >= 100);
+        QVERIFY(landing.Remembered() <= 102);
+        held.clear();
+        landing.Connect(pads, {});
+        QVERIFY(landing.Remembered() < 10); // Whoever has shortened a list may still come with it.
     }
 
     void changingTheSideMirrorsThePadsAndComesBack()

@@ -6,6 +6,8 @@
 
 #include <functional>
 
+#include <functional>
+
 using Layer = Osmirel::Layer;
 using Layers = QList<Osmirel::Layer>;
 using Pad = TGraphicsPadItem;
@@ -159,6 +161,98 @@ private slots:
         QVERIFY(via->StateLine() != before);
         via->SetViaGroup(pair);
         QCOMPARE(via->StateLine(), before);
+    }
+
+    // Layers that are none of a drill pair's come back with the name that they went with, through any other names.
+    void layersOfNoDrillPairComeBack_data()
+    {
+        QTest::addColumn<QString>("pair");
+        QTest::newRow("of a known one") << "Top - Bottom";
+        QTest::newRow("of an unknown one") << "as drilled";
+        QTest::newRow("of none") << "";
+    }
+    void layersOfNoDrillPairComeBack()
+    {
+        QFETCH(QString, pair);
+        Test::TestBoard board;
+        Via* via = board.AddVia(0.6, 0.3, pair);
+        via->SetLayers(Osmirel::Copper2, Osmirel::Copper3);
+        QStringList states{via->StateLine()};
+        const QStringList names{pair, "Top - Inner 1", "no such pair", "Top - Inner 1", "Top - Bottom"};
+        for (int i = 1; i < names.size(); ++i) {
+            via->SetViaGroup(names[i]);
+            states.append(via->StateLine());
+        }
+        via->SetViaGroup(names.last()); // The same again.
+        QCOMPARE(via->StateLine(), states.last());
+        for (int i = names.size() - 1; i > 0; --i) {
+            via->SetViaGroup(names[i - 1]);
+            QCOMPARE(via->StateLine(), states[i - 1]);
+        }
+        via->SetViaGroup(pair);
+        QCOMPARE(via->StateLine(), states.first());
+    }
+
+    void padsOfSomeLayersComeBack_data()
+    {
+        QTest::addColumn<Layer>("start");
+        QTest::addColumn<Layer>("end");
+        for (const Layer start : {Osmirel::CopperTop, Osmirel::Copper2, Osmirel::Copper3, Osmirel::CopperBottom}) {
+            for (const Layer end : {Osmirel::CopperTop, Osmirel::Copper2, Osmirel::Copper3, Osmirel::CopperBottom}) {
+                QTest::addRow("%d to %d", start, end) << start << end;
+            }
+        }
+    }
+    // Changes of type and side, taken back one after the other.
+    void padsOfSomeLayersComeBack()
+    {
+        QFETCH(Layer, start);
+        QFETCH(Layer, end);
+        Test::TestBoard board;
+        Pad* pad = board.AddThroughPad();
+        pad->SetLayers(start, end);
+        QVector<std::function<void()>> takeBack;
+        QStringList states;
+        const auto becomes = [&](bool smd) {
+            states.append(pad->StateLine());
+            takeBack.append([pad, former = pad->IsSMD()] { pad->SetTypeSMD(former); });
+            pad->SetTypeSMD(smd);
+            QCOMPARE(pad->IsSMD(), smd);
+        };
+        const auto goesTo = [&](Layer side) {
+            states.append(pad->StateLine());
+            takeBack.append([pad, former = pad->EndLayer()] { pad->SetPadSide(former); });
+            pad->SetPadSide(side);
+        };
+        for (const Layer side : {Osmirel::Copper3, Osmirel::CopperBottom, Osmirel::Copper2}) {
+            becomes(false);
+            becomes(true);
+            goesTo(side);
+            becomes(true);
+            becomes(false);
+            goesTo(Osmirel::CopperTop);
+        }
+        pad->Flip();
+        pad->Flip();
+        while (!states.isEmpty()) {
+            takeBack.takeLast()();
+            QCOMPARE(pad->StateLine(), states.takeLast());
+        }
+        QCOMPARE(pad->StartLayer(), start);
+        QCOMPARE(pad->EndLayer(), end);
+    }
+
+    // On the other side it is the opposite layer that it comes back to.
+    void theFormerLayersTurnOverWithThePad()
+    {
+        Test::TestBoard board;
+        Pad* pad = board.AddThroughPad();
+        pad->SetLayers(Osmirel::CopperTop, Osmirel::Copper2);
+        pad->SetTypeSMD(true);
+        pad->Flip();
+        pad->SetTypeSMD(false);
+        QCOMPARE(pad->StartLayer(), Osmirel::CopperBottom);
+        QCOMPARE(pad->EndLayer(), Osmirel::OppositeLayer(Osmirel::Copper2));
     }
 
     void etchLayersAreThoseOfTheBoard()

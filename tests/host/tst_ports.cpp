@@ -129,8 +129,9 @@ private slots:
         QTest::newRow("another port") << 1;
         QTest::newRow("a wire more") << 2;
         QTest::newRow("a wire less") << 3;
-        QTest::newRow("another name in between") << 4;
-        QTest::newRow("a wire renamed in between") << 5;
+        QTest::newRow("another wire in the place of one") << 4;
+        QTest::newRow("another name in between") << 5;
+        QTest::newRow("a wire renamed in between") << 6;
     }
     void onlyTheSameRenamingIsTakenBack()
     {
@@ -139,13 +140,14 @@ private slots:
         design.wire->SetNet("W"); // Of another name than what it is wired to.
         design.port->SetName("B", {});
         TGraphicsPortItem* port = difference == 1 ? design.second : design.port;
-        if (difference == 2) {
+        if (difference == 2 || difference == 4) {
             design.sheet.Wire({50, 0}, {50, 50}, "B")->LinkToFirst(design.junction);
-        } else if (difference == 3) {
+        }
+        if (difference == 3 || difference == 4) {
             design.further->UnlinkFrom(design.second->Pin());
-        } else if (difference == 4) {
-            design.second->SetName("C", {});
         } else if (difference == 5) {
+            design.second->SetName("C", {});
+        } else if (difference == 6) {
             design.further->SetNet("X");
         }
         port->SetName("A", {});
