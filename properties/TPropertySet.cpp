@@ -1,6 +1,7 @@
 #include "properties/TPropertySet.h"
 
 #include "properties/rows/TAbstractProperty.h"
+#include "properties/rows/TWidgetHold.h"
 #include "properties/TPropertyWidget.h"
 #include "properties/TTreeWidget.h"
 
@@ -8,19 +9,43 @@
 
 #include <QMetaMethod>
 
+#include <deque>
+
 TPropertySet::TPropertySet(const QString& setName) : name(setName) {}
 
 TPropertySet::~TPropertySet()
 {
+    if (panel) {
+        panel->Forget(*this);
+    }
     // Silence all rows first: an editor that loses the focus with its row would else report half-typed text.
     for (const QPointer<TAbstractProperty>& row : qAsConst(owned)) {
         if (row) {
             row->blockSignals(true);
         }
     }
+    HideEditors();
     const QList<QPointer<TAbstractProperty>> rows = owned;
     for (const QPointer<TAbstractProperty>& row : rows) {
         delete row;
+    }
+}
+
+// Before the rows are deleted, and with them the tree is at work: the focus moves from editor to editor and out of the
+// tree, and whoever hears of that may do anything to both.
+void TPropertySet::HideEditors() const
+{
+    const QList<TAbstractProperty*> shown = Properties();
+    QList<QPointer<QWidget>> editors;
+    std::deque<TWidgetHold> holds;
+    for (const TAbstractProperty* row : shown) {
+        editors.append(row->Editor());
+        holds.emplace_back(row->Editor());
+    }
+    for (const QPointer<QWidget>& editor : qAsConst(editors)) {
+        if (editor && editor->parent()) {
+            editor->hide();
+        }
     }
 }
 
@@ -62,11 +87,16 @@ QList<TAbstractProperty*> TPropertySet::Properties() const
 
 void TPropertySet::AddToPropertyWidget(TPropertyWidget* newPanel)
 {
-    if (!newPanel) {
+    if (!newPanel || panel) {
         return;
     }
     panel = newPanel;
+    const QPointer<TPropertySet> self(this);
     newPanel->SetTitle(name.isNull() ? QLatin1String("") : name);
+    if (!self || !panel) { // Whoever watches the title may show another set.
+        return;
+    }
+    TakeUnshownEditors();
 
     // All items first and the editors then: each item that is inserted makes the tree measure every editor again.
     TTreeWidget* tree = newPanel->Tree();
@@ -90,6 +120,15 @@ void TPropertySet::AddToPropertyWidget(TPropertyWidget* newPanel)
     tree->resizeColumnToContents(TAbstractProperty::labelColumn);
 }
 
+void TPropertySet::TakeUnshownEditors()
+{
+    for (const QPointer<TAbstractProperty>& row : qAsConst(owned)) {
+        if (row && row->Editor() && !row->Editor()->parent() && !properties.contains(row)) {
+            row->KeepEditorIn(panel);
+        }
+    }
+}
+
 void TPropertySet::PlaceEditor(TAbstractProperty& row, int height) const
 {
     row.Editor()->setFixedHeight(height);
@@ -100,7 +139,7 @@ void TPropertySet::PlaceEditor(TAbstractProperty& row, int height) const
 
 void TPropertySet::Emit(TUndoCommand* command)
 {
-    if (isSignalConnected(QMetaMethod::fromSignal(&TPropertySet::sigCmd))) {
+    if (!signalsBlocked() && isSignalConnected(QMetaMethod::fromSignal(&TPropertySet::sigCmd))) {
         emit sigCmd(command);
     } else {
         delete command;

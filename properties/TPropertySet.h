@@ -44,11 +44,12 @@ public:
     /** The shown rows in display order. */
     QList<TAbstractProperty*> Properties() const;
 
-    /** Puts the rows into the panel's tree and titles the panel. Called by the panel. */
+    /** Puts the rows into the panel's tree and titles the panel. Called by the panel; a second time it does nothing. */
     void AddToPropertyWidget(TPropertyWidget* panel);
 
-signals:
-    /** A new command, owned by the receiver. Without a receiver the command is deleted and nothing changes. */
+Q_SIGNALS:
+    /** A new command, owned by the receiver. Without a receiver, and while signals are blocked, the command is deleted
+     *  and nothing changes. A receiver may show another set, run a dialog or delete the panel. */
     void sigCmd(TUndoCommand* cmd);
 
 protected:
@@ -65,6 +66,9 @@ protected:
      * The editing protocol: makes and emits a @p Command over the items with the value as the editor gave it, or, when
      * the first item bypasses undo, writes the value to every item just as the command would. Without items nothing
      * happens.
+     *
+     * Items, and receivers of the command, can call back: when an edit returns, the set may be gone. So the items are
+     * taken as a list of their own, and a direct write reaches all of them whatever is shown by then.
      */
     template <class Command, class Item, class Value>
     void Edit(const QList<Item*>& items, const Value& value)
@@ -93,9 +97,16 @@ protected:
         }
         if (!items.first()->HasTFlag(TGraphicsItem::UndoBypass)) {
             Emit(make());
-            return;
+        } else {
+            WriteAll(items, write);
         }
-        for (Item* item : items) {
+    }
+
+    /** Writes to every item at once, without a command. */
+    template <class Item, class Write>
+    static void WriteAll(QList<Item*> items, Write write)
+    {
+        for (Item* item : qAsConst(items)) {
             write(*item);
         }
     }
@@ -105,6 +116,9 @@ protected:
 
 private:
     void Own(TAbstractProperty* row);
+    void HideEditors() const;
+    /** Hides the editors of rows that are not shown in the panel, which else are top-level widgets. */
+    void TakeUnshownEditors();
     void PlaceEditor(TAbstractProperty& row, int height) const;
 
     QString name;

@@ -1,11 +1,14 @@
 #include "properties/TPropertyWidget.h"
 
 #include "properties/rows/TAbstractProperty.h"
+#include "properties/rows/TWidgetHold.h"
 #include "properties/TPropertySet.h"
 #include "properties/TTreeWidget.h"
 
 #include <QHeaderView>
 #include <QVBoxLayout>
+
+#include <utility>
 
 TPropertyWidget::TPropertyWidget(QWidget* parent) : QWidget(parent), tree(new TTreeWidget)
 {
@@ -25,18 +28,41 @@ TPropertyWidget::TPropertyWidget(QWidget* parent) : QWidget(parent), tree(new TT
 
 TPropertyWidget::~TPropertyWidget()
 {
-    delete current;
+    if (tree) {
+        TWidgetHold::Rescue(tree);
+    }
+    while (current) {
+        delete std::exchange(current, {}).data();
+    }
+    if (tree) {
+        tree->clear(); // Rows of a set whose destruction has led here.
+    }
 }
 
 void TPropertyWidget::SetPropertySet(TPropertySet* set)
 {
+    const QPointer<TPropertyWidget> self(this);
     const QPointer<TPropertySet> next(set);
-    delete current;
-    current = next;
+    delete std::exchange(current, next).data();
+    if (!self || current != next) {
+        return;
+    }
     SetTitle(QString());
-    if (current) {
+    if (self && current && current == next) {
         current->AddToPropertyWidget(this);
     }
+}
+
+void TPropertyWidget::Forget(const TPropertySet& set)
+{
+    if (current == &set) {
+        current.clear();
+    }
+}
+
+TTreeWidget* TPropertyWidget::Tree() const
+{
+    return tree;
 }
 
 TPropertySet* TPropertyWidget::PropertySet() const
@@ -64,8 +90,11 @@ QSize TPropertyWidget::sizeHint() const
 
 void TPropertyWidget::slotClickItem(QTreeWidgetItem* item, int)
 {
-    QWidget* editor = item ? tree->itemWidget(item, TAbstractProperty::editorColumn) : nullptr;
+    QWidget* editor = item && tree ? tree->itemWidget(item, TAbstractProperty::editorColumn) : nullptr;
     if (editor) {
+        // Whoever hears of the focus may delete the panel, and both are at work.
+        const TWidgetHold treeHold(tree);
+        const TWidgetHold editorHold(editor);
         editor->setFocus(Qt::OtherFocusReason);
     }
 }

@@ -19,11 +19,14 @@ class PROPERTIES_EXPORT TPropertyWidget : public QWidget
 
 public:
     explicit TPropertyWidget(QWidget* parent);
-    /** Deletes the shown set. */
+    /** Deletes the shown set. A set that the panel is given meanwhile is deleted with it. */
     ~TPropertyWidget() override;
 
     /**
      * Deletes the shown set and shows another, which the panel owns from then on; null shows none.
+     *
+     * Deleting a set moves the focus and tells of its end. A handler of either may call this in turn, or delete the
+     * panel: the last call wins, and @p set is then gone when this returns.
      *
      * A set that is shown must not be given again: it is deleted like any shown set, and the panel is then empty.
      */
@@ -33,7 +36,7 @@ public:
     TPropertySet* PropertySet() const;
 
     /** The tree that holds the rows; owned by the panel. */
-    TTreeWidget* Tree() const { return tree; }
+    TTreeWidget* Tree() const;
 
     /** Puts the panel's own window title into the current language. */
     void UpdateTranslate();
@@ -43,11 +46,15 @@ public:
 
     QSize sizeHint() const override;
 
-private slots:
+private Q_SLOTS:
     /** Gives the keyboard focus to the editor of a clicked row. */
     void slotClickItem(QTreeWidgetItem* item, int column);
 
 private:
-    TTreeWidget* tree;
+    friend class TPropertySet;
+    /** Told by a set whose destruction begins: the panel must not delete it once more. */
+    void Forget(const TPropertySet& set);
+
+    QPointer<TTreeWidget> tree;
     QPointer<TPropertySet> current;
 };

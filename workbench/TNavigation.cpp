@@ -1,7 +1,6 @@
 #include "workbench/TNavigation.h"
 
 #include "properties/commands/TCmdProjectTree.h"
-#include "workbench/CommandNames.h"
 #include "workbench/TCanvas.h"
 #include "workbench/TDesign.h"
 #include "workbench/TDocumentTabs.h"
@@ -88,7 +87,7 @@ void TNavigation::RenamePart(TPart& part, const QString& name)
 
 void TNavigation::Push(std::unique_ptr<TUndoCommand> command, const QString& what)
 {
-    command->setText(CommandNames::Text(*command, what));
+    command->setText(CommandKind::Phrase(*command, what));
     undoStack.push(command.release());
 }
 

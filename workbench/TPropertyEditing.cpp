@@ -1,9 +1,9 @@
 #include "workbench/TPropertyEditing.h"
 
+#include "properties/commands/CommandKind.h"
 #include "properties/rows/TAbstractProperty.h"
 #include "properties/TPropertySet.h"
 #include "properties/TPropertyWidget.h"
-#include "workbench/CommandNames.h"
 #include "workbench/Kinds.h"
 #include "workbench/TSelection.h"
 
@@ -61,7 +61,7 @@ void TPropertyEditing::Name(TUndoCommand& command) const
     const TKind* kind = Kinds::OfFirst(selection.Items());
     const auto edited = std::count_if(selection.Items().cbegin(), selection.Items().cend(),
                                       [kind](const TGraphicsItem* item) { return !kind || kind->Holds(*item); });
-    command.setText(CommandNames::Text(command, Kinds::Counted(static_cast<int>(edited), kind)));
+    command.setText(CommandKind::Phrase(command, Kinds::Counted(static_cast<int>(edited), kind)));
 }
 
 void TPropertyEditing::Push(std::unique_ptr<TUndoCommand> command)

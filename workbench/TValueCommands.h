@@ -4,23 +4,28 @@
 #include "properties/commands/TCmdPackage.h"
 
 /** One undo step that changes the value of components and that of packages without one. */
-class TValueCommands : public TUndoCommand
+class TValueCommands : public TReversibleCommand
 {
 public:
     TValueCommands(const QList<unsigned short>& components, const QString& value, TProject* project)
         : ofComponents(components, value, project), ofPackages(value, project)
     {}
 
-    void redo() override
+    TCommandKind Kind() const override { return ofComponents.Kind(); }
+
+protected:
+    bool Do() override
     {
         ofComponents.redo();
         ofPackages.redo();
+        return true;
     }
 
-    void undo() override
+    bool Undo() override
     {
         ofPackages.undo();
         ofComponents.undo();
+        return true;
     }
 
 private:

@@ -2,10 +2,14 @@
 
 #include "properties/commands/Units.h"
 
+#include <properties/Export.h>
+
 #include <graphics/TGraphicsItem.h>
 
+#include <optional>
+
 /** Pieces that the attributes of `TAttributeCommand` are put together from. */
-namespace Attributes {
+namespace Attributes PROPERTIES_EXPORT {
 
 /** Keeps the items of the given kinds. */
 template <ItemType::Number... kinds>
@@ -36,13 +40,24 @@ struct Length
     static double FromEditor(double millimetres) { return Units::SceneFromMillimetres(millimetres); }
 };
 
-/** A choice, which the editor gives as a number and the item holds as an enumeration. */
-template <class ItemClass, class Enumeration>
+/** A choice, which the editor gives as a number from the first to the last and the item holds as an enumeration. */
+template <class ItemClass, class Enumeration, int first, int last>
 struct Choice
 {
     using Item = ItemClass;
     using Value = Enumeration;
     static Value FromEditor(int value) { return static_cast<Enumeration>(value); }
+    /** Nothing for a number that is no choice: a command with such a number changes nothing. */
+    static std::optional<Value> Chosen(int value)
+    {
+        return first <= value && value <= last ? std::make_optional(FromEditor(value)) : std::nullopt;
+    }
 };
+
+/** Whether a number is a `Qt::BrushStyle`. */
+constexpr bool IsBrushStyle(int value)
+{
+    return (Qt::NoBrush <= value && value <= Qt::ConicalGradientPattern) || value == Qt::TexturePattern;
+}
 
 } // namespace Attributes

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <properties/Export.h>
+
 /** The ids of the commands that have one, unique in the library. */
 namespace CommandId {
 
-enum Id : int {
+enum PROPERTIES_EXPORT Id : int {
     None = -1,
     PenWidth = 1234,
     PenStyle = 1235,

@@ -16,8 +16,17 @@ TSchematic* ProjectParts::Schematic(const TProject* project)
 
 TNetModel* ProjectParts::NetModel(const TProject* project)
 {
-    TSchematic* schematic = Schematic(project);
+    return NetModel(Schematic(project));
+}
+
+TNetModel* ProjectParts::NetModel(TSchematic* schematic)
+{
     return schematic ? schematic->NetModel() : nullptr;
+}
+
+TCmpModel* ProjectParts::CmpModel(TSchematic* schematic)
+{
+    return schematic ? schematic->CmpModel() : nullptr;
 }
 
 QGraphicsView* ProjectParts::BoardView(const TProject* project)

@@ -4,6 +4,7 @@
 
 class QGraphicsView;
 class TBoard;
+class TCmpModel;
 class TNetModel;
 class TProject;
 class TSchematic;
@@ -14,6 +15,8 @@ namespace ProjectParts {
 TBoard* Board(const TProject* project);
 TSchematic* Schematic(const TProject* project);
 TNetModel* NetModel(const TProject* project);
+TNetModel* NetModel(TSchematic* schematic);
+TCmpModel* CmpModel(TSchematic* schematic);
 QGraphicsView* BoardView(const TProject* project);
 
 /** Whether schematic and board are kept in step. */

@@ -6,6 +6,8 @@
 #include <QList>
 #include <QVector>
 
+#include <optional>
+
 /**
  * The engine of nearly all commands: one attribute, the items that have it, one old value for each and one new value.
  *
@@ -23,47 +25,32 @@
  *
  * The items are not owned and must outlive the command. Items that are not accepted are skipped silently; over no
  * items the command does nothing. Construction, `redo` and `undo` are linear in the items.
+ *
+ * The functions are in `AttributeCommandEngine.h`, for the sources that instantiate the engine: what is exported is
+ * compiled once, in its library.
  */
-template <class AttributeOfItem>
-class TAttributeCommand : public TReversibleCommand
+template <class AttributeOfItem, CommandId::Id commandId = CommandId::None>
+class PROPERTIES_EXPORT TAttributeCommand : public TReversibleCommand
 {
 public:
     using Attribute = AttributeOfItem;
     using Item = typename Attribute::Item;
     using Value = typename Attribute::Value;
 
+    ~TAttributeCommand() override;
+
+    int id() const override;
+
 protected:
-    /** Keeps the accepted ones of @p given with their current values; @p value is as an item holds it. */
+    /** Keeps the accepted ones of @p given with their current values; @p value is as an item holds it. Without a value
+     *  none is kept. */
     template <class GivenItem>
-    TAttributeCommand(const QList<GivenItem*>& given, const Value& value) : newValue(value)
-    {
-        items.reserve(given.size());
-        oldValues.reserve(given.size());
-        for (GivenItem* candidate : given) {
-            if (candidate && Attribute::Accepts(*candidate)) {
-                auto* item = static_cast<Item*>(candidate);
-                items.append(item);
-                oldValues.append(Attribute::Read(*item));
-            }
-        }
-    }
+    TAttributeCommand(const QList<GivenItem*>& given, const std::optional<Value>& value);
 
     /** Writes the new value to every kept item, in order. */
-    void Do() override
-    {
-        for (Item* item : items) {
-            Attribute::Write(*item, newValue);
-        }
-    }
-
+    bool Do() override;
     /** Writes back to every kept item its own old value, in order. */
-    void Undo() override
-    {
-        auto oldValue = oldValues.constBegin();
-        for (Item* item : items) {
-            Attribute::Write(*item, *oldValue++);
-        }
-    }
+    bool Undo() override;
 
     QList<Item*> items;
     QVector<Value> oldValues; ///< Parallel to `items`.
@@ -71,27 +58,19 @@ protected:
 };
 
 /** The rules by which `mergeWith` accepts another command of the same class over the same items in the same order. */
-enum class MergeRule {
-    TakeOver,   ///< Accepts any new value, adopts it and keeps the own old values.
+enum class PROPERTIES_EXPORT MergeRule {
+    TakeOver,   ///< Accepts any new value, adopts it and keeps its own old values.
     EqualValue, ///< Accepts only an equal new value and adopts nothing.
 };
 
-/** A command over one attribute that has an id. */
-template <class Attribute, CommandId::Id commandId>
-class TAttributeCommandWithId : public TAttributeCommand<Attribute>
-{
-public:
-    int id() const override { return commandId; }
-
-protected:
-    using TAttributeCommand<Attribute>::TAttributeCommand;
-};
-
-/** A command over one attribute that has an id and can be merged by a caller that holds both commands. */
+/** A command over one attribute that can be merged by a caller that holds both commands. */
 template <class Attribute, CommandId::Id commandId, MergeRule rule>
-class TMergingCommand : public TAttributeCommandWithId<Attribute, commandId>
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): it is virtual in the base, which depends on the attribute
+class PROPERTIES_EXPORT TMergingCommand : public TAttributeCommand<Attribute, commandId>
 {
 public:
+    ~TMergingCommand() override;
+
     /**
      * Merges with a later command: true when it is one of the same class over the same items in the same order and
      * the rule accepts its new value. Anything else, null too, is refused and changes nothing.
@@ -99,21 +78,9 @@ public:
      * Intended: this does not override the toolkit's function of the same name, so that the undo stack never merges
      * and every edit stays its own undo step.
      */
-    bool mergeWith(const TUndoCommand* other)
-    {
-        const auto* later = dynamic_cast<const TMergingCommand*>(other);
-        if (!later || later->items != this->items) {
-            return false;
-        }
-        if constexpr (rule == MergeRule::EqualValue) {
-            return later->newValue == this->newValue;
-        } else {
-            this->newValue = later->newValue;
-            return true;
-        }
-    }
+    bool mergeWith(const TUndoCommand* other);
     using QUndoCommand::mergeWith;
 
 protected:
-    using TAttributeCommandWithId<Attribute, commandId>::TAttributeCommandWithId;
+    using TAttributeCommand<Attribute, commandId>::TAttributeCommand;
 };

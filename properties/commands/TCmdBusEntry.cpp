@@ -1,25 +1,32 @@
 #include "properties/commands/TCmdBusEntry.h"
 
+#include "properties/commands/TDetachedItem.h"
+
+#include "properties/commands/EachOnce.h"
+
 #include <objects/TGraphicsBusEntryItem.h>
 #include <objects/TGraphicsBusItem.h>
 #include <objects/TGraphicsNetItem.h>
 
-#include <QSet>
-
 TCmdBusEntryDisconnect::TCmdBusEntryDisconnect(const QList<TGraphicsItem*>& selection)
 {
-    QSet<const TGraphicsItem*> known;
-    for (TGraphicsItem* item : selection) {
-        if (!item || item->type() != ItemType::BusEntry || known.contains(item)) {
+    const QList<TGraphicsItem*> once = EachOnce(selection);
+    for (TGraphicsItem* item : once) {
+        if (item->type() != ItemType::BusEntry) {
             continue;
         }
-        known.insert(item);
         auto* entry = static_cast<TGraphicsBusEntryItem*>(item);
         entries.emplace_back(entry);
         buses.append(entry->BusLink());
         nets.append(entry->NetLink());
         isFirstLink.append(entry->NetLink() && entry->NetLink()->FirstLink() == entry);
     }
+}
+
+TCommandKind TCmdBusEntryDisconnect::Kind() const
+{
+    return {"BusEntryDisconnect", QT_TRANSLATE_NOOP("TCommandKind", "Disconnect %1"),
+            QT_TRANSLATE_NOOP("TCommandKind", "bus entries")};
 }
 
 TCmdBusEntryDisconnect::~TCmdBusEntryDisconnect() = default;
@@ -30,24 +37,24 @@ bool TCmdBusEntryDisconnect::mergeWith(const TUndoCommand* other)
     return later && later->entries.empty();
 }
 
-void TCmdBusEntryDisconnect::Do()
+bool TCmdBusEntryDisconnect::Do()
 {
     for (auto& detached : entries) {
         TGraphicsBusEntryItem* entry = detached.Get();
         entry->UnlinkFromBus();
         entry->UnlinkFromNet();
-        if (entry->Owner()) {
-            detached.Detach();
-        }
+        detached.Detach();
     }
+    return true;
 }
 
-void TCmdBusEntryDisconnect::Undo()
+bool TCmdBusEntryDisconnect::Undo()
 {
     for (int i = 0; i < buses.size(); ++i) {
         entries[static_cast<std::size_t>(i)].Attach();
         LinkAgain(i);
     }
+    return true;
 }
 
 void TCmdBusEntryDisconnect::LinkAgain(int index)

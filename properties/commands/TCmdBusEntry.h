@@ -1,17 +1,20 @@
 #pragma once
 
 #include "properties/commands/CommandIds.h"
-#include "properties/commands/TDetachedItem.h"
 #include "properties/commands/TReversibleCommand.h"
 
 #include <properties/Export.h>
 
+#include <QList>
 #include <QVector>
 
 #include <vector>
 
+template <class Item>
+class TDetachedItem;
 class TGraphicsBusEntryItem;
 class TGraphicsBusItem;
+class TGraphicsItem;
 class TGraphicsNetItem;
 
 /**
@@ -34,9 +37,11 @@ public:
     bool mergeWith(const TUndoCommand* other);
     using QUndoCommand::mergeWith;
 
+    TCommandKind Kind() const override;
+
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 
 private:
     void LinkAgain(int index);

@@ -50,40 +50,52 @@ TCmdCmpValue::TCmdCmpValue(const QList<unsigned short>& ofNumbers, const QString
     std::fill_n(std::back_inserter(newValues), numbers.size(), value);
 }
 
-void TCmdCmpValue::Do()
+TCommandKind TCmdCmpValue::Kind() const
 {
-    SetValue(newValues);
+    return {"CmpValue", QT_TRANSLATE_NOOP("TCommandKind", "Change value of %1"),
+            QT_TRANSLATE_NOOP("TCommandKind", "components")};
 }
 
-void TCmdCmpValue::Undo()
+bool TCmdCmpValue::Do()
 {
-    SetValue(oldValues);
+    return SetValueOfAll(newValues);
+}
+
+bool TCmdCmpValue::Undo()
+{
+    return SetValueOfAll(oldValues);
 }
 
 void TCmdCmpValue::SetValue(const QStringList& values)
 {
+    SetValueOfAll(values);
+}
+
+bool TCmdCmpValue::SetValueOfAll(const QStringList& values)
+{
     TSchematic* schematic = ProjectParts::Schematic(project);
-    if (!schematic) {
-        return;
+    TCmpModel* model = ProjectParts::CmpModel(schematic);
+    if (!model) {
+        return false;
     }
-    TCmpModel& model = *schematic->CmpModel();
     const bool isFirstTime = oldValues.isEmpty();
     TItemsByNumber items;
     AddParts(*schematic, items);
     AddPackages(project, items);
     for (int i = 0; i < numbers.size(); ++i) {
-        TCmpModelItem* component = model.CmpModelItem(numbers.at(i));
+        TCmpModelItem* component = model->CmpModelItem(numbers.at(i));
         if (isFirstTime) { // If it is the old values that are given, each is there before it is written.
             oldValues.append(component ? component->value : QString());
         }
-        if (!component) {
+        if (!component || i >= values.size()) {
             continue;
         }
-        component->value = values.value(i);
+        component->value = values.at(i);
         const QVector<TGraphicsComponentItem*> ofComponent = items.value(numbers.at(i));
         for (TGraphicsComponentItem* item : ofComponent) {
-            item->SetValue(values.value(i));
+            item->SetValue(values.at(i));
         }
     }
-    model.UpdateCount(); // Intended: even when there are no numbers.
+    model->UpdateCount(); // Intended: even when there are no numbers.
+    return true;
 }

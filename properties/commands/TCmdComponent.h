@@ -22,14 +22,20 @@ public:
      */
     TCmdCmpValue(const QList<unsigned short>& numbers, const QString& value, TProject* project);
 
-    /** Writes values, parallel to the components' numbers. The first time, the values so far are kept for undo. */
+    /** Writes values, parallel to the components' numbers, of which the last may be left out. The first time, the
+     * values so far are kept for undo. */
     void SetValue(const QStringList& values);
 
+    TCommandKind Kind() const override;
+
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 
 private:
+    /** False without a schematic. */
+    bool SetValueOfAll(const QStringList& values);
+
     TProject* project;
     QList<unsigned short> numbers;
     QStringList oldValues; ///< Parallel to `numbers` from the first redo on; empty where the model has no component.

@@ -12,17 +12,25 @@ TCmdKeepoutLayEn::TCmdKeepoutLayEn(QList<TGraphicsKeepoutItem*> keepouts, Osmire
     }
 }
 
-void TCmdKeepoutLayEn::Do()
+TCommandKind TCmdKeepoutLayEn::Kind() const
+{
+    return {"KeepoutLayEn", QT_TRANSLATE_NOOP("TCommandKind", "Switch a layer of %1"),
+            QT_TRANSLATE_NOOP("TCommandKind", "keepouts")};
+}
+
+bool TCmdKeepoutLayEn::Do()
 {
     for (TGraphicsKeepoutItem* keepout : qAsConst(items)) {
         keepout->SetLayerEnable(layer, newValue);
     }
+    return true;
 }
 
-void TCmdKeepoutLayEn::Undo()
+bool TCmdKeepoutLayEn::Undo()
 {
     auto oldValue = oldValues.cbegin();
     for (TGraphicsKeepoutItem* keepout : qAsConst(items)) {
         keepout->SetLayerEnable(layer, *oldValue++);
     }
+    return true;
 }

@@ -16,10 +16,11 @@ class PROPERTIES_EXPORT TCmdKeepoutLayEn : public TReversibleCommand
 {
 public:
     TCmdKeepoutLayEn(QList<TGraphicsKeepoutItem*> keepouts, Osmirel::Layer layer, bool enable);
+    TCommandKind Kind() const override;
 
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 
 private:
     QList<TGraphicsKeepoutItem*> items;

@@ -5,7 +5,7 @@
 
 #include <properties/Export.h>
 
-namespace Attributes {
+namespace Attributes PROPERTIES_EXPORT {
 
 /** Whether a part or package is locked. */
 struct Lock : Plain<TGraphicsItem, bool>, OfKind<ItemType::Part, ItemType::Package>
@@ -21,4 +21,5 @@ class PROPERTIES_EXPORT TCmdLock : public TMergingCommand<Attributes::Lock, Comm
 {
 public:
     TCmdLock(const QList<TGraphicsItem*>& selection, bool lock);
+    TCommandKind Kind() const override;
 };

@@ -7,7 +7,7 @@
 
 #include <objects/TGraphicsPadItem.h>
 
-namespace Attributes {
+namespace Attributes PROPERTIES_EXPORT {
 
 /** How far the mask opening of pads and vias reaches beyond the copper: set as a via's, on pads too. */
 struct MaskClearance : Length<TGraphicsViaItem>, OfKind<ItemType::Pad, ItemType::Via>
@@ -53,6 +53,7 @@ class PROPERTIES_EXPORT TCmdMaskClearance
 {
 public:
     TCmdMaskClearance(const QList<TGraphicsItem*>& selection, double millimetres);
+    TCommandKind Kind() const override;
 };
 
 /** Opens or closes the solder mask over pads and vias. */
@@ -60,6 +61,7 @@ class PROPERTIES_EXPORT TCmdMaskEn : public TAttributeCommand<Attributes::MaskEn
 {
 public:
     TCmdMaskEn(const QList<TGraphicsItem*>& selection, bool on);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the paste clearance, in millimetres, of pads. */
@@ -68,6 +70,7 @@ class PROPERTIES_EXPORT TCmdPasteClearance
 {
 public:
     TCmdPasteClearance(const QList<TGraphicsItem*>& selection, double millimetres);
+    TCommandKind Kind() const override;
 };
 
 /** Applies solder paste to pads or leaves it off. */
@@ -75,4 +78,5 @@ class PROPERTIES_EXPORT TCmdPasteEn : public TAttributeCommand<Attributes::Paste
 {
 public:
     TCmdPasteEn(const QList<TGraphicsItem*>& selection, bool on);
+    TCommandKind Kind() const override;
 };

@@ -17,77 +17,132 @@
 TCmdNetClass::TCmdNetClass(const QString& ofNet, const QString& netClass, TProject* ofProject)
     : project(ofProject), net(ofNet), newClass(netClass)
 {
-    if (const TNetModel* model = ProjectParts::NetModel(project)) {
+    KeepOldClass();
+}
+
+bool TCmdNetClass::KeepOldClass()
+{
+    const TNetModel* model = ProjectParts::NetModel(project);
+    if (model && !oldClass) {
         oldClass = model->NetClass(net);
     }
+    return model != nullptr;
 }
 
-void TCmdNetClass::Do()
+TCommandKind TCmdNetClass::Kind() const
 {
+    return {"NetClass", QT_TRANSLATE_NOOP("TCommandKind", "Change net class of %1"),
+            QT_TRANSLATE_NOOP("TCommandKind", "a net")};
+}
+
+bool TCmdNetClass::Do()
+{
+    if (!KeepOldClass()) {
+        return false;
+    }
     SetClass(net, newClass);
+    return true;
 }
 
-void TCmdNetClass::Undo()
+bool TCmdNetClass::Undo()
 {
-    SetClass(net, oldClass);
+    if (!KeepOldClass()) {
+        return false;
+    }
+    SetClass(net, *oldClass);
+    return true;
 }
 
 void TCmdNetClass::SetClass(const QString& ofNet, const QString& netClass)
 {
-    TSchematic* schematic = ProjectParts::Schematic(project);
-    if (schematic && schematic->IsExistNetClass(netClass)) {
-        schematic->NetModel()->SetNetClass(ofNet, netClass);
+    TNetModel* model = ProjectParts::NetModel(project);
+    if (model && ProjectParts::Schematic(project)->IsExistNetClass(netClass)) {
+        model->SetNetClass(ofNet, netClass);
     }
 }
 
 TCmdNetColorSch::TCmdNetColorSch(const QString& ofNet, const QColor& color, TSchematic* ofSchematic)
     : schematic(ofSchematic), net(ofNet), newColor(color)
 {
-    if (schematic) {
-        const TNetModel* model = schematic->NetModel();
+    KeepOldColor();
+}
+
+bool TCmdNetColorSch::KeepOldColor()
+{
+    const TNetModel* model = ProjectParts::NetModel(schematic);
+    if (model && !oldColor) {
         oldColor = model->ColorSch(model->NetRow(net));
     }
+    return model != nullptr;
 }
 
-void TCmdNetColorSch::Do()
+TCommandKind TCmdNetColorSch::Kind() const
 {
-    SetColor(newColor);
+    return {"NetColorSch", QT_TRANSLATE_NOOP("TCommandKind", "Change net colour of %1"),
+            QT_TRANSLATE_NOOP("TCommandKind", "a net")};
 }
 
-void TCmdNetColorSch::Undo()
+bool TCmdNetColorSch::Do()
 {
-    SetColor(oldColor);
-}
-
-void TCmdNetColorSch::SetColor(const QColor& color)
-{
-    if (schematic) {
-        schematic->SetNetColor(net, color);
+    if (!KeepOldColor()) {
+        return false;
     }
+    schematic->SetNetColor(net, newColor);
+    return true;
+}
+
+bool TCmdNetColorSch::Undo()
+{
+    if (!KeepOldColor()) {
+        return false;
+    }
+    schematic->SetNetColor(net, *oldColor);
+    return true;
 }
 
 TCmdNetColorPcb::TCmdNetColorPcb(const QString& ofNet, const QColor& color, TProject* ofProject)
     : project(ofProject), net(ofNet), newColor(color)
 {
-    if (const TNetModel* model = ProjectParts::NetModel(project)) {
+    KeepOldColor();
+}
+
+bool TCmdNetColorPcb::KeepOldColor()
+{
+    const TNetModel* model = ProjectParts::NetModel(project);
+    if (model && !oldColor) {
         oldColor = model->ColorPcb(model->NetRow(net));
     }
+    return model != nullptr;
 }
 
-void TCmdNetColorPcb::Do()
+TCommandKind TCmdNetColorPcb::Kind() const
 {
+    return {"NetColorPcb", QT_TRANSLATE_NOOP("TCommandKind", "Change net colour of %1"),
+            QT_TRANSLATE_NOOP("TCommandKind", "a net")};
+}
+
+bool TCmdNetColorPcb::Do()
+{
+    if (!KeepOldColor()) {
+        return false;
+    }
     SetColor(net, newColor);
+    return true;
 }
 
-void TCmdNetColorPcb::Undo()
+bool TCmdNetColorPcb::Undo()
 {
-    SetColor(net, oldColor);
+    if (!KeepOldColor()) {
+        return false;
+    }
+    SetColor(net, *oldColor);
+    return true;
 }
 
 void TCmdNetColorPcb::SetColor(const QString& ofNet, const QColor& color)
 {
     TNetModel* model = ProjectParts::NetModel(project);
-    if (!model) {
+    if (!model || ofNet.isEmpty()) { // The empty name is no net.
         return;
     }
     model->SetColorPcb(ofNet, color);
@@ -101,36 +156,57 @@ void TCmdNetColorPcb::SetColor(const QString& ofNet, const QColor& color)
 TCmdNetPrio::TCmdNetPrio(const QStringList& ofNets, const QString& level, TProject* ofProject)
     : project(ofProject), nets(ofNets), newLevel(level)
 {
-    if (const TNetModel* model = ProjectParts::NetModel(project)) {
+    nets.removeAll(QString()); // The empty name is no net.
+    KeepOldLevels();
+}
+
+bool TCmdNetPrio::KeepOldLevels()
+{
+    const TNetModel* model = ProjectParts::NetModel(project);
+    if (model && oldLevels.isEmpty()) {
         for (const QString& net : qAsConst(nets)) {
             oldLevels.append(model->Priority(net));
         }
     }
+    return model != nullptr;
 }
 
-void TCmdNetPrio::Do()
+TCommandKind TCmdNetPrio::Kind() const
 {
+    return {"NetPrio", QT_TRANSLATE_NOOP("TCommandKind", "Change net priority of %1"),
+            QT_TRANSLATE_NOOP("TCommandKind", "nets")};
+}
+
+bool TCmdNetPrio::Do()
+{
+    if (!KeepOldLevels()) {
+        return false;
+    }
     QStringList levels;
     levels.reserve(nets.size());
     std::fill_n(std::back_inserter(levels), nets.size(), newLevel);
     SetLevels(levels);
+    return true;
 }
 
-void TCmdNetPrio::Undo()
+bool TCmdNetPrio::Undo()
 {
+    if (!KeepOldLevels()) {
+        return false;
+    }
     SetLevels(oldLevels);
+    return true;
 }
 
 void TCmdNetPrio::SetLevels(const QStringList& levels)
 {
     QHash<QString, QString> levelOfNet;
     for (int i = nets.size() - 1; i >= 0; --i) { // Backwards: of a net that is listed twice the first entry counts.
-        levelOfNet.insert(nets.at(i), levels.value(i));
+        levelOfNet.insert(nets.at(i), levels.at(i));
     }
-    if (TNetModel* model = ProjectParts::NetModel(project)) {
-        for (const QString& net : qAsConst(nets)) {
-            model->SetPriority(net, levelOfNet.value(net));
-        }
+    TNetModel* model = ProjectParts::NetModel(project);
+    for (const QString& net : qAsConst(nets)) {
+        model->SetPriority(net, levelOfNet.value(net));
     }
     for (TGraphicsItem* item : ItemsOfView(ProjectParts::BoardView(project), {ItemType::RatLine})) {
         const auto level = levelOfNet.constFind(item->Net());
@@ -148,14 +224,21 @@ TCmdNetName::TCmdNetName(TGraphicsItem*, const QString& name, TWorkspace* ofWork
     : newName(name), workspace(ofWorkspace), project(ofProject)
 {}
 
-void TCmdNetName::Do()
+TCommandKind TCmdNetName::Kind() const
 {
-    SetNetName(newName);
+    return {"NetName", QT_TRANSLATE_NOOP("TCommandKind", "Rename %1"), QT_TRANSLATE_NOOP("TCommandKind", "a net")};
 }
 
-void TCmdNetName::Undo()
+bool TCmdNetName::Do()
+{
+    SetNetName(newName);
+    return true;
+}
+
+bool TCmdNetName::Undo()
 {
     SetNetName(oldName);
+    return true;
 }
 
 void TCmdNetName::SetNetName(const QString& name)
@@ -174,3 +257,9 @@ void TCmdNetName::SetNetNameOnPcb(const QString&) {}
 TCmdFragmName::TCmdFragmName(TGraphicsItem* item, const QString& name, TWorkspace* ofWorkspace, TProject* ofProject)
     : TCmdNetName(item, name, ofWorkspace, ofProject)
 {}
+
+TCommandKind TCmdFragmName::Kind() const
+{
+    return {"FragmName", QT_TRANSLATE_NOOP("TCommandKind", "Rename a fragment of %1"),
+            QT_TRANSLATE_NOOP("TCommandKind", "a net")};
+}

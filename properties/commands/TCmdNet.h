@@ -8,6 +8,8 @@
 #include <QList>
 #include <QStringList>
 
+#include <optional>
+
 class TGraphicsItem;
 class TProject;
 class TSchematic;
@@ -22,15 +24,20 @@ public:
     /** Writes the class to the net model if the project has a schematic that knows it. */
     void SetClass(const QString& ofNet, const QString& netClass);
 
+    TCommandKind Kind() const override;
+
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 
 private:
+    /** Reads the old class, unless that was done before. False without a net model. */
+    bool KeepOldClass();
+
     TProject* project;
     QString net;
     QString newClass;
-    QString oldClass;
+    std::optional<QString> oldClass; ///< Of the moment when the command was made, or when it could act first.
 };
 
 /** Gives a net another colour in its schematic; an invalid one stands for the layers' colours. */
@@ -38,18 +45,20 @@ class PROPERTIES_EXPORT TCmdNetColorSch : public TReversibleCommand
 {
 public:
     TCmdNetColorSch(const QString& net, const QColor& color, TSchematic* schematic);
+    TCommandKind Kind() const override;
 
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 
 private:
-    void SetColor(const QColor& color);
+    /** Reads the old colour, unless that was done before. False without a net model. */
+    bool KeepOldColor();
 
     TSchematic* schematic;
     QString net;
     QColor newColor;
-    QColor oldColor;
+    std::optional<QColor> oldColor; ///< Of the moment when the command was made, or when it could act first.
 };
 
 /** Gives a net of the project another colour on the board; an invalid one stands for the layers' colours. */
@@ -61,15 +70,20 @@ public:
     /** Writes the colour to the net model and to the board's items of that net. */
     void SetColor(const QString& ofNet, const QColor& color);
 
+    TCommandKind Kind() const override;
+
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 
 private:
+    /** Reads the old colour, unless that was done before. False without a net model. */
+    bool KeepOldColor();
+
     TProject* project;
     QString net;
     QColor newColor;
-    QColor oldColor;
+    std::optional<QColor> oldColor; ///< Of the moment when the command was made, or when it could act first.
 };
 
 /** Gives nets of the project another routing priority: "Default" or a digit. */
@@ -77,19 +91,22 @@ class PROPERTIES_EXPORT TCmdNetPrio : public TReversibleCommand
 {
 public:
     TCmdNetPrio(const QStringList& nets, const QString& level, TProject* project);
+    TCommandKind Kind() const override;
 
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 
 private:
+    /** Reads the old levels, unless that was done before. False without a net model. */
+    bool KeepOldLevels();
     /** Writes the levels, parallel to `nets`, to the net model and the rat lines, and recomputes the priorities. */
     void SetLevels(const QStringList& levels);
 
     TProject* project;
     QStringList nets;
     QString newLevel;
-    QStringList oldLevels; ///< Parallel to `nets`.
+    QStringList oldLevels; ///< Parallel to `nets`: of the moment when the command was made, or could act first.
 };
 
 /**
@@ -105,9 +122,11 @@ public:
     void SetNetNameOnSch(const QString& name);
     void SetNetNameOnPcb(const QString& name);
 
+    TCommandKind Kind() const override;
+
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 
     QList<TGraphicsItem*> items; ///< Intended: left empty.
     QString oldName;             ///< Intended: left empty.
@@ -124,4 +143,5 @@ class PROPERTIES_EXPORT TCmdFragmName : public TCmdNetName
 {
 public:
     TCmdFragmName(TGraphicsItem* item, const QString& name, TWorkspace* workspace, TProject* project);
+    TCommandKind Kind() const override;
 };

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "properties/commands/ProjectParts.h"
 #include "properties/commands/TReversibleCommand.h"
 
 #include <properties/Export.h>
@@ -11,6 +10,8 @@
 #include <QHash>
 #include <QList>
 #include <QVector>
+
+class TProject;
 
 /**
  * The base of the net-tie commands, which keep numbers of ties instead of items: the ties that bear the numbers are
@@ -26,76 +27,47 @@ public:
     /** The ties that the board's view shows; none without a board and its view. */
     QList<TGraphicsNetTiePcbItem*> GetNetTiesOnPcb() const;
 
+    TCommandKind Kind() const override;
+
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
+
+    bool HasSchematic() const;
+    bool HasBoardView() const;
 
     TProject* project;
 };
 
 /** Which documents hold an attribute of net ties. */
-enum class TieSides { Schematic, Board, Both };
+enum class PROPERTIES_EXPORT TieSides { Schematic, Board, Both };
 
 /**
  * A command over one attribute of net ties, a struct with `Value`, `sides`, and `Read` and `Write` for the items of
  * those sides. An edit reaches the side that it was made on, and the other one too when the project keeps both in step.
  */
 template <class Attribute>
-class TNetTieCommand : public TCmdNetTieBase
+class PROPERTIES_EXPORT TNetTieCommand : public TCmdNetTieBase
 {
 public:
     using Value = typename Attribute::Value;
 
+    ~TNetTieCommand() override;
+
 protected:
-    void Do() override
-    {
-        WriteAll([this](int) { return newValue; });
-    }
-
-    void Undo() override
-    {
-        WriteAll([this](int index) { return oldValues.at(index); });
-    }
-
+    /** Keeps the numbers of the ties, each with the value of the first tie that bears it. */
     template <class Tie>
-    TNetTieCommand(const QList<Tie*>& ties, const Value& value, TProject* ofProject)
-        : TCmdNetTieBase(ofProject), newValue(value), madeOnSchematic(std::is_same_v<Tie, TGraphicsNetTieSchItem>)
-    {
-        for (const Tie* tie : ties) {
-            if (tie && !indexOfNumber.contains(tie->Number())) {
-                indexOfNumber.insert(tie->Number(), oldValues.size());
-                oldValues.append(Attribute::Read(*tie));
-            }
-        }
-    }
+    TNetTieCommand(const QList<Tie*>& ties, const Value& value, TProject* ofProject);
+
+    bool Do() override;
+    bool Undo() override;
 
 private:
+    /** Writes to the sides that are there of those that the edit reaches. False without any. */
     template <class ValueAt>
-    void WriteAll(ValueAt valueAt)
-    {
-        const bool inStep = ProjectParts::IsInStep(project);
-        if constexpr (Attribute::sides != TieSides::Board) {
-            if (madeOnSchematic || inStep) {
-                Write(GetNetTiesOnSch(), valueAt);
-            }
-        }
-        if constexpr (Attribute::sides != TieSides::Schematic) {
-            if (!madeOnSchematic || inStep) {
-                Write(GetNetTiesOnPcb(), valueAt);
-            }
-        }
-    }
-
+    bool WriteAll(ValueAt valueAt);
     template <class Tie, class ValueAt>
-    void Write(const QList<Tie*>& ties, ValueAt valueAt)
-    {
-        for (Tie* tie : ties) {
-            const auto index = indexOfNumber.constFind(tie->Number());
-            if (index != indexOfNumber.constEnd()) {
-                Attribute::Write(*tie, valueAt(*index));
-            }
-        }
-    }
+    void Write(const QList<Tie*>& ties, ValueAt valueAt);
 
     QHash<quint16, int> indexOfNumber; ///< For each kept number its index in `oldValues`.
     QVector<Value> oldValues;
@@ -103,7 +75,7 @@ private:
     bool madeOnSchematic;
 };
 
-namespace Attributes {
+namespace Attributes PROPERTIES_EXPORT {
 
 struct NetTieName
 {
@@ -169,6 +141,7 @@ struct NetTieSymbol
 {
     using Value = int;
     static constexpr TieSides sides = TieSides::Schematic;
+    static bool Has(int symbol) { return 0 <= symbol && symbol <= 2; }
     static int Read(const TGraphicsNetTieSchItem& tie) { return tie.Symbol(); }
     static void Write(TGraphicsNetTieSchItem& tie, int symbol)
     {
@@ -185,6 +158,7 @@ class PROPERTIES_EXPORT TCmdNetTieName : public TNetTieCommand<Attributes::NetTi
 public:
     TCmdNetTieName(const QList<TGraphicsNetTiePcbItem*>& ties, const QString& name, TProject* project);
     TCmdNetTieName(const QList<TGraphicsNetTieSchItem*>& ties, const QString& name, TProject* project);
+    TCommandKind Kind() const override;
 };
 
 /** Shows or hides the names of net ties. */
@@ -193,6 +167,7 @@ class PROPERTIES_EXPORT TCmdNetTieNameVis : public TNetTieCommand<Attributes::Ne
 public:
     TCmdNetTieNameVis(const QList<TGraphicsNetTiePcbItem*>& ties, bool visible, TProject* project);
     TCmdNetTieNameVis(const QList<TGraphicsNetTieSchItem*>& ties, bool visible, TProject* project);
+    TCommandKind Kind() const override;
 };
 
 /** Moves net ties of the board to a layer. */
@@ -200,6 +175,7 @@ class PROPERTIES_EXPORT TCmdNetTiePcbLayer : public TNetTieCommand<Attributes::N
 {
 public:
     TCmdNetTiePcbLayer(const QList<TGraphicsNetTiePcbItem*>& ties, Osmirel::Layer layer, TProject* project);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the diameter, in scene units, of the pads of net ties. */
@@ -207,6 +183,7 @@ class PROPERTIES_EXPORT TCmdNetTiePadSz : public TNetTieCommand<Attributes::NetT
 {
 public:
     TCmdNetTiePadSz(const QList<TGraphicsNetTiePcbItem*>& ties, double size, TProject* project);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the width, in scene units, of the wire of net ties. No set makes it; it is there for the application. */
@@ -214,6 +191,7 @@ class PROPERTIES_EXPORT TCmdNetTieWireWidth : public TNetTieCommand<Attributes::
 {
 public:
     TCmdNetTieWireWidth(const QList<TGraphicsNetTiePcbItem*>& ties, double width, TProject* project);
+    TCommandKind Kind() const override;
 };
 
 /** Chooses the symbol of net ties of the schematic: 0, 1 or 2. */
@@ -221,4 +199,5 @@ class PROPERTIES_EXPORT TCmdNetTieSchSymbol : public TNetTieCommand<Attributes::
 {
 public:
     TCmdNetTieSchSymbol(const QList<TGraphicsNetTieSchItem*>& ties, int symbol, TProject* project);
+    TCommandKind Kind() const override;
 };

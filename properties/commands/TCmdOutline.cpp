@@ -2,12 +2,36 @@
 
 TCmdOutlineAddNode::TCmdOutlineAddNode(TGraphicsOutlineItem*, const QPointF&) {}
 
-void TCmdOutlineAddNode::Do() {}
+TCommandKind TCmdOutlineAddNode::Kind() const
+{
+    return {"OutlineAddNode", QT_TRANSLATE_NOOP("TCommandKind", "Add a node to %1"),
+            QT_TRANSLATE_NOOP("TCommandKind", "the outline")};
+}
 
-void TCmdOutlineAddNode::Undo() {}
+bool TCmdOutlineAddNode::Do()
+{
+    return true;
+}
+
+bool TCmdOutlineAddNode::Undo()
+{
+    return true;
+}
 
 TCmdOutlineDelNode::TCmdOutlineDelNode(TGraphicsOutlineItem*, const QPointF&) {}
 
-void TCmdOutlineDelNode::Do() {}
+TCommandKind TCmdOutlineDelNode::Kind() const
+{
+    return {"OutlineDelNode", QT_TRANSLATE_NOOP("TCommandKind", "Remove a node from %1"),
+            QT_TRANSLATE_NOOP("TCommandKind", "the outline")};
+}
 
-void TCmdOutlineDelNode::Undo() {}
+bool TCmdOutlineDelNode::Do()
+{
+    return true;
+}
+
+bool TCmdOutlineDelNode::Undo()
+{
+    return true;
+}

@@ -12,10 +12,11 @@ class PROPERTIES_EXPORT TCmdOutlineAddNode : public TReversibleCommand
 {
 public:
     TCmdOutlineAddNode(TGraphicsOutlineItem* outline, const QPointF& point);
+    TCommandKind Kind() const override;
 
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 };
 
 /** Intended: a placeholder that stores nothing and changes nothing. */
@@ -23,8 +24,9 @@ class PROPERTIES_EXPORT TCmdOutlineDelNode : public TReversibleCommand
 {
 public:
     TCmdOutlineDelNode(TGraphicsOutlineItem* outline, const QPointF& point);
+    TCommandKind Kind() const override;
 
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 };

@@ -1,6 +1,8 @@
 #include "properties/commands/TCmdPackage.h"
 
+#include "properties/commands/EachOnce.h"
 #include "properties/commands/ProjectParts.h"
+#include "properties/commands/TExistingItems.h"
 #include "properties/commands/TUniqueNumbers.h"
 
 #include <application/TBoard.h>
@@ -12,14 +14,6 @@ namespace {
 QGraphicsView* ViewOf(TBoard* board)
 {
     return board ? board->View() : nullptr;
-}
-
-/** Forgets the wires that are no longer on the board. */
-void KeepExistingConnections(const TExistingItems& existing, QVector<QVector<TGraphicsItem*>>& connections)
-{
-    for (QVector<TGraphicsItem*>& ofItem : connections) {
-        existing.KeepOnlyExisting(ofItem);
-    }
 }
 
 /** The component numbers of the packages among the items, each once. */
@@ -43,19 +37,26 @@ QList<unsigned short> ComponentsOf(const Items& items, bool withNone)
 TCmdPkgSide::TCmdPkgSide(const QList<TGraphicsPackageItem*>& packages, Osmirel::Layer layer, TBoard* ofBoard)
     : board(ofBoard), newLayer(layer)
 {
-    for (TGraphicsPackageItem* package : packages) {
-        if (package && package->Layer() != newLayer) {
+    const QList<TGraphicsPackageItem*> once = EachOnce(packages);
+    for (TGraphicsPackageItem* package : once) {
+        if (package->Layer() != newLayer) {
             items.append(package);
             oldLayers.append(package->Layer());
         }
     }
 }
 
+TCommandKind TCmdPkgSide::Kind() const
+{
+    return {"PkgSide", QT_TRANSLATE_NOOP("TCommandKind", "Change side of %1"),
+            QT_TRANSLATE_NOOP("TCommandKind", "packages")};
+}
+
 void TCmdPkgSide::ExistItems()
 {
-    const TExistingItems existing(ViewOf(board), {ItemType::Package, ItemType::Wire});
-    existing.KeepOnlyExisting(items, oldLayers, savedConnections);
-    KeepExistingConnections(existing, savedConnections);
+    const TExistingItems existing(ViewOf(board));
+    existing.KeepOnlyExisting({ItemType::Package}, items, oldLayers, savedConnections);
+    existing.KeepOnlyExisting(savedConnections);
 }
 
 void TCmdPkgSide::SetLayer(TGraphicsPackageItem* package, Osmirel::Layer layer)
@@ -72,10 +73,10 @@ void TCmdPkgSide::SetLayer(TGraphicsPackageItem* package, Osmirel::Layer layer)
     }
 }
 
-void TCmdPkgSide::Do()
+bool TCmdPkgSide::Do()
 {
     if (!ViewOf(board)) {
-        return;
+        return false;
     }
     savedConnections.clear();
     ExistItems();
@@ -85,12 +86,13 @@ void TCmdPkgSide::Do()
         package->Connect({});
     }
     board->UpdateRats(ComponentsOf(items, false));
+    return true;
 }
 
-void TCmdPkgSide::Undo()
+bool TCmdPkgSide::Undo()
 {
     if (!ViewOf(board)) {
-        return;
+        return false;
     }
     ExistItems();
     for (int i = 0; i < items.size(); ++i) {
@@ -103,6 +105,7 @@ void TCmdPkgSide::Undo()
         }
     }
     board->UpdateRats(ComponentsOf(items, false));
+    return true;
 }
 
 TCmdPackageRefDes::TCmdPackageRefDes(const QString& text, TProject* ofProject) : newText(text), project(ofProject)
@@ -116,6 +119,12 @@ TCmdPackageRefDes::TCmdPackageRefDes(const QString& text, TProject* ofProject) :
     }
 }
 
+TCommandKind TCmdPackageRefDes::Kind() const
+{
+    return {"PackageRefDes", QT_TRANSLATE_NOOP("TCommandKind", "Rename %1"),
+            QT_TRANSLATE_NOOP("TCommandKind", "packages")};
+}
+
 bool TCmdPackageRefDes::BelongsToSchematic(const TGraphicsPackageItem& package) const
 {
     return ProjectParts::IsInStep(project) && package.ComponentNumber() != 0;
@@ -123,8 +132,8 @@ bool TCmdPackageRefDes::BelongsToSchematic(const TGraphicsPackageItem& package) 
 
 void TCmdPackageRefDes::ExistItems()
 {
-    const TExistingItems existing(ProjectParts::BoardView(project), {ItemType::Package});
-    existing.KeepOnlyExisting(items, oldTexts);
+    const TExistingItems existing(ProjectParts::BoardView(project));
+    existing.KeepOnlyExisting({ItemType::Package}, items, oldTexts);
 }
 
 void TCmdPackageRefDes::Write(TGraphicsPackageItem& package, const QString& text) const
@@ -132,10 +141,10 @@ void TCmdPackageRefDes::Write(TGraphicsPackageItem& package, const QString& text
     package.SetRefDes(text);
 }
 
-void TCmdPackageRefDes::Do()
+bool TCmdPackageRefDes::Do()
 {
     if (!ProjectParts::BoardView(project)) {
-        return;
+        return false;
     }
     ExistItems();
     for (TGraphicsPackageItem* package : qAsConst(items)) {
@@ -143,12 +152,13 @@ void TCmdPackageRefDes::Do()
             Write(*package, newText);
         }
     }
+    return true;
 }
 
-void TCmdPackageRefDes::Undo()
+bool TCmdPackageRefDes::Undo()
 {
     if (!ProjectParts::BoardView(project)) {
-        return;
+        return false;
     }
     ExistItems();
     for (int i = 0; i < items.size(); ++i) {
@@ -156,6 +166,7 @@ void TCmdPackageRefDes::Undo()
             Write(*items.at(i), oldTexts.at(i));
         }
     }
+    return true;
 }
 
 TCmdPackageValue::TCmdPackageValue(const QString& text, TProject* ofProject) : TCmdPackageRefDes(text, ofProject)
@@ -166,6 +177,12 @@ TCmdPackageValue::TCmdPackageValue(const QString& text, TProject* ofProject) : T
     }
 }
 
+TCommandKind TCmdPackageValue::Kind() const
+{
+    return {"PackageValue", QT_TRANSLATE_NOOP("TCommandKind", "Change value of %1"),
+            QT_TRANSLATE_NOOP("TCommandKind", "packages")};
+}
+
 void TCmdPackageValue::Write(TGraphicsPackageItem& package, const QString& text) const
 {
     package.SetValue(text);
@@ -173,28 +190,35 @@ void TCmdPackageValue::Write(TGraphicsPackageItem& package, const QString& text)
 
 TCmdPkgConnect::TCmdPkgConnect(const QList<TGraphicsItem*>& selection, TBoard* ofBoard) : board(ofBoard)
 {
-    for (TGraphicsItem* item : selection) {
-        if (item && (item->type() == ItemType::Package || item->type() == ItemType::NetTiePcb)) {
+    const QList<TGraphicsItem*> once = EachOnce(selection);
+    for (TGraphicsItem* item : once) {
+        if (item->type() == ItemType::Package || item->type() == ItemType::NetTiePcb) {
             items.append(item);
         }
     }
 }
 
+TCommandKind TCmdPkgConnect::Kind() const
+{
+    return {"PkgConnect", QT_TRANSLATE_NOOP("TCommandKind", "Connect %1"),
+            QT_TRANSLATE_NOOP("TCommandKind", "packages")};
+}
+
 void TCmdPkgConnect::ExistItems()
 {
-    const TExistingItems existing(ViewOf(board), {ItemType::Package, ItemType::NetTiePcb, ItemType::Wire});
-    existing.KeepOnlyExisting(items, savedConnections);
-    KeepExistingConnections(existing, savedConnections);
+    const TExistingItems existing(ViewOf(board));
+    existing.KeepOnlyExisting({ItemType::Package, ItemType::NetTiePcb}, items, savedConnections);
+    existing.KeepOnlyExisting(savedConnections);
 }
 
-void TCmdPkgConnect::Do()
+bool TCmdPkgConnect::Do()
 {
-    ActOnAll(Action::Connect);
+    return ActOnAll(Action::Connect);
 }
 
-void TCmdPkgConnect::Undo()
+bool TCmdPkgConnect::Undo()
 {
-    ActOnSaved(Action::Disconnect);
+    return ActOnSaved(Action::Disconnect);
 }
 
 QVector<TGraphicsItem*> TCmdPkgConnect::Act(Action action, TGraphicsItem& item,
@@ -207,10 +231,10 @@ QVector<TGraphicsItem*> TCmdPkgConnect::Act(Action action, TGraphicsItem& item,
                                             : act(static_cast<TGraphicsNetTiePcbItem&>(item));
 }
 
-void TCmdPkgConnect::ActOnAll(Action action)
+bool TCmdPkgConnect::ActOnAll(Action action)
 {
     if (!ViewOf(board)) {
-        return;
+        return false;
     }
     ExistItems();
     savedConnections.clear();
@@ -218,12 +242,13 @@ void TCmdPkgConnect::ActOnAll(Action action)
         savedConnections.append(Act(action, *item, {}));
     }
     UpdateRats();
+    return true;
 }
 
-void TCmdPkgConnect::ActOnSaved(Action action)
+bool TCmdPkgConnect::ActOnSaved(Action action)
 {
     if (!ViewOf(board)) {
-        return;
+        return false;
     }
     ExistItems();
     for (int i = 0; i < items.size(); ++i) {
@@ -233,6 +258,7 @@ void TCmdPkgConnect::ActOnSaved(Action action)
         }
     }
     UpdateRats();
+    return true;
 }
 
 void TCmdPkgConnect::UpdateRats()
@@ -245,12 +271,18 @@ TCmdPkgDisconnect::TCmdPkgDisconnect(const QList<TGraphicsItem*>& selection, TBo
     : TCmdPkgConnect(selection, ofBoard)
 {}
 
-void TCmdPkgDisconnect::Do()
+TCommandKind TCmdPkgDisconnect::Kind() const
 {
-    ActOnAll(Action::Disconnect);
+    return {"PkgDisconnect", QT_TRANSLATE_NOOP("TCommandKind", "Disconnect %1"),
+            QT_TRANSLATE_NOOP("TCommandKind", "packages")};
 }
 
-void TCmdPkgDisconnect::Undo()
+bool TCmdPkgDisconnect::Do()
 {
-    ActOnSaved(Action::Connect);
+    return ActOnAll(Action::Disconnect);
+}
+
+bool TCmdPkgDisconnect::Undo()
+{
+    return ActOnSaved(Action::Connect);
 }

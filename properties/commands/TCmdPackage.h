@@ -1,6 +1,5 @@
 #pragma once
 
-#include "properties/commands/TExistingItems.h"
 #include "properties/commands/TReversibleCommand.h"
 
 #include <properties/Export.h>
@@ -8,14 +7,16 @@
 #include <workspace/Osmirel.h>
 
 #include <QStringList>
+#include <QVector>
 
 class TBoard;
+class TGraphicsItem;
 class TGraphicsPackageItem;
 class TProject;
 
 /**
- * Moves packages to the other side of the board: cuts their connections, shows their texts as the board's switches say,
- * and connects them to what their pads touch there. Packages that are on the side already are left out.
+ * Moves packages, each once, to the other side of the board: cuts their connections, shows their texts as the board's
+ * switches say, and connects them to what their pads touch there. Packages that are on the side already are left out.
  */
 class PROPERTIES_EXPORT TCmdPkgSide : public TReversibleCommand
 {
@@ -27,9 +28,11 @@ public:
     /** Forgets the packages that are no longer on the board. */
     void ExistItems();
 
+    TCommandKind Kind() const override;
+
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 
 private:
     TBoard* board;
@@ -51,9 +54,11 @@ public:
     /** Forgets the packages that are no longer on the board. */
     void ExistItems();
 
+    TCommandKind Kind() const override;
+
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 
     /** Writes the text that the command is about. */
     virtual void Write(TGraphicsPackageItem& package, const QString& text) const;
@@ -73,12 +78,13 @@ class PROPERTIES_EXPORT TCmdPackageValue : public TCmdPackageRefDes
 {
 public:
     TCmdPackageValue(const QString& text, TProject* project);
+    TCommandKind Kind() const override;
 
 protected:
     void Write(TGraphicsPackageItem& package, const QString& text) const override;
 };
 
-/** Connects packages and net ties of the board to what their pads touch. */
+/** Connects packages and net ties of the board, each once, to what their pads touch. */
 class PROPERTIES_EXPORT TCmdPkgConnect : public TReversibleCommand
 {
 public:
@@ -87,16 +93,20 @@ public:
     /** Forgets the items that are no longer on the board. */
     void ExistItems();
 
+    TCommandKind Kind() const override;
+
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 
     enum class Action { Connect, Disconnect };
 
-    /** Acts on every item with all that it touches, keeps what each of them returned, and updates the rat lines. */
-    void ActOnAll(Action action);
-    /** Acts on every item with exactly what is kept for it, and updates the rat lines. */
-    void ActOnSaved(Action action);
+    /** Acts on every item with all that it touches, keeps what each of them returned, and updates the rat lines. False
+     *  without the board's view. */
+    bool ActOnAll(Action action);
+    /** Acts on every item with exactly what is kept for it, and updates the rat lines. False without the board's view.
+     */
+    bool ActOnSaved(Action action);
 
 private:
     static QVector<TGraphicsItem*> Act(Action action, TGraphicsItem& item, const QVector<TGraphicsItem*>& connections);
@@ -112,8 +122,9 @@ class PROPERTIES_EXPORT TCmdPkgDisconnect : public TCmdPkgConnect
 {
 public:
     TCmdPkgDisconnect(const QList<TGraphicsItem*>& selection, TBoard* board);
+    TCommandKind Kind() const override;
 
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 };

@@ -7,9 +7,11 @@
 
 #include <objects/TGraphicsPadItem.h>
 
-namespace Attributes {
+namespace Attributes PROPERTIES_EXPORT {
 
-struct PadWidth : Length<TGraphicsPadItem>, OfKind<ItemType::Pad>
+using Pads = OfKind<ItemType::Pad>;
+
+struct PadWidth : Length<TGraphicsPadItem>, Pads
 {
     static double Read(const TGraphicsPadItem& pad) { return pad.Width(); }
     static void Write(TGraphicsPadItem& pad, double width) { pad.SetWidth(width); }
@@ -17,7 +19,7 @@ struct PadWidth : Length<TGraphicsPadItem>, OfKind<ItemType::Pad>
 
 /** The height of a pad. Intended: its old value is the pad's width, so that undo makes the pad as high as it was wide.
  */
-struct PadHeight : Length<TGraphicsPadItem>, OfKind<ItemType::Pad>
+struct PadHeight : Length<TGraphicsPadItem>, Pads
 {
     static double Read(const TGraphicsPadItem& pad) { return pad.Width(); }
     static void Write(TGraphicsPadItem& pad, double height) { pad.SetHeight(height); }
@@ -49,21 +51,21 @@ struct PadName : Plain<TGraphicsPadItem, QString>, EveryPad
     }
 };
 
-struct PadShape : Choice<TGraphicsPadItem, TGraphicsPadItem::TypePadShape>, OfKind<ItemType::Pad>
+struct PadShape : Choice<TGraphicsPadItem, TGraphicsPadItem::TypePadShape, 1, 6>, Pads
 {
     static Value Read(const TGraphicsPadItem& pad) { return pad.PadShape(); }
     static void Write(TGraphicsPadItem& pad, Value shape) { pad.SetPadShape(shape); }
 };
 
 /** The layer of a surface pad; the old value is the end layer, which is the start layer as well. */
-struct PadSide : Plain<TGraphicsPadItem, Osmirel::Layer>, OfKind<ItemType::Pad>
+struct PadSide : Plain<TGraphicsPadItem, Osmirel::Layer>, Pads
 {
     static Osmirel::Layer Read(const TGraphicsPadItem& pad) { return pad.EndLayer(); }
     static void Write(TGraphicsPadItem& pad, Osmirel::Layer side) { pad.SetPadSide(side); }
 };
 
 /** Whether a pad is a surface pad. */
-struct PadType : Plain<TGraphicsPadItem, bool>, OfKind<ItemType::Pad>
+struct PadType : Plain<TGraphicsPadItem, bool>, Pads
 {
     static bool Read(const TGraphicsPadItem& pad) { return pad.IsSMD(); }
     static void Write(TGraphicsPadItem& pad, bool smd) { pad.SetTypeSMD(smd); }
@@ -77,6 +79,7 @@ class PROPERTIES_EXPORT TCmdPadWidth
 {
 public:
     TCmdPadWidth(const QList<TGraphicsItem*>& selection, double millimetres);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the height of pads in millimetres. Intended: undo sets it to the width that each pad had before. */
@@ -85,6 +88,7 @@ class PROPERTIES_EXPORT TCmdPadHeight
 {
 public:
     TCmdPadHeight(const QList<TGraphicsItem*>& selection, double millimetres);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the number of every pad given, without a look at its type number. */
@@ -92,6 +96,7 @@ class PROPERTIES_EXPORT TCmdPadNumber : public TAttributeCommand<Attributes::Pad
 {
 public:
     TCmdPadNumber(const QList<TGraphicsItem*>& selection, const QString& number);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the name of every pad given, without a look at its type number. */
@@ -99,6 +104,7 @@ class PROPERTIES_EXPORT TCmdPadName : public TAttributeCommand<Attributes::PadNa
 {
 public:
     TCmdPadName(const QList<TGraphicsItem*>& selection, const QString& name);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the shape of pads: a value of `TGraphicsPadItem::TypePadShape`. */
@@ -106,6 +112,7 @@ class PROPERTIES_EXPORT TCmdPadShape : public TAttributeCommand<Attributes::PadS
 {
 public:
     TCmdPadShape(const QList<TGraphicsItem*>& selection, int shape);
+    TCommandKind Kind() const override;
 };
 
 /** Moves surface pads to a layer. */
@@ -113,6 +120,7 @@ class PROPERTIES_EXPORT TCmdPadSide : public TAttributeCommand<Attributes::PadSi
 {
 public:
     TCmdPadSide(const QList<TGraphicsItem*>& selection, Osmirel::Layer side);
+    TCommandKind Kind() const override;
 };
 
 /** Makes pads surface pads, or pads that go through the board. */
@@ -120,4 +128,5 @@ class PROPERTIES_EXPORT TCmdPadType : public TAttributeCommand<Attributes::PadTy
 {
 public:
     TCmdPadType(const QList<TGraphicsItem*>& selection, bool smd);
+    TCommandKind Kind() const override;
 };

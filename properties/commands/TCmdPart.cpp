@@ -1,18 +1,28 @@
 #include "properties/commands/TCmdPart.h"
 
+#include "properties/commands/EachOnce.h"
 #include "properties/commands/ProjectParts.h"
+#include "properties/commands/TUniqueNumbers.h"
 
 #include <application/TBoard.h>
 #include <objects/TGraphicsPartItem.h>
 
 TCmdPartConnect::TCmdPartConnect(const QList<TGraphicsItem*>& selection, TProject* ofProject) : project(ofProject)
 {
-    for (TGraphicsItem* item : selection) {
-        if (item && item->type() == ItemType::Part) {
+    TUniqueNumbers numbers;
+    const QList<TGraphicsItem*> once = EachOnce(selection);
+    for (TGraphicsItem* item : once) {
+        if (item->type() == ItemType::Part) {
             parts.append(static_cast<TGraphicsPartItem*>(item)); // Intended: never asked again whether they exist.
-            components.Add(parts.last()->ComponentNumber());
+            numbers.Add(parts.last()->ComponentNumber());
         }
     }
+    components = numbers.List();
+}
+
+TCommandKind TCmdPartConnect::Kind() const
+{
+    return {"PartConnect", QT_TRANSLATE_NOOP("TCommandKind", "Connect %1"), QT_TRANSLATE_NOOP("TCommandKind", "parts")};
 }
 
 void TCmdPartConnect::UpdatePCB()
@@ -20,18 +30,20 @@ void TCmdPartConnect::UpdatePCB()
     // Intended: the board is asked even when there are no parts.
     TBoard* board = ProjectParts::IsInStep(project) ? ProjectParts::Board(project) : nullptr;
     if (board && board->ConnectivityEnabled()) {
-        board->UpdatePadNets(components.List());
+        board->UpdatePadNets(components);
     }
 }
 
-void TCmdPartConnect::Do()
+bool TCmdPartConnect::Do()
 {
     ActOnAll(Action::Connect);
+    return true;
 }
 
-void TCmdPartConnect::Undo()
+bool TCmdPartConnect::Undo()
 {
     ActOnSaved(Action::Disconnect);
+    return true;
 }
 
 QVector<TGraphicsItem*> TCmdPartConnect::Act(Action action, TGraphicsPartItem& part,
@@ -64,12 +76,20 @@ TCmdPartDisconnect::TCmdPartDisconnect(const QList<TGraphicsItem*>& selection, T
     : TCmdPartConnect(selection, ofProject)
 {}
 
-void TCmdPartDisconnect::Do()
+TCommandKind TCmdPartDisconnect::Kind() const
 {
-    ActOnAll(Action::Disconnect);
+    return {"PartDisconnect", QT_TRANSLATE_NOOP("TCommandKind", "Disconnect %1"),
+            QT_TRANSLATE_NOOP("TCommandKind", "parts")};
 }
 
-void TCmdPartDisconnect::Undo()
+bool TCmdPartDisconnect::Do()
+{
+    ActOnAll(Action::Disconnect);
+    return true;
+}
+
+bool TCmdPartDisconnect::Undo()
 {
     ActOnSaved(Action::Connect);
+    return true;
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "properties/commands/TReversibleCommand.h"
-#include "properties/commands/TUniqueNumbers.h"
 
 #include <properties/Export.h>
 
@@ -11,7 +10,7 @@ class TGraphicsItem;
 class TGraphicsPartItem;
 class TProject;
 
-/** Connects parts to what their pins touch. Made by the application. */
+/** Connects parts, each once, to what their pins touch. Made by the application. */
 class PROPERTIES_EXPORT TCmdPartConnect : public TReversibleCommand
 {
 public:
@@ -21,9 +20,11 @@ public:
      *  the board's connectivity is switched on. */
     void UpdatePCB();
 
+    TCommandKind Kind() const override;
+
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 
     enum class Action { Connect, Disconnect };
 
@@ -38,7 +39,7 @@ private:
     TProject* project;
     QVector<TGraphicsPartItem*> parts;
     QVector<QVector<TGraphicsItem*>> savedConnections; ///< From the last redo; parallel to `parts` from then on.
-    TUniqueNumbers components;
+    QList<unsigned short> components;                  ///< The numbers of the parts, each once.
 };
 
 /** Cuts parts from what they are connected to. Made by the application. */
@@ -46,8 +47,9 @@ class PROPERTIES_EXPORT TCmdPartDisconnect : public TCmdPartConnect
 {
 public:
     TCmdPartDisconnect(const QList<TGraphicsItem*>& selection, TProject* project);
+    TCommandKind Kind() const override;
 
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 };

@@ -8,21 +8,23 @@
 #include <graphics/TGraphicsTextItem.h>
 #include <objects/TGraphicsPinItem.h>
 
-namespace Attributes {
+namespace Attributes PROPERTIES_EXPORT {
 
-struct PinName : Plain<TGraphicsPinItem, QString>, OfKind<ItemType::Pin>
+using Pins = OfKind<ItemType::Pin>;
+
+struct PinName : Plain<TGraphicsPinItem, QString>, Pins
 {
     static QString Read(const TGraphicsPinItem& pin) { return pin.Name(); }
     static void Write(TGraphicsPinItem& pin, const QString& name) { pin.SetName(name); }
 };
 
-struct PinNameVisible : Plain<TGraphicsPinItem, bool>, OfKind<ItemType::Pin>
+struct PinNameVisible : Plain<TGraphicsPinItem, bool>, Pins
 {
     static bool Read(const TGraphicsPinItem& pin) { return pin.NameVisible(); }
     static void Write(TGraphicsPinItem& pin, bool visible) { pin.SetNameVisible(visible); }
 };
 
-struct PinNumber : Plain<TGraphicsPinItem, QString>, OfKind<ItemType::Pin>
+struct PinNumber : Plain<TGraphicsPinItem, QString>, Pins
 {
     static QString Read(const TGraphicsPinItem& pin) { return pin.Number(); }
     static void Write(TGraphicsPinItem& pin, const QString& number)
@@ -35,13 +37,13 @@ struct PinNumber : Plain<TGraphicsPinItem, QString>, OfKind<ItemType::Pin>
     }
 };
 
-struct PinNumberVisible : Plain<TGraphicsPinItem, bool>, OfKind<ItemType::Pin>
+struct PinNumberVisible : Plain<TGraphicsPinItem, bool>, Pins
 {
     static bool Read(const TGraphicsPinItem& pin) { return pin.NumberVisible(); }
     static void Write(TGraphicsPinItem& pin, bool visible) { pin.SetNumberVisible(visible); }
 };
 
-struct PinType : Choice<TGraphicsPinItem, TGraphicsPinItem::TypePinType>, OfKind<ItemType::Pin>
+struct PinType : Choice<TGraphicsPinItem, TGraphicsPinItem::TypePinType, 0, 7>, Pins
 {
     static Value Read(const TGraphicsPinItem& pin) { return pin.PinType(); }
     static void Write(TGraphicsPinItem& pin, Value type)
@@ -51,7 +53,7 @@ struct PinType : Choice<TGraphicsPinItem, TGraphicsPinItem::TypePinType>, OfKind
     }
 };
 
-struct PinStyle : Choice<TGraphicsPinItem, TGraphicsPinItem::TypePinStyle>, OfKind<ItemType::Pin>
+struct PinStyle : Choice<TGraphicsPinItem, TGraphicsPinItem::TypePinStyle, 0, 1>, Pins
 {
     static Value Read(const TGraphicsPinItem& pin) { return pin.PinStyle(); }
     static void Write(TGraphicsPinItem& pin, Value style)
@@ -61,7 +63,7 @@ struct PinStyle : Choice<TGraphicsPinItem, TGraphicsPinItem::TypePinStyle>, OfKi
     }
 };
 
-struct PinLength : Choice<TGraphicsPinItem, TGraphicsPinItem::TypePinLength>, OfKind<ItemType::Pin>
+struct PinLength : Choice<TGraphicsPinItem, TGraphicsPinItem::TypePinLength, 0, 3>, Pins
 {
     static Value Read(const TGraphicsPinItem& pin) { return pin.PinLength(); }
     static void Write(TGraphicsPinItem& pin, Value length)
@@ -72,7 +74,7 @@ struct PinLength : Choice<TGraphicsPinItem, TGraphicsPinItem::TypePinLength>, Of
 };
 
 /** The swap group, 0 to 255. Intended: nothing is repainted. */
-struct PinSwap : Choice<TGraphicsPinItem, quint8>, OfKind<ItemType::Pin>
+struct PinSwap : Choice<TGraphicsPinItem, quint8, 0, 255>, Pins
 {
     static Value Read(const TGraphicsPinItem& pin) { return pin.Swap(); }
     static void Write(TGraphicsPinItem& pin, Value group) { pin.SetSwap(group); }
@@ -85,6 +87,7 @@ class PROPERTIES_EXPORT TCmdPinName : public TAttributeCommand<Attributes::PinNa
 {
 public:
     TCmdPinName(const QList<TGraphicsItem*>& selection, const QString& name);
+    TCommandKind Kind() const override;
 };
 
 /** Shows or hides the names of pins. */
@@ -92,6 +95,7 @@ class PROPERTIES_EXPORT TCmdPinNameVis : public TAttributeCommand<Attributes::Pi
 {
 public:
     TCmdPinNameVis(const QList<TGraphicsItem*>& selection, bool visible);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the numbers of pins. */
@@ -99,6 +103,7 @@ class PROPERTIES_EXPORT TCmdPinNumber : public TAttributeCommand<Attributes::Pin
 {
 public:
     TCmdPinNumber(const QList<TGraphicsItem*>& selection, const QString& number);
+    TCommandKind Kind() const override;
 };
 
 /** Shows or hides the numbers of pins. */
@@ -106,6 +111,7 @@ class PROPERTIES_EXPORT TCmdPinNumberVis : public TAttributeCommand<Attributes::
 {
 public:
     TCmdPinNumberVis(const QList<TGraphicsItem*>& selection, bool visible);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the electrical type of pins: a value of `TGraphicsPinItem::TypePinType`. */
@@ -114,6 +120,7 @@ class PROPERTIES_EXPORT TCmdPinType
 {
 public:
     TCmdPinType(const QList<TGraphicsItem*>& selection, int type);
+    TCommandKind Kind() const override;
 };
 
 /** Sets how pins are drawn: a value of `TGraphicsPinItem::TypePinStyle`. */
@@ -122,6 +129,7 @@ class PROPERTIES_EXPORT TCmdPinStyle
 {
 public:
     TCmdPinStyle(const QList<TGraphicsItem*>& selection, int style);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the length of pins: a value of `TGraphicsPinItem::TypePinLength`. */
@@ -130,6 +138,7 @@ class PROPERTIES_EXPORT TCmdPinLength
 {
 public:
     TCmdPinLength(const QList<TGraphicsItem*>& selection, int length);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the swap group of pins, 0 to 255. */
@@ -138,4 +147,5 @@ class PROPERTIES_EXPORT TCmdPinSwap
 {
 public:
     TCmdPinSwap(const QList<TGraphicsItem*>& selection, int group);
+    TCommandKind Kind() const override;
 };

@@ -1,5 +1,7 @@
 #include "properties/commands/TCmdPort.h"
 
+#include "properties/commands/AttributeCommandEngine.h"
+
 #include "properties/commands/ProjectParts.h"
 #include "properties/commands/TUniqueNumbers.h"
 
@@ -43,20 +45,28 @@ TCmdPortName::TCmdPortName(QList<TGraphicsPortItem*> ofPorts, const QString& nam
     }
 }
 
-void TCmdPortName::Do()
+TCommandKind TCmdPortName::Kind() const
 {
-    if (!schematic) {
-        return;
+    return {"PortName", QT_TRANSLATE_NOOP("TCommandKind", "Rename %1"), QT_TRANSLATE_NOOP("TCommandKind", "ports")};
+}
+
+bool TCmdPortName::Do()
+{
+    TNetModel* model = ProjectParts::NetModel(schematic);
+    if (!model) {
+        return false;
     }
-    TNetModel& model = *schematic->NetModel();
-    AddNewNet(model);
-    DeleteUnused(MoveToNewNet(model), model);
+    if (ports.isEmpty()) {
+        return true;
+    }
+    AddNewNet(*model);
+    DeleteUnused(MoveToNewNet(*model), *model);
     UpdateBoardInStep();
+    return true;
 }
 
 void TCmdPortName::AddNewNet(TNetModel& model)
 {
-    // Intended: the net is added even when there are no ports.
     if (!model.HasNet(newName)) {
         model.AddNet(newName, QStringLiteral("Default"), QColor(), QColor(), 0);
         addedNet = model.HasNet(newName) ? newName : QString(); // The empty name is no net.
@@ -99,21 +109,25 @@ void TCmdPortName::DeleteUnused(const QStringList& nets, TNetModel& model)
     }
 }
 
-void TCmdPortName::Undo()
+bool TCmdPortName::Undo()
 {
-    if (!schematic) {
-        return;
+    TNetModel* model = ProjectParts::NetModel(schematic);
+    if (!model) {
+        return false;
     }
-    TNetModel& model = *schematic->NetModel();
+    if (ports.isEmpty()) {
+        return true;
+    }
     if (!addedNet.isEmpty()) {
-        model.DeleteNet(addedNet);
+        model->DeleteNet(addedNet);
         addedNet.clear();
     }
     while (!deletedNets.isEmpty()) {
-        model.AddNet(deletedNets.takeLast());
+        model->AddNet(deletedNets.takeLast());
     }
-    GiveOldNames(model);
+    GiveOldNames(*model);
     UpdateBoardInStep();
+    return true;
 }
 
 void TCmdPortName::GiveOldNames(const TNetModel& model)
@@ -162,4 +176,12 @@ QList<unsigned short> TCmdPortName::ConnectedNumbers() const
     return numbers.List();
 }
 
+template class TAttributeCommand<Attributes::PortNameVisible>;
+
 TCmdPortNameVis::TCmdPortNameVis(QList<TGraphicsPortItem*> ports, bool visible) : TAttributeCommand(ports, visible) {}
+
+TCommandKind TCmdPortNameVis::Kind() const
+{
+    return {"PortNameVis", QT_TRANSLATE_NOOP("TCommandKind", "Switch name of %1"),
+            QT_TRANSLATE_NOOP("TCommandKind", "ports")};
+}

@@ -13,7 +13,7 @@
 class TNetModel;
 class TSchematic;
 
-namespace Attributes {
+namespace Attributes PROPERTIES_EXPORT {
 
 struct PortNameVisible : Plain<TGraphicsPortItem, bool>
 {
@@ -38,9 +38,11 @@ public:
      *  board, and on one whose connectivity is switched off. */
     void UpdatePCB();
 
+    TCommandKind Kind() const override;
+
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 
 private:
     void AddNewNet(TNetModel& model);
@@ -65,4 +67,5 @@ class PROPERTIES_EXPORT TCmdPortNameVis : public TAttributeCommand<Attributes::P
 {
 public:
     TCmdPortNameVis(QList<TGraphicsPortItem*> ports, bool visible);
+    TCommandKind Kind() const override;
 };

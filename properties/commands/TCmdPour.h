@@ -7,7 +7,7 @@
 
 #include <objects/TGraphicsPourItem.h>
 
-namespace Attributes {
+namespace Attributes PROPERTIES_EXPORT {
 
 /** An attribute of a pour whose write ends with a refill. */
 template <class Editing, auto get, auto set>
@@ -27,17 +27,33 @@ using FilledLength = Filled<Length<TGraphicsPourItem>, get, set>;
 template <class Value, auto get, auto set>
 using FilledValue = Filled<Plain<TGraphicsPourItem, Value>, get, set>;
 
-using PourClEtch = FilledLength<&TGraphicsPourItem::ClearanceToEtch, &TGraphicsPourItem::SetClearanceToEtch>;
-using PourClBorder = FilledLength<&TGraphicsPourItem::ClearanceToBorder, &TGraphicsPourItem::SetClearanceToBorder>;
-using PourClPour = FilledLength<&TGraphicsPourItem::ClearanceToPour, &TGraphicsPourItem::SetClearanceToPour>;
-using PourLineWidth = FilledLength<&TGraphicsPourItem::LineWidth, &TGraphicsPourItem::SetLineWidth>;
-using PourThermLine = FilledLength<&TGraphicsPourItem::ThermalLine, &TGraphicsPourItem::SetThermalLine>;
-using PourThermIsol = FilledLength<&TGraphicsPourItem::ThermalIsolation, &TGraphicsPourItem::SetThermalIsolation>;
-using PourMinArea = FilledValue<double, &TGraphicsPourItem::MinimumArea, &TGraphicsPourItem::SetMinimumArea>;
-using PourPrio = FilledValue<quint8, &TGraphicsPourItem::Priority, &TGraphicsPourItem::SetPriority>;
-using PourFillType = FilledValue<int, &TGraphicsPourItem::FillType, &TGraphicsPourItem::SetFillType>;
-using PourOnlyConn = FilledValue<bool, &TGraphicsPourItem::OnlyConnected, &TGraphicsPourItem::SetOnlyConnected>;
-using PourThermEn = FilledValue<bool, &TGraphicsPourItem::ThermalEnable, &TGraphicsPourItem::SetThermalEnable>;
+struct PourClEtch : FilledLength<&TGraphicsPourItem::ClearanceToEtch, &TGraphicsPourItem::SetClearanceToEtch>
+{};
+struct PourClBorder : FilledLength<&TGraphicsPourItem::ClearanceToBorder, &TGraphicsPourItem::SetClearanceToBorder>
+{};
+struct PourClPour : FilledLength<&TGraphicsPourItem::ClearanceToPour, &TGraphicsPourItem::SetClearanceToPour>
+{};
+struct PourLineWidth : FilledLength<&TGraphicsPourItem::LineWidth, &TGraphicsPourItem::SetLineWidth>
+{};
+struct PourThermLine : FilledLength<&TGraphicsPourItem::ThermalLine, &TGraphicsPourItem::SetThermalLine>
+{};
+struct PourThermIsol : FilledLength<&TGraphicsPourItem::ThermalIsolation, &TGraphicsPourItem::SetThermalIsolation>
+{};
+struct PourMinArea : FilledValue<double, &TGraphicsPourItem::MinimumArea, &TGraphicsPourItem::SetMinimumArea>
+{};
+struct PourPrio : FilledValue<quint8, &TGraphicsPourItem::Priority, &TGraphicsPourItem::SetPriority>
+{};
+struct PourFillType : FilledValue<int, &TGraphicsPourItem::FillType, &TGraphicsPourItem::SetFillType>
+{
+    static std::optional<int> Chosen(int style)
+    {
+        return IsBrushStyle(style) ? std::make_optional(style) : std::nullopt;
+    }
+};
+struct PourOnlyConn : FilledValue<bool, &TGraphicsPourItem::OnlyConnected, &TGraphicsPourItem::SetOnlyConnected>
+{};
+struct PourThermEn : FilledValue<bool, &TGraphicsPourItem::ThermalEnable, &TGraphicsPourItem::SetThermalEnable>
+{};
 
 /** The net of a pour; its setter refills by itself. */
 struct PourNet : Plain<TGraphicsPourItem, QString>
@@ -66,6 +82,7 @@ class PROPERTIES_EXPORT TCmdPourClEtch : public TMergingPourCommand<Attributes::
 {
 public:
     TCmdPourClEtch(QList<TGraphicsPourItem*> pours, double millimetres);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the clearance of pours, in millimetres, to the board's border, and refills them. */
@@ -73,6 +90,7 @@ class PROPERTIES_EXPORT TCmdPourClBorder : public TMergingPourCommand<Attributes
 {
 public:
     TCmdPourClBorder(QList<TGraphicsPourItem*> pours, double millimetres);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the clearance of pours, in millimetres, to other pours, and refills them. */
@@ -80,6 +98,7 @@ class PROPERTIES_EXPORT TCmdPourClPour : public TMergingPourCommand<Attributes::
 {
 public:
     TCmdPourClPour(QList<TGraphicsPourItem*> pours, double millimetres);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the width, in millimetres, of the lines that pours are filled with, and refills them. */
@@ -88,6 +107,7 @@ class PROPERTIES_EXPORT TCmdPourLineWidth
 {
 public:
     TCmdPourLineWidth(QList<TGraphicsPourItem*> pours, double millimetres);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the smallest area, in square millimetres, of a piece of pours, and refills them. */
@@ -95,6 +115,7 @@ class PROPERTIES_EXPORT TCmdPourMinArea : public TMergingPourCommand<Attributes:
 {
 public:
     TCmdPourMinArea(QList<TGraphicsPourItem*> pours, double squareMillimetres);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the width, in millimetres, of the thermal spokes of pours, and refills them. */
@@ -103,6 +124,7 @@ class PROPERTIES_EXPORT TCmdPourThermLine
 {
 public:
     TCmdPourThermLine(QList<TGraphicsPourItem*> pours, double millimetres);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the distance, in millimetres, that the thermal spokes of pours bridge, and refills them. */
@@ -111,6 +133,7 @@ class PROPERTIES_EXPORT TCmdPourThermIsol
 {
 public:
     TCmdPourThermIsol(QList<TGraphicsPourItem*> pours, double millimetres);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the priority of pours among each other, and refills them. */
@@ -118,6 +141,7 @@ class PROPERTIES_EXPORT TCmdPourPrio : public TMergingPourCommand<Attributes::Po
 {
 public:
     TCmdPourPrio(QList<TGraphicsPourItem*> pours, unsigned char priority);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the net of pours, which refills them. */
@@ -125,6 +149,7 @@ class PROPERTIES_EXPORT TCmdPourNet : public TMergingPourCommand<Attributes::Pou
 {
 public:
     TCmdPourNet(QList<TGraphicsPourItem*> pours, const QString& net);
+    TCommandKind Kind() const override;
 };
 
 /** Sets how pours are filled, a `Qt::BrushStyle`, and refills them. */
@@ -132,6 +157,7 @@ class PROPERTIES_EXPORT TCmdPourFillType : public TAttributeCommand<Attributes::
 {
 public:
     TCmdPourFillType(QList<TGraphicsPourItem*> pours, int brushStyle);
+    TCommandKind Kind() const override;
 };
 
 /** Sets whether pours leave out pieces that touch no copper of their net, and refills them. */
@@ -139,6 +165,7 @@ class PROPERTIES_EXPORT TCmdPourOnlyConn : public TAttributeCommand<Attributes::
 {
 public:
     TCmdPourOnlyConn(QList<TGraphicsPourItem*> pours, bool on);
+    TCommandKind Kind() const override;
 };
 
 /** Sets whether pours connect by thermal spokes, and refills them. */
@@ -146,6 +173,7 @@ class PROPERTIES_EXPORT TCmdPourThermEn : public TAttributeCommand<Attributes::P
 {
 public:
     TCmdPourThermEn(QList<TGraphicsPourItem*> pours, bool on);
+    TCommandKind Kind() const override;
 };
 
 /** Moves pours to a layer without refilling them. */
@@ -153,4 +181,5 @@ class PROPERTIES_EXPORT TCmdPourLayer : public TAttributeCommand<Attributes::Pou
 {
 public:
     TCmdPourLayer(QList<TGraphicsPourItem*> pours, Osmirel::Layer layer);
+    TCommandKind Kind() const override;
 };

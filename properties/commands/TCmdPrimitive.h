@@ -9,7 +9,7 @@
 
 #include <QBrush>
 
-namespace Attributes {
+namespace Attributes PROPERTIES_EXPORT {
 
 /** Drawings of any shape. */
 using AnyPrimitive = OfKind<ItemType::Line, ItemType::Rectangle, ItemType::Ellipse, ItemType::Polyline,
@@ -48,10 +48,15 @@ struct PenStyle : Plain<TGraphicsPenItem, Qt::PenStyle>, WithoutParent<AnyPrimit
 };
 
 /** How a closed shape is filled; polygons keep their brush in another place than the other shapes. */
-struct PROPERTIES_EXPORT BrushStyle : Choice<TGraphicsItem, Qt::BrushStyle>, WithoutParent<FilledPrimitive>
+struct BrushStyle : Plain<TGraphicsItem, Qt::BrushStyle>, WithoutParent<FilledPrimitive>
 {
-    PROPERTIES_EXPORT static Qt::BrushStyle Read(const TGraphicsItem& item);
-    PROPERTIES_EXPORT static void Write(TGraphicsItem& item, Qt::BrushStyle style);
+    static Qt::BrushStyle FromEditor(int style) { return static_cast<Qt::BrushStyle>(style); }
+    static std::optional<Qt::BrushStyle> Chosen(int style)
+    {
+        return IsBrushStyle(style) ? std::make_optional(FromEditor(style)) : std::nullopt;
+    }
+    static Qt::BrushStyle Read(const TGraphicsItem& item);
+    static void Write(TGraphicsItem& item, Qt::BrushStyle style);
 };
 
 struct LayerPrim : Plain<TGraphicsItem, Osmirel::Layer>, WithoutParent<AnyPrimitive>
@@ -86,6 +91,7 @@ class PROPERTIES_EXPORT TCmdPenWidth
 {
 public:
     TCmdPenWidth(const QList<TGraphicsItem*>& selection, double millimetres);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the line style of free drawings. */
@@ -94,6 +100,7 @@ class PROPERTIES_EXPORT TCmdPenStyle
 {
 public:
     TCmdPenStyle(const QList<TGraphicsItem*>& selection, Qt::PenStyle style);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the filling of free drawings of a closed shape: a `Qt::BrushStyle`. */
@@ -101,13 +108,15 @@ class PROPERTIES_EXPORT TCmdBrushStyle : public TAttributeCommand<Attributes::Br
 {
 public:
     TCmdBrushStyle(const QList<TGraphicsItem*>& selection, int style);
+    TCommandKind Kind() const override;
 };
 
 /** Moves free drawings to a layer. It has an id and yet is never merged. */
-class PROPERTIES_EXPORT TCmdLayerPrim : public TAttributeCommandWithId<Attributes::LayerPrim, CommandId::LayerPrim>
+class PROPERTIES_EXPORT TCmdLayerPrim : public TAttributeCommand<Attributes::LayerPrim, CommandId::LayerPrim>
 {
 public:
     TCmdLayerPrim(const QList<TGraphicsItem*>& selection, Osmirel::Layer layer);
+    TCommandKind Kind() const override;
 };
 
 /** Gives free items of any kind a colour of their own, or with an invalid colour that of their layer. */
@@ -116,11 +125,13 @@ class PROPERTIES_EXPORT TCmdUserColor
 {
 public:
     TCmdUserColor(const QList<TGraphicsItem*>& selection, const QColor& color);
+    TCommandKind Kind() const override;
 };
 
 /** Sets width and height, in scene units, of free rectangles. It has an id and yet is never merged. */
-class PROPERTIES_EXPORT TCmdRectSize : public TAttributeCommandWithId<Attributes::RectSize, CommandId::RectSize>
+class PROPERTIES_EXPORT TCmdRectSize : public TAttributeCommand<Attributes::RectSize, CommandId::RectSize>
 {
 public:
     TCmdRectSize(const QList<TGraphicsRectItem*>& selection, double width, double height);
+    TCommandKind Kind() const override;
 };

@@ -12,14 +12,16 @@ TTreeEntryCommand::TTreeEntryCommand(QTreeWidgetItem* ofEntry, int ofColumn, con
     }
 }
 
-void TTreeEntryCommand::Do()
+bool TTreeEntryCommand::Do()
 {
     Write(newText);
+    return true;
 }
 
-void TTreeEntryCommand::Undo()
+bool TTreeEntryCommand::Undo()
 {
     Write(oldText);
+    return true;
 }
 
 void TTreeEntryCommand::Write(const QString& text)
@@ -34,23 +36,41 @@ TCmdPartRename::TCmdPartRename(TPart* part, const QString& name) : TTreeEntryCom
     AddCategory(ProjectTreeCategory);
 }
 
+TCommandKind TCmdPartRename::Kind() const
+{
+    return {"PartRename", QT_TRANSLATE_NOOP("TCommandKind", "Rename part %1"), ""};
+}
+
 TCmdPageRename::TCmdPageRename(TSchPage* page, const QString& name)
     : TTreeEntryCommand(page, TSchPage::nameColumn, name)
 {}
+
+TCommandKind TCmdPageRename::Kind() const
+{
+    return {"PageRename", QT_TRANSLATE_NOOP("TCommandKind", "Rename page %1"), ""};
+}
 
 TCmdPartOpen::TCmdPartOpen(TPart* previous, TPart* next) : nextPart(next), previousPart(previous)
 {
     AddCategory(ProjectTreeCategory | PartCategory);
 }
 
-void TCmdPartOpen::Do()
+TCommandKind TCmdPartOpen::Kind() const
 {
-    SetPartToOpen(nextPart);
+    return {"PartOpen", QT_TRANSLATE_NOOP("TCommandKind", "Open symbol of %1"),
+            QT_TRANSLATE_NOOP("TCommandKind", "a part")};
 }
 
-void TCmdPartOpen::Undo()
+bool TCmdPartOpen::Do()
+{
+    SetPartToOpen(nextPart);
+    return true;
+}
+
+bool TCmdPartOpen::Undo()
 {
     SetPartToOpen(previousPart);
+    return true;
 }
 
 TCmdPageOpen::TCmdPageOpen(unsigned char previous, unsigned char next) : nextPage(next), previousPage(previous)
@@ -58,14 +78,21 @@ TCmdPageOpen::TCmdPageOpen(unsigned char previous, unsigned char next) : nextPag
     AddCategory(PageCategory);
 }
 
-void TCmdPageOpen::Do()
+TCommandKind TCmdPageOpen::Kind() const
 {
-    SetPageToOpen(nextPage);
+    return {"PageOpen", QT_TRANSLATE_NOOP("TCommandKind", "Open page %1"), ""};
 }
 
-void TCmdPageOpen::Undo()
+bool TCmdPageOpen::Do()
+{
+    SetPageToOpen(nextPage);
+    return true;
+}
+
+bool TCmdPageOpen::Undo()
 {
     SetPageToOpen(previousPage);
+    return true;
 }
 
 unsigned char TCmdPageOpen::OpeningPageId()

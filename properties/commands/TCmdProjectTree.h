@@ -17,8 +17,8 @@ protected:
     /** The entry is not owned and must outlive the command; null makes a command that does nothing. */
     TTreeEntryCommand(QTreeWidgetItem* entry, int column, const QString& text);
 
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 
 private:
     void Write(const QString& text);
@@ -34,6 +34,7 @@ class PROPERTIES_EXPORT TCmdPartRename : public TTreeEntryCommand
 {
 public:
     TCmdPartRename(TPart* part, const QString& name);
+    TCommandKind Kind() const override;
 };
 
 /** Renames a page in the project tree. Made by the application. */
@@ -41,6 +42,7 @@ class PROPERTIES_EXPORT TCmdPageRename : public TTreeEntryCommand
 {
 public:
     TCmdPageRename(TSchPage* page, const QString& name);
+    TCommandKind Kind() const override;
 };
 
 /** Asks the application to open a part: the next one after redo, the previous one after undo; null for none. */
@@ -48,10 +50,11 @@ class PROPERTIES_EXPORT TCmdPartOpen : public TReversibleCommand
 {
 public:
     TCmdPartOpen(TPart* previous, TPart* next);
+    TCommandKind Kind() const override;
 
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 
 private:
     TPart* nextPart;
@@ -71,9 +74,11 @@ public:
      */
     unsigned char OpeningPageId();
 
+    TCommandKind Kind() const override;
+
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 
 private:
     unsigned char nextPage;

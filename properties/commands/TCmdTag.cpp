@@ -14,22 +14,29 @@ TCmdTagName::TCmdTagName(QList<TGraphicsTagItem*> ofTags, const QString& name, T
     }
 }
 
+TCommandKind TCmdTagName::Kind() const
+{
+    return {"TagName", QT_TRANSLATE_NOOP("TCommandKind", "Rename %1"), QT_TRANSLATE_NOOP("TCommandKind", "tags")};
+}
+
 void TCmdTagName::SetName(TGraphicsTagItem* tag, const QString& name)
 {
     tag->SetValue(project ? project->TagValues().value(name) : QString(), false);
     tag->SetName(name, true);
 }
 
-void TCmdTagName::Do()
+bool TCmdTagName::Do()
 {
     for (TGraphicsTagItem* tag : qAsConst(tags)) {
         SetName(tag, newName);
     }
+    return true;
 }
 
-void TCmdTagName::Undo()
+bool TCmdTagName::Undo()
 {
     for (int i = 0; i < tags.size(); ++i) {
         SetName(tags.at(i), oldNames.at(i));
     }
+    return true;
 }

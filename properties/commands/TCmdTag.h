@@ -20,9 +20,11 @@ public:
     /** Gives a tag the value of a name, empty for one that the project does not know, and then the name. */
     void SetName(TGraphicsTagItem* tag, const QString& name);
 
+    TCommandKind Kind() const override;
+
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 
 private:
     QList<TGraphicsTagItem*> tags;

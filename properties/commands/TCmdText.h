@@ -23,7 +23,7 @@ PROPERTIES_EXPORT void Write(QFont& font, int points);
 
 } // namespace FontSize
 
-namespace Attributes {
+namespace Attributes PROPERTIES_EXPORT {
 
 /** An attribute of every text given, whose path is brought up to date after the write. */
 template <class ValueType>
@@ -81,14 +81,14 @@ struct TextAlign : OfText<Qt::AlignmentFlag>
 /** The angle in whole degrees. Undo does not bring back a fraction of a degree. */
 struct TextAngle : OfText<int>
 {
-    static int Read(const TGraphicsTextItem& text) { return static_cast<int>(text.rotation()); }
+    static int Read(const TGraphicsTextItem& text) { return Units::WholeFrom(text.rotation()); }
     static void Write(TGraphicsTextItem& text, int degrees) { text.setRotation(degrees); }
 };
 
 /** Whether a text is bold. Undo brings back only the weights of normal and bold. */
-struct PROPERTIES_EXPORT TextBold : OfText<bool>
+struct TextBold : OfText<bool>
 {
-    PROPERTIES_EXPORT static bool Read(const TGraphicsTextItem& text);
+    static bool Read(const TGraphicsTextItem& text);
     static void Write(TGraphicsTextItem& text, bool bold)
     {
         text.Font().setWeight(bold ? QFont::Bold : QFont::Normal);
@@ -132,6 +132,7 @@ class PROPERTIES_EXPORT TCmdTextTrueType : public TAttributeCommand<Attributes::
 {
 public:
     TCmdTextTrueType(QList<TGraphicsTextItem*> texts, bool outlines);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the font family of texts. */
@@ -139,6 +140,7 @@ class PROPERTIES_EXPORT TCmdTextFontName : public TAttributeCommand<Attributes::
 {
 public:
     TCmdTextFontName(QList<TGraphicsTextItem*> texts, const QString& family);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the font size of texts in points. Merges only with an equal size. */
@@ -147,6 +149,7 @@ class PROPERTIES_EXPORT TCmdTextFontSize
 {
 public:
     TCmdTextFontSize(QList<TGraphicsTextItem*> texts, int points);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the alignment of texts, a `Qt::AlignmentFlag`. */
@@ -156,6 +159,8 @@ public:
     TCmdTextAlign(QList<TGraphicsTextItem*> texts, int alignment);
     /** Keeps the free texts of a selection of any kinds. */
     TCmdTextAlign(const QList<TGraphicsItem*>& selection, int alignment);
+
+    TCommandKind Kind() const override;
 };
 
 /** Sets the angle of texts in degrees. */
@@ -163,6 +168,7 @@ class PROPERTIES_EXPORT TCmdTextAngle : public TAttributeCommand<Attributes::Tex
 {
 public:
     TCmdTextAngle(QList<TGraphicsTextItem*> texts, int degrees);
+    TCommandKind Kind() const override;
 };
 
 /** Makes texts bold or not. */
@@ -170,6 +176,7 @@ class PROPERTIES_EXPORT TCmdTextBold : public TAttributeCommand<Attributes::Text
 {
 public:
     TCmdTextBold(QList<TGraphicsTextItem*> texts, bool bold);
+    TCommandKind Kind() const override;
 };
 
 /** Makes texts italic or not. */
@@ -177,6 +184,7 @@ class PROPERTIES_EXPORT TCmdTextItalic : public TAttributeCommand<Attributes::Te
 {
 public:
     TCmdTextItalic(QList<TGraphicsTextItem*> texts, bool italic);
+    TCommandKind Kind() const override;
 };
 
 /** Moves texts to a layer. */
@@ -184,6 +192,7 @@ class PROPERTIES_EXPORT TCmdTextLayer : public TAttributeCommand<Attributes::Tex
 {
 public:
     TCmdTextLayer(QList<TGraphicsTextItem*> texts, Osmirel::Layer layer);
+    TCommandKind Kind() const override;
 };
 
 /** Mirrors texts horizontally or not. */
@@ -191,6 +200,7 @@ class PROPERTIES_EXPORT TCmdTextMirrH : public TAttributeCommand<Attributes::Tex
 {
 public:
     TCmdTextMirrH(QList<TGraphicsTextItem*> texts, bool on);
+    TCommandKind Kind() const override;
 };
 
 /** Mirrors texts vertically or not. */
@@ -198,4 +208,5 @@ class PROPERTIES_EXPORT TCmdTextMirrV : public TAttributeCommand<Attributes::Tex
 {
 public:
     TCmdTextMirrV(QList<TGraphicsTextItem*> texts, bool on);
+    TCommandKind Kind() const override;
 };

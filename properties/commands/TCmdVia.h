@@ -10,10 +10,12 @@
 
 #include <algorithm>
 
-namespace Attributes {
+namespace Attributes PROPERTIES_EXPORT {
+
+using Vias = OfKind<ItemType::Via>;
 
 /** The diameter of a via: the smaller of its two measures. Written, it makes the via round. */
-struct ViaDiameter : Length<TGraphicsViaItem>, OfKind<ItemType::Via>
+struct ViaDiameter : Length<TGraphicsViaItem>, Vias
 {
     static double Read(const TGraphicsViaItem& via)
     {
@@ -44,14 +46,14 @@ struct ViaDrill : Length<TGraphicsViaItem>
 };
 
 /** The drill pair of a via. */
-struct ViaGroup : Plain<TGraphicsViaItem, QString>, OfKind<ItemType::Via>
+struct ViaGroup : Plain<TGraphicsViaItem, QString>, Vias
 {
     static QString Read(const TGraphicsViaItem& via) { return via.ViaGroup(); }
     static void Write(TGraphicsViaItem& via, const QString& group) { via.SetViaGroup(group); }
 };
 
 /** How pours connect to vias and pads; nothing is repainted. */
-struct ViaThermal : Choice<TGraphicsViaItem, TGraphicsViaItem::TypeThermal>, OfKind<ItemType::Via, ItemType::Pad>
+struct ViaThermal : Choice<TGraphicsViaItem, TGraphicsViaItem::TypeThermal, 0, 2>, OfKind<ItemType::Via, ItemType::Pad>
 {
     static Value Read(const TGraphicsViaItem& via) { return via.Thermal(); }
     static void Write(TGraphicsViaItem& via, Value thermal) { via.SetThermal(thermal); }
@@ -65,6 +67,7 @@ class PROPERTIES_EXPORT TCmdViaDiam
 {
 public:
     TCmdViaDiam(const QList<TGraphicsItem*>& selection, double millimetres);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the drill diameter, in millimetres, of vias and of pads that go through the board. */
@@ -73,6 +76,7 @@ class PROPERTIES_EXPORT TCmdViaDrill
 {
 public:
     TCmdViaDrill(const QList<TGraphicsItem*>& selection, double millimetres);
+    TCommandKind Kind() const override;
 };
 
 /** Sets the drill pair of vias. */
@@ -80,6 +84,7 @@ class PROPERTIES_EXPORT TCmdViaGroup : public TAttributeCommand<Attributes::ViaG
 {
 public:
     TCmdViaGroup(const QList<TGraphicsItem*>& selection, const QString& group);
+    TCommandKind Kind() const override;
 };
 
 /** Sets how pours connect to vias and pads: a value of `TGraphicsViaItem::TypeThermal`. */
@@ -87,4 +92,5 @@ class PROPERTIES_EXPORT TCmdViaTherm : public TAttributeCommand<Attributes::ViaT
 {
 public:
     TCmdViaTherm(const QList<TGraphicsItem*>& selection, int thermal);
+    TCommandKind Kind() const override;
 };

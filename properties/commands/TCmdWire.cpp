@@ -1,5 +1,9 @@
 #include "properties/commands/TCmdWire.h"
 
+#include "properties/commands/AttributeCommandEngine.h"
+#include "properties/commands/TDetachedItem.h"
+#include "properties/commands/TMadeItems.h"
+
 #include <objects/TGraphicsJunctionItem.h>
 
 #include <algorithm>
@@ -28,10 +32,18 @@ void Attributes::WireWidth::Write(TGraphicsWireItem& wire, double width)
     FitJunction(wire.LastLink());
 }
 
+template class TMergingCommand<Attributes::WireWidth, CommandId::WireWidth, MergeRule::TakeOver>;
+
 TCmdWireWidth::TCmdWireWidth(const QList<TGraphicsWireItem*>& wires, double width) : TMergingCommand(wires, width)
 {
     constexpr unsigned changesWireWidth = 1;
     AddCategory(changesWireWidth);
+}
+
+TCommandKind TCmdWireWidth::Kind() const
+{
+    return {"WireWidth", QT_TRANSLATE_NOOP("TCommandKind", "Change width of %1"),
+            QT_TRANSLATE_NOOP("TCommandKind", "wires")};
 }
 
 void TCmdWireWidth::SetWireWidth(TGraphicsWireItem* wire, double width)
@@ -41,7 +53,8 @@ void TCmdWireWidth::SetWireWidth(TGraphicsWireItem* wire, double width)
     }
 }
 
-TCmdWireAddNode::TCmdWireAddNode(TGraphicsWireItem* ofWire, const QPointF& point) : wire(ofWire)
+TCmdWireAddNode::TCmdWireAddNode(TGraphicsWireItem* ofWire, const QPointF& point)
+    : wire(ofWire), made(std::make_unique<TMadeItems<TGraphicsWireItem>>())
 {
     if (!wire) {
         return;
@@ -55,15 +68,23 @@ TCmdWireAddNode::TCmdWireAddNode(TGraphicsWireItem* ofWire, const QPointF& point
     }
 }
 
-void TCmdWireAddNode::Do()
+TCmdWireAddNode::~TCmdWireAddNode() = default;
+
+TCommandKind TCmdWireAddNode::Kind() const
+{
+    return {"WireAddNode", QT_TRANSLATE_NOOP("TCommandKind", "Add a node to %1"),
+            QT_TRANSLATE_NOOP("TCommandKind", "a wire")};
+}
+
+bool TCmdWireAddNode::Do()
 {
     if (!wire) {
-        return;
+        return false;
     }
     std::unique_ptr<TGraphicsWireItem> copy(static_cast<TGraphicsWireItem*>(wire->CreateCopy()));
     copy->SetPoint1(wire->mapFromScene(node));
-    made.StartOver();
-    newWire = made.Make(std::move(copy));
+    made->StartOver();
+    newWire = made->Make(std::move(copy));
     newWire->AttachTo(wire->Owner());
     wire->SetPoint2(wire->mapFromScene(node));
     if (TGraphicsItem* last = wire->LastLink()) {
@@ -72,12 +93,13 @@ void TCmdWireAddNode::Do()
     }
     wire->SetLastLink(newWire);
     newWire->SetFirstLink(wire);
+    return true;
 }
 
-void TCmdWireAddNode::Undo()
+bool TCmdWireAddNode::Undo()
 {
     if (!wire || !newWire) {
-        return;
+        return false;
     }
     wire->SetPoint2(wire->mapFromScene(newWire->ScenePoint(TGraphicsItem::LinkEnd::Last)));
     // Intended: without a last link of the new wire, the wire's own is left as it is, unless it is the new wire, which
@@ -91,39 +113,50 @@ void TCmdWireAddNode::Undo()
     }
     newWire->SetFirstLink(nullptr);
     newWire->SetLastLink(nullptr);
-    made.TakeAway(newWire);
+    made->TakeAway(newWire);
     newWire = nullptr;
+    return true;
 }
 
 TCmdWireDelNode::TCmdWireDelNode(TGraphicsWireItem* keptWire, TGraphicsWireItem* removedWire)
-    : kept(removedWire ? keptWire : nullptr), removed(removedWire)
+    : kept(removedWire && removedWire != keptWire ? keptWire : nullptr),
+      removed(std::make_unique<TDetachedItem<TGraphicsWireItem>>(removedWire))
 {
     if (kept) {
         node = kept->ScenePoint(TGraphicsItem::LinkEnd::Last);
     }
 }
 
-void TCmdWireDelNode::Do()
+TCmdWireDelNode::~TCmdWireDelNode() = default;
+
+TCommandKind TCmdWireDelNode::Kind() const
+{
+    return {"WireDelNode", QT_TRANSLATE_NOOP("TCommandKind", "Remove a node from %1"),
+            QT_TRANSLATE_NOOP("TCommandKind", "a wire")};
+}
+
+bool TCmdWireDelNode::Do()
 {
     if (!kept) {
-        return;
+        return false;
     }
-    TGraphicsWireItem* wire = removed.Get();
+    TGraphicsWireItem* wire = removed->Get();
     TGraphicsItem* last = wire->LastLink();
     kept->SetPoint2(kept->mapFromScene(wire->ScenePoint(TGraphicsItem::LinkEnd::Last)));
     kept->Unlink(TGraphicsItem::LinkEnd::Last);
     wire->Unlink(TGraphicsItem::LinkEnd::Last);
     kept->LinkToLast(last);
-    removed.Detach();
+    removed->TakeOver();
+    return true;
 }
 
-void TCmdWireDelNode::Undo()
+bool TCmdWireDelNode::Undo()
 {
     if (!kept) {
-        return;
+        return false;
     }
-    TGraphicsWireItem* wire = removed.Get();
-    removed.Attach();
+    TGraphicsWireItem* wire = removed->Get();
+    removed->GiveTo(kept->Owner());
     kept->SetPoint2(kept->mapFromScene(node));
     wire->SetPoint1(wire->mapFromScene(node));
     TGraphicsItem* last = kept->LastLink();
@@ -133,4 +166,5 @@ void TCmdWireDelNode::Undo()
     wire->SetLastLink(last);
     kept->SetLastLink(wire);
     wire->SetFirstLink(kept);
+    return true;
 }

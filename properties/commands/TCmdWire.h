@@ -2,8 +2,6 @@
 
 #include "properties/commands/Attributes.h"
 #include "properties/commands/TAttributeCommand.h"
-#include "properties/commands/TDetachedItem.h"
-#include "properties/commands/TMadeItems.h"
 #include "properties/commands/TReversibleCommand.h"
 
 #include <properties/Export.h>
@@ -12,14 +10,19 @@
 
 #include <memory>
 
-namespace Attributes {
+template <class Item>
+class TDetachedItem;
+template <class Item>
+class TMadeItems;
+
+namespace Attributes PROPERTIES_EXPORT {
 
 /** The width of a wire in scene units, with the size of the junctions at its ends. */
-struct PROPERTIES_EXPORT WireWidth : Plain<TGraphicsWireItem, double>
+struct WireWidth : Plain<TGraphicsWireItem, double>
 {
     static bool Accepts(const TGraphicsWireItem&) { return true; }
     static double Read(const TGraphicsWireItem& wire) { return static_cast<double>(wire.PenWidth()); }
-    PROPERTIES_EXPORT static void Write(TGraphicsWireItem& wire, double width);
+    static void Write(TGraphicsWireItem& wire, double width);
 };
 
 } // namespace Attributes
@@ -33,6 +36,8 @@ public:
 
     /** Sets the width, in scene units, of one wire, and the size of the junctions at its ends. */
     void SetWireWidth(TGraphicsWireItem* wire, double width);
+
+    TCommandKind Kind() const override;
 };
 
 /**
@@ -44,31 +49,38 @@ class PROPERTIES_EXPORT TCmdWireAddNode : public TReversibleCommand
 public:
     /** The node is the foot of the perpendicular from @p point, in scene coordinates, onto the wire's line. */
     TCmdWireAddNode(TGraphicsWireItem* wire, const QPointF& point);
+    ~TCmdWireAddNode() override;
+
+    TCommandKind Kind() const override;
 
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 
 private:
     TGraphicsWireItem* wire;
     TGraphicsWireItem* newWire = nullptr; ///< Null until redo and after undo.
-    TMadeItems<TGraphicsWireItem> made;
+    std::unique_ptr<TMadeItems<TGraphicsWireItem>> made;
     QPointF node;
 };
 
-/** Joins two wires at a node: the kept one is prolonged over the removed one, which the command owns meanwhile. */
+/** Joins two wires at a node: the kept one is prolonged over the removed one, which the command owns meanwhile. Undo
+ * puts that onto the board of the kept one. */
 class PROPERTIES_EXPORT TCmdWireDelNode : public TReversibleCommand
 {
 public:
-    /** The last end of @p kept meets the first end of @p removed. */
+    /** The last end of @p kept meets the first end of @p removed. A wire is not joined with itself. */
     TCmdWireDelNode(TGraphicsWireItem* kept, TGraphicsWireItem* removed);
+    ~TCmdWireDelNode() override;
+
+    TCommandKind Kind() const override;
 
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 
 private:
     TGraphicsWireItem* kept;
-    TDetachedItem<TGraphicsWireItem> removed;
+    std::unique_ptr<TDetachedItem<TGraphicsWireItem>> removed;
     QPointF node;
 };

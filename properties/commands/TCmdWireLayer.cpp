@@ -1,6 +1,8 @@
 #include "properties/commands/TCmdWireLayer.h"
 
 #include "properties/commands/ProjectParts.h"
+#include "properties/commands/TDetachedItem.h"
+#include "properties/commands/TMadeItems.h"
 #include "properties/commands/Units.h"
 
 #include <application/TBoard.h>
@@ -21,8 +23,14 @@ TGraphicsItem::LinkEnd End(bool atFirst)
 
 } // namespace
 
+struct TCmdWireLayer::ReplacedJunction
+{
+    TGraphicsViaItem* via;
+    TDetachedItem<TGraphicsJunctionItem> junction;
+};
+
 TCmdWireLayer::TCmdWireLayer(TProject* ofProject, const QList<TGraphicsWireItem*>& given, Osmirel::Layer layer)
-    : project(ofProject), newLayer(layer)
+    : project(ofProject), newLayer(layer), madeVias(std::make_unique<TMadeItems<TGraphicsViaItem>>())
 {
     TBoard* board = ProjectParts::Board(project);
     if (!board) {
@@ -38,21 +46,34 @@ TCmdWireLayer::TCmdWireLayer(TProject* ofProject, const QList<TGraphicsWireItem*
     }
 }
 
+TCommandKind TCmdWireLayer::Kind() const
+{
+    return {"WireLayer", QT_TRANSLATE_NOOP("TCommandKind", "Change layer of %1"),
+            QT_TRANSLATE_NOOP("TCommandKind", "wires")};
+}
+
 TCmdWireLayer::~TCmdWireLayer() = default;
 
-void TCmdWireLayer::Do()
+bool TCmdWireLayer::Do()
 {
-    madeVias.StartOver();
+    if (!ProjectParts::Board(project)) {
+        return false;
+    }
+    madeVias->StartOver();
     for (TGraphicsWireItem* wire : qAsConst(wires)) {
         wire->SetLayer(newLayer);
         AdaptLink(wire, true);
         AdaptLink(wire, false);
     }
     TakeOffReplacedJunctions();
+    return true;
 }
 
-void TCmdWireLayer::Undo()
+bool TCmdWireLayer::Undo()
 {
+    if (!ProjectParts::Board(project)) {
+        return false;
+    }
     for (int i = 0; i < wires.size(); ++i) {
         wires.at(i)->SetLayer(oldLayers.at(i));
     }
@@ -64,9 +85,10 @@ void TCmdWireLayer::Undo()
         UpdateRats();
     }
     while (!replacedJunctions.empty()) {
-        madeVias.TakeAway(replacedJunctions.back().via);
+        madeVias->TakeAway(replacedJunctions.back().via);
         replacedJunctions.pop_back();
     }
+    return true;
 }
 
 void TCmdWireLayer::LinkRedo(TGraphicsWireItem* wire, bool atFirst)
@@ -115,7 +137,7 @@ void TCmdWireLayer::RejoinWires()
             joined[i]->ReplaceLinkedItem(via, joined.size() == 2 ? joined[1 - i] : nullptr);
             via->RemoveLinkedWire(joined[i]);
         }
-        madeVias.TakeAway(via);
+        madeVias->TakeAway(via);
     }
 }
 
@@ -254,7 +276,7 @@ TGraphicsViaItem* TCmdWireLayer::AddVia(const QPointF& scenePoint)
         fresh->update();
     }
     fresh->setPos(scenePoint);
-    TGraphicsViaItem* via = madeVias.Make(std::move(fresh));
+    TGraphicsViaItem* via = madeVias->Make(std::move(fresh));
     via->AttachTo(owner);
     return via;
 }

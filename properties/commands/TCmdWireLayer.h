@@ -1,7 +1,5 @@
 #pragma once
 
-#include "properties/commands/TDetachedItem.h"
-#include "properties/commands/TMadeItems.h"
 #include "properties/commands/TReversibleCommand.h"
 
 #include <properties/Export.h>
@@ -14,8 +12,11 @@
 #include <QStringList>
 #include <QVector>
 
+#include <memory>
 #include <vector>
 
+template <class Item>
+class TMadeItems;
 class QSettings;
 class TGraphicsJunctionItem;
 class TGraphicsSectionItem;
@@ -47,9 +48,11 @@ public:
     /** A length in scene units from a setting in millimetres; the default where that is no number within the range. */
     double FromRegDouble(QSettings* settings, const QString& key, double min, double max, double def);
 
+    TCommandKind Kind() const override;
+
 protected:
-    void Do() override;
-    void Undo() override;
+    bool Do() override;
+    bool Undo() override;
 
 private:
     void AdaptLink(TGraphicsWireItem* wire, bool atFirst);
@@ -74,11 +77,7 @@ private:
         TGraphicsJunctionItem* junction;
         Osmirel::Layer oldLayer;
     };
-    struct ReplacedJunction
-    {
-        TGraphicsViaItem* via;
-        TDetachedItem<TGraphicsJunctionItem> junction;
-    };
+    struct ReplacedJunction;
     struct CutWire
     {
         TGraphicsWireItem* wire;
@@ -93,7 +92,7 @@ private:
     QSet<const TGraphicsItem*> moving; ///< The wires, to be found quickly.
     Osmirel::Layer newLayer;
 
-    TMadeItems<TGraphicsViaItem> madeVias;
+    std::unique_ptr<TMadeItems<TGraphicsViaItem>> madeVias;
 
     // What redo did; empty before redo and after undo.
     QList<TGraphicsViaItem*> insertedVias;

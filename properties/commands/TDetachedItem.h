@@ -37,11 +37,20 @@ public:
     Item* Get() const { return item; }
     bool IsDetached() const { return detached; }
 
-    /** Takes the item off its scene. */
+    /** Takes the item off its scene. One that is on none stays with whoever has it. */
     void Detach()
     {
-        owner = item->Owner();
-        item->Detach();
+        if (item->Owner()) {
+            owner = item->Owner();
+            item->Detach();
+            detached = true;
+        }
+    }
+
+    /** The same, but one that is on no scene belongs to the command as well. */
+    void TakeOver()
+    {
+        Detach();
         detached = true;
     }
 
@@ -52,6 +61,14 @@ public:
             item->AttachTo(owner);
             detached = false;
         }
+    }
+
+    /** Puts the item onto a scene, or for null onto the one that it was taken from. One that was on no scene is left
+     *  to whoever had it. */
+    void GiveTo(TItemScene* scene)
+    {
+        item->AttachTo(scene ? scene : owner.data());
+        detached = false;
     }
 
 private:

@@ -4,28 +4,31 @@
 
 #include <QSet>
 
+#include <algorithm>
+
 /**
  * Which items a view still shows: what commands ask before they follow a stored pointer. An item that is not found is
- * compared only.
+ * compared only. All is linear in the items.
  */
 class TExistingItems
 {
 public:
-    /** Asks the view once for the items of the given kinds. */
-    TExistingItems(const QGraphicsView* view, std::initializer_list<ItemType::Number> kinds)
-    {
-        for (TGraphicsItem* item : ItemsOfView(view, kinds)) {
-            live.insert(item);
-        }
-    }
+    using Lists = QVector<QVector<TGraphicsItem*>>;
+
+    /** Asks the view once. Without a view nobody knows, and all are kept. */
+    explicit TExistingItems(const QGraphicsView* view) : isKnown(view != nullptr), shown(ItemsOfView(view)) {}
 
     /**
-     * Removes the items that no longer exist, and with each its entries in the lists that are parallel to @p items; a
-     * parallel list may be shorter. Linear in the items.
+     * Removes the items that are no longer there as one of these kinds, and with each its entries in the lists that are
+     * parallel to @p items; a parallel list may be shorter.
      */
     template <class Items, class... ParallelLists>
-    void KeepOnlyExisting(Items& items, ParallelLists&... parallel) const
+    void KeepOnlyExisting(std::initializer_list<ItemType::Number> kinds, Items& items, ParallelLists&... parallel) const
     {
+        if (!isKnown) {
+            return;
+        }
+        const QSet<const TGraphicsItem*> live = Live(kinds);
         int kept = 0;
         for (int i = 0; i < items.size(); ++i) {
             if (live.contains(items.at(i))) {
@@ -41,7 +44,36 @@ public:
         }
     }
 
+    /** Removes from each of the lists the items that are no longer there, of whatever kind they were. A list that loses
+     *  nothing is left as it is. */
+    void KeepOnlyExisting(Lists& lists) const
+    {
+        const bool isAnyFilled =
+            std::any_of(lists.cbegin(), lists.cend(), [](const auto& list) { return !list.isEmpty(); });
+        if (!isKnown || !isAnyFilled) {
+            return;
+        }
+        const QSet<const TGraphicsItem*> live(shown.cbegin(), shown.cend());
+        const auto isGone = [&live](const TGraphicsItem* item) { return !live.contains(item); };
+        for (QVector<TGraphicsItem*>& list : lists) {
+            if (std::any_of(list.cbegin(), list.cend(), isGone)) {
+                list.erase(std::remove_if(list.begin(), list.end(), isGone), list.end());
+            }
+        }
+    }
+
 private:
+    QSet<const TGraphicsItem*> Live(std::initializer_list<ItemType::Number> kinds) const
+    {
+        QSet<const TGraphicsItem*> live;
+        for (const TGraphicsItem* item : shown) {
+            if (std::find(kinds.begin(), kinds.end(), item->type()) != kinds.end()) {
+                live.insert(item);
+            }
+        }
+        return live;
+    }
+
     template <class List>
     static void Move(List& list, int from, int to)
     {
@@ -59,5 +91,6 @@ private:
         }
     }
 
-    QSet<const TGraphicsItem*> live;
+    bool isKnown;
+    QVector<TGraphicsItem*> shown;
 };

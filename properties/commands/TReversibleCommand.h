@@ -1,30 +1,32 @@
 #pragma once
 
+#include "properties/commands/CommandKind.h"
+
 #include <application/TUndoCommand.h>
 
-#include <utility>
-
-/** The outer steps of every command: what is undone was done before. An undo before a redo does nothing. */
-class TReversibleCommand : public TUndoCommand
+/**
+ * The outer steps of every command: undo() is a no-op unless redo() acted since the last undo(). A second redo() in a
+ * row acts once more.
+ *
+ * A command cannot act while its context is missing, for example the board of its project: nothing changes. What redo()
+ * could not do is not undone. What undo() could not take back stays done, and the next redo() finds it so.
+ */
+class PROPERTIES_EXPORT TReversibleCommand : public TUndoCommand
 {
 public:
-    void redo() final
-    {
-        Do();
-        isDone = true;
-    }
+    ~TReversibleCommand() override;
 
-    void undo() final
-    {
-        if (std::exchange(isDone, false)) {
-            Undo();
-        }
-    }
+    void redo() final;
+    void undo() final;
+
+    virtual TCommandKind Kind() const = 0;
 
 protected:
-    virtual void Do() = 0;
-    virtual void Undo() = 0;
+    /** Return whether they could act; false when the context is missing, and then nothing was changed. */
+    virtual bool Do() = 0;
+    virtual bool Undo() = 0;
 
 private:
     bool isDone = false;
+    bool missedUndo = false; ///< Whether the last undo could not act. Only while the command is done.
 };

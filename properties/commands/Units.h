@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cmath>
+#include <limits>
+
 /** Conversion of what the user edits into what the items hold. */
 namespace Units {
 
@@ -15,6 +18,16 @@ constexpr double SceneFromMillimetres(double millimetres)
 constexpr double MillimetresFromScene(double sceneUnits)
 {
     return sceneUnits / sceneUnitsPerMillimetre;
+}
+
+/** Cuts off the fraction. What is beyond the range of whole numbers becomes the last one there, and no number 0. */
+inline int WholeFrom(double number)
+{
+    using Limits = std::numeric_limits<int>;
+    if (std::isnan(number)) {
+        return 0;
+    }
+    return number <= Limits::min() ? Limits::min() : number >= Limits::max() ? Limits::max() : static_cast<int>(number);
 }
 
 } // namespace Units

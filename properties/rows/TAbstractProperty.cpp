@@ -1,5 +1,7 @@
 #include "properties/rows/TAbstractProperty.h"
 
+#include "properties/rows/TWidgetHold.h"
+
 TAbstractProperty::TAbstractProperty(const QString& label, QObject* parent)
     : QObject(parent), QTreeWidgetItem(QTreeWidgetItem::Type)
 {
@@ -17,9 +19,30 @@ TAbstractProperty::~TAbstractProperty()
     for (QWidget* part : editor->findChildren<QWidget*>()) {
         part->disconnect(this);
     }
-    if (!editor->parent()) {
+    const bool isOwn = !editor->parent() || editor->parent() == editorHolder;
+    if (!TWidgetHold::Rescue(editor) && isOwn) {
         delete editor;
     }
+}
+
+void TAbstractProperty::KeepEditorIn(QWidget* holder)
+{
+    if (editor) {
+        editor->setParent(holder);
+        editorHolder = holder;
+    }
+}
+
+void TAbstractProperty::SetMixed(bool on, Value value)
+{
+    mixed = on ? mixed | value : mixed & ~static_cast<unsigned>(value);
+}
+
+void TAbstractProperty::Report(Value value, const std::function<void()>& emitSignals)
+{
+    const TWidgetHold hold(editor);
+    SetMixed(false, value);
+    emitSignals();
 }
 
 void TAbstractProperty::SetEnabled(bool on)

@@ -7,6 +7,8 @@
 #include <QTreeWidgetItem>
 #include <QWidget>
 
+#include <functional>
+
 /**
  * A row of the panel: a tree item with the label in column 1, and an editor widget that the panel puts into column 2.
  *
@@ -37,16 +39,38 @@ public:
     /** The widget that edits the value; null for a row without an editor. */
     QWidget* Editor() const { return editor; }
 
-    /** Whether the row stands for values that differ between the selected items and so shows none of them. */
-    bool IsMixed() const { return mixed; }
-    void SetMixed(bool on) { mixed = on; }
+    /** Hides the editor of a row that is not shown in a widget, so that it is no window of its own. It still belongs to
+     *  the row. */
+    void KeepEditorIn(QWidget* holder);
+
+    /** The values that a row can stand for: its own, or that of its first box; and that of the box beside it. */
+    enum Value : unsigned { FirstValue = 1, SecondValue = 2 };
+
+    /** Whether a value that the row stands for differs between the selected items, so that the row does not show it.
+     *  It ends when the row is given that value, by the user or by the program. */
+    bool IsMixed() const { return mixed != 0; }
+    void SetMixed(bool on, Value value = FirstValue);
 
 protected:
     /** Gives the row its editor, once, in the constructor of a row kind. */
     void SetEditor(QWidget* widget) { editor = widget; }
 
+    /**
+     * Passes on that the user, or the program, gave the row a value: @p emitSignals emits the row's signals. Their
+     * receivers may do anything, deleting the row and the panel included; the editor lives on until this returns.
+     */
+    void Report(Value value, const std::function<void()>& emitSignals);
+
+    /** Nulls the row's pointer to a part of its editor when that is gone. */
+    template <class Part>
+    void ForgetWhenGone(Part*& part)
+    {
+        connect(part, &QObject::destroyed, this, [&part] { part = nullptr; });
+    }
+
 private:
     QPointer<QWidget> editor;
+    QPointer<QWidget> editorHolder; ///< What keeps the editor for the row; null if nothing does.
     bool hidden = false;
-    bool mixed = false;
+    unsigned mixed = 0; ///< Bits of `Value`.
 };

@@ -17,7 +17,7 @@ public:
     QCheckBox* const box1;
     QCheckBox* const box2;
 
-signals:
+Q_SIGNALS:
     void sigChecked1(bool on);
     void sigChecked2(bool on);
 };

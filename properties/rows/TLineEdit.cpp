@@ -1,6 +1,7 @@
 #include "properties/rows/TLineEdit.h"
 
 #include "properties/rows/EditorBox.h"
+#include "properties/rows/TWidgetHold.h"
 
 #include <QCheckBox>
 #include <QKeyEvent>
@@ -8,6 +9,8 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QSignalBlocker>
+
+#include <utility>
 
 namespace {
 
@@ -46,6 +49,9 @@ void TLineEdit::setText(const QString& text)
     } else {
         SetStyleSheetOnce(label, check->styleSheet());
     }
+    if (textIsSet) {
+        textIsSet();
+    }
 }
 
 QString TLineEdit::Text() const
@@ -58,10 +64,23 @@ void TLineEdit::SetBackgroundColor(const QColor& color)
     SetStyleSheetOnce(label, QStringLiteral("background-color: ") + color.name());
 }
 
-void TLineEdit::ShowLabel()
+void TLineEdit::Close(int reports)
 {
+    // Hiding the editor moves the focus: that tells the application, which may do anything, and can finish the edit
+    // once more. Receivers hear of that when the toolkit is done with the focus.
+    const TWidgetHold hold(this);
+    const QPointer<TLineEdit> self(this);
+    closing = true;
     label->show();
     edit->hide();
+    if (!self) {
+        return;
+    }
+    closing = false;
+    const QString text = edit->text();
+    for (reports += std::exchange(ends, 0); reports > 0 && self; --reports) {
+        emit textChanged(text);
+    }
 }
 
 void TLineEdit::mouseDoubleClickEvent(QMouseEvent* event)
@@ -70,6 +89,7 @@ void TLineEdit::mouseDoubleClickEvent(QMouseEvent* event)
         QWidget::mouseDoubleClickEvent(event);
         return;
     }
+    const TWidgetHold hold(this); // The application hears of the focus and may do anything.
     label->hide();
     edit->show();
     edit->setText(label->text());
@@ -87,6 +107,7 @@ void TLineEdit::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Return:
     case Qt::Key_Enter: slotEndEdit(); break;
     case Qt::Key_Escape: {
+        const TWidgetHold hold(this);
         label->show();
         const QSignalBlocker blocker(edit); // Hiding takes the focus away, which would commit the text.
         edit->hide();
@@ -98,12 +119,11 @@ void TLineEdit::keyPressEvent(QKeyEvent* event)
 
 void TLineEdit::slotEndEdit()
 {
-    const QString text = edit->text();
-    const QPointer<TLineEdit> self(this); // Hiding the editor can commit once more, and a receiver delete this widget.
-    setText(text);
-    ShowLabel();
-    if (self) {
-        emit textChanged(text);
+    setText(edit->text());
+    if (closing) {
+        ++ends;
+    } else {
+        Close(1);
     }
 }
 
@@ -114,15 +134,12 @@ void TLineEdit::mousePressEvent(QMouseEvent* event)
         return;
     }
     qDebug("mouse press");
-    const QPointer<TLineEdit> self(this);
-    ShowLabel();
-    if (self) {
-        setText(edit->text());
-    }
+    setText(edit->text());
+    Close(0);
 }
 
 void TLineEdit::focusOutEvent(QFocusEvent*)
 {
     qDebug("focus out");
-    ShowLabel();
+    Close(0);
 }

@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include <functional>
+
 class QCheckBox;
 class QLabel;
 class QLineEdit;
@@ -27,6 +29,9 @@ public:
     /** The committed text, as the label shows it. */
     QString Text() const;
 
+    /** Has @p handler called after every `setText`; one handler at most. */
+    void WhenTextIsSet(std::function<void()> handler) { textIsSet = std::move(handler); }
+
     void SetBackgroundColor(const QColor& color);
 
     /** Whether a double click starts editing; true from construction. */
@@ -36,7 +41,7 @@ public:
     QLabel* const label;
     QLineEdit* const edit; ///< Hidden except while editing.
 
-signals:
+Q_SIGNALS:
     void textChanged(const QString& text);
 
 protected:
@@ -45,13 +50,17 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
-private slots:
+private Q_SLOTS:
     void slotEndEdit();
 
 private:
-    void ShowLabel();
+    /** Hides the editor and then reports its text so many times. */
+    void Close(int reports);
 
     QCheckBox* const check; ///< Never shown: its style is the label's when nothing is marked.
     bool markEmpty;
     bool editable = true;
+    bool closing = false;
+    int ends = 0; ///< How often hiding the editor has finished the edit once more.
+    std::function<void()> textIsSet;
 };

@@ -20,7 +20,5 @@ void TPropertyAngleEnum::SetCurrentAngle(float degrees)
 
 void TPropertyAngleEnum::slotRowChanged(int row)
 {
-    if (HasItem(row)) {
-        emit sigAngleChanged(DataAt(row).toFloat());
-    }
+    ReportItem(row, [this, row] { emit sigAngleChanged(DataAt(row).toFloat()); });
 }

@@ -15,9 +15,9 @@ public:
     /** Makes the angle current; for any other than those offered nothing happens. */
     void SetCurrentAngle(float degrees);
 
-signals:
+Q_SIGNALS:
     void sigAngleChanged(float degrees);
 
-private slots:
+private Q_SLOTS:
     void slotRowChanged(int row);
 };

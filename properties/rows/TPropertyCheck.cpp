@@ -11,7 +11,8 @@ TPropertyCheck::TPropertyCheck(const QString& label) : TAbstractProperty(label, 
     constexpr int leftMargin = 5;
     EditorBox::LayOut(container, {{box, 0}})->setContentsMargins(leftMargin, 0, 0, 0);
     container->setFocusProxy(box);
-    connect(box, SIGNAL(toggled(bool)), this, SIGNAL(sigStateChanged(bool)));
+    connect(box, &QCheckBox::toggled, this,
+            [this](bool on) { Report(FirstValue, [this, on] { emit sigStateChanged(on); }); });
 }
 
 bool TPropertyCheck::CurrentState() const
@@ -22,6 +23,7 @@ bool TPropertyCheck::CurrentState() const
 void TPropertyCheck::SetCurrentState(bool on)
 {
     if (box) {
+        SetMixed(false);
         box->setChecked(on);
     }
 }

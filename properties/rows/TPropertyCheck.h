@@ -15,7 +15,7 @@ public:
     bool CurrentState() const;
     void SetCurrentState(bool on);
 
-signals:
+Q_SIGNALS:
     void sigStateChanged(bool on);
 
 private:

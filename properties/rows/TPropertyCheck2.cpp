@@ -9,8 +9,10 @@ TPropertyCheck2::TPropertyCheck2(const QString& label, const QString& text1, con
 {
     auto* boxes = new TCheckBox2Widget(text1, text2, nullptr);
     SetEditor(boxes);
-    connect(boxes, SIGNAL(sigChecked1(bool)), this, SIGNAL(sigChecked1(bool)));
-    connect(boxes, SIGNAL(sigChecked2(bool)), this, SIGNAL(sigChecked2(bool)));
+    connect(boxes, &TCheckBox2Widget::sigChecked1, this,
+            [this](bool on) { Report(FirstValue, [this, on] { emit sigChecked1(on); }); });
+    connect(boxes, &TCheckBox2Widget::sigChecked2, this,
+            [this](bool on) { Report(SecondValue, [this, on] { emit sigChecked2(on); }); });
 }
 
 TCheckBox2Widget* TPropertyCheck2::Boxes() const
@@ -31,6 +33,7 @@ bool TPropertyCheck2::IsChecked2() const
 void TPropertyCheck2::SetChecked1(bool on)
 {
     if (TCheckBox2Widget* boxes = Boxes()) {
+        SetMixed(false, FirstValue);
         boxes->box1->setChecked(on);
     }
 }
@@ -38,6 +41,7 @@ void TPropertyCheck2::SetChecked1(bool on)
 void TPropertyCheck2::SetChecked2(bool on)
 {
     if (TCheckBox2Widget* boxes = Boxes()) {
+        SetMixed(false, SecondValue);
         boxes->box2->setChecked(on);
     }
 }

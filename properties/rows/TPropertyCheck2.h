@@ -17,7 +17,7 @@ public:
     void SetChecked1(bool on);
     void SetChecked2(bool on);
 
-signals:
+Q_SIGNALS:
     void sigChecked1(bool on);
     void sigChecked2(bool on);
 

@@ -8,6 +8,8 @@ TPropertyChoice::TPropertyChoice(const QString& label) : TAbstractProperty(label
     SetEditor(new QComboBox);
 }
 
+TPropertyChoice::~TPropertyChoice() = default;
+
 void TPropertyChoice::ReportRowChanges()
 {
     connect(Box(), SIGNAL(currentIndexChanged(int)), this, SLOT(slotRowChanged(int)));
@@ -42,25 +44,33 @@ void TPropertyChoice::Append(const QString& text, const QVariant& data, const QI
 
 void TPropertyChoice::InsertAsCurrent(const QString& text, const QVariant& data, const QIcon& icon)
 {
-    if (QComboBox* box = Box()) {
+    if (Box()) {
         Insert(0, text, data, icon);
-        box->setCurrentIndex(0);
+        MakeCurrent(0);
     }
 }
 
 void TPropertyChoice::SetCurrentData(const QVariant& data)
 {
-    QComboBox* box = Box();
+    const QComboBox* box = Box();
     const int row = box ? box->findData(data) : -1;
     if (row >= 0) {
-        box->setCurrentIndex(row);
+        MakeCurrent(row);
     }
 }
 
-bool TPropertyChoice::HasItem(int row) const
+void TPropertyChoice::MakeCurrent(int row)
+{
+    SetMixed(false);
+    Box()->setCurrentIndex(row);
+}
+
+void TPropertyChoice::ReportItem(int row, const std::function<void()>& emitSignals)
 {
     const QComboBox* box = Box();
-    return box && row >= 0 && row < box->count();
+    if (box && row >= 0 && row < box->count()) {
+        Report(FirstValue, emitSignals);
+    }
 }
 
 QVariant TPropertyChoice::DataAt(int row) const

@@ -17,6 +17,8 @@ class QComboBox;
 class PROPERTIES_EXPORT TPropertyChoice : public TAbstractProperty
 {
 public:
+    ~TPropertyChoice() override;
+
     /** The list itself, null when the row has lost its editor. */
     QComboBox* Box() const;
 
@@ -33,8 +35,11 @@ protected:
     /** Makes the item with that user data current; without such an item nothing happens. */
     void SetCurrentData(const QVariant& data);
 
-    /** Whether there is an item at this index: what a kind asks before it reports a change. */
-    bool HasItem(int row) const;
+    /** Makes the item at this index, which there must be, the current one. */
+    void MakeCurrent(int row);
+
+    /** Lets a kind report that the item at this index is the current one now; nothing for an index that is none. */
+    void ReportItem(int row, const std::function<void()>& emitSignals);
     /** User data of an item, invalid for an index that is none. */
     QVariant DataAt(int row) const;
     /** User data of the current item, invalid when there is none. */

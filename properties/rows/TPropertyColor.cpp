@@ -38,12 +38,5 @@ TPropertyColor::TPropertyColor(const QString& label, const QColor& current) : TP
 
 void TPropertyColor::slotRowChanged(int row)
 {
-    if (!HasItem(row)) {
-        return;
-    }
-    QColor color;
-    if (row > 0) {
-        color.setNamedColor(Box()->itemText(row));
-    }
-    emit sigColorChanged(color);
+    ReportItem(row, [this, row] { emit sigColorChanged(row > 0 ? QColor(Box()->itemText(row)) : QColor()); });
 }

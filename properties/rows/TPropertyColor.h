@@ -13,10 +13,10 @@ public:
     /** Shows @p current, or "Default" when it is invalid. */
     TPropertyColor(const QString& label, const QColor& current);
 
-signals:
+Q_SIGNALS:
     /** An invalid colour stands for "Default". */
     void sigColorChanged(const QColor& color);
 
-private slots:
+private Q_SLOTS:
     void slotRowChanged(int row);
 };

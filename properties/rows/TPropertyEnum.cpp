@@ -33,10 +33,10 @@ void TPropertyEnum::SetCurrentEnum(int value)
 
 void TPropertyEnum::SetCurrentText(const QString& text)
 {
-    QComboBox* box = Box();
+    const QComboBox* box = Box();
     const int row = box ? box->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive) : -1;
     if (row >= 0) {
-        box->setCurrentIndex(row);
+        MakeCurrent(row);
     } else {
         InsertAsCurrent(text, QVariant());
     }
@@ -44,13 +44,12 @@ void TPropertyEnum::SetCurrentText(const QString& text)
 
 void TPropertyEnum::slotRowChanged(int row)
 {
-    if (!HasItem(row)) {
-        return;
-    }
-    const QString text = Box()->itemText(row);
-    const QPointer<TPropertyEnum> self(this); // A receiver may replace the set, and with it this row.
-    emit sigEnumChanged(DataAt(row).toInt());
-    if (self) {
-        emit sigTextChanged(text);
-    }
+    ReportItem(row, [this, row] {
+        const QString text = Box()->itemText(row);
+        const QPointer<TPropertyEnum> self(this); // A receiver may replace the set, and with it this row.
+        emit sigEnumChanged(DataAt(row).toInt());
+        if (self) {
+            emit sigTextChanged(text);
+        }
+    });
 }

@@ -24,10 +24,10 @@ public:
     /** Makes the item of that text current; an unknown text becomes a new first item without a value. */
     void SetCurrentText(const QString& text);
 
-signals:
+Q_SIGNALS:
     void sigEnumChanged(int value);
     void sigTextChanged(const QString& text);
 
-private slots:
+private Q_SLOTS:
     void slotRowChanged(int row);
 };

@@ -21,11 +21,14 @@ TPropertyFloatSpin::TPropertyFloatSpin(const QString& label, double min, double 
     spin->setSingleStep(step);
     check->hide();
 
+    ForgetWhenGone(spin);
+    ForgetWhenGone(check);
     connect(spin, SIGNAL(valueChanged(double)), this, SLOT(slotDoubleToFloat(double)));
-    connect(check, SIGNAL(clicked(bool)), this, SIGNAL(sigCheckChanged(bool)));
+    connect(check, &QCheckBox::clicked, this,
+            [this](bool on) { Report(SecondValue, [this, on] { emit sigCheckChanged(on); }); });
 }
 
 void TPropertyFloatSpin::slotDoubleToFloat(double value)
 {
-    emit sigValueChanged(value);
+    Report(FirstValue, [this, value] { emit sigValueChanged(value); });
 }

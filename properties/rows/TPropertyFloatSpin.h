@@ -8,8 +8,8 @@ class TDoubleSpinBox;
 /**
  * A row that edits a real number, usually a length in millimetres, optionally with an enable box in front.
  *
- * The parts are open to the set that makes the row, which gives them value, suffix and check state; they live as long
- * as the editor does.
+ * The parts are open to the set that makes the row, which gives them value, suffix and check state. They are null once
+ * the editor is gone.
  */
 class PROPERTIES_EXPORT TPropertyFloatSpin : public TAbstractProperty
 {
@@ -18,14 +18,14 @@ class PROPERTIES_EXPORT TPropertyFloatSpin : public TAbstractProperty
 public:
     TPropertyFloatSpin(const QString& label, double min, double max, double step, int decimals);
 
-    TDoubleSpinBox* const spin;
-    QCheckBox* const check; ///< Hidden until the set shows it; reports clicks only.
+    TDoubleSpinBox* spin;
+    QCheckBox* check; ///< Hidden until the set shows it; reports clicks only.
 
-signals:
+Q_SIGNALS:
     void sigValueChanged(double value);
     void sigCheckChanged(bool on);
 
-private slots:
+private Q_SLOTS:
     /** Passes the value on as it is: it stays a double, whatever the name says. */
     void slotDoubleToFloat(double value);
 };

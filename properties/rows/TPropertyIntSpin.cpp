@@ -9,7 +9,8 @@ TPropertyIntSpin::TPropertyIntSpin(const QString& label, int min, int max, int s
     box->setMinimum(min);
     box->setMaximum(max);
     box->setSingleStep(step);
-    connect(box, SIGNAL(valueChanged(int)), this, SIGNAL(sigValueChanged(int)));
+    connect(box, qOverload<int>(&QSpinBox::valueChanged), this,
+            [this](int value) { Report(FirstValue, [this, value] { emit sigValueChanged(value); }); });
 }
 
 QSpinBox* TPropertyIntSpin::Box() const
@@ -25,6 +26,7 @@ int TPropertyIntSpin::CurrentValue() const
 void TPropertyIntSpin::SetCurrentValue(int value)
 {
     if (QSpinBox* box = Box()) {
+        SetMixed(false);
         box->setValue(value);
     }
 }

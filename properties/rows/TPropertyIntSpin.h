@@ -18,7 +18,7 @@ public:
     void SetStep(int step);
     void SetSuffix(const QString& suffix);
 
-signals:
+Q_SIGNALS:
     void sigValueChanged(int value);
 
 private:

@@ -38,13 +38,13 @@ Osmirel::Layer TPropertyLayer::CurrentLayer() const
 
 void TPropertyLayer::SetCurrentLayer(Osmirel::Layer layer)
 {
-    QComboBox* box = Box();
+    const QComboBox* box = Box();
     if (!box || box->count() == 0) {
         return;
     }
     const int row = box->findData(static_cast<int>(layer));
     if (row >= 0) {
-        box->setCurrentIndex(row);
+        MakeCurrent(row);
     } else {
         InsertAsCurrent(NameOf(layer), static_cast<int>(layer), SwatchOf(layer));
     }
@@ -52,9 +52,7 @@ void TPropertyLayer::SetCurrentLayer(Osmirel::Layer layer)
 
 void TPropertyLayer::slotRowChanged(int row)
 {
-    if (HasItem(row)) {
-        emit sigLayerChanged(static_cast<Osmirel::Layer>(DataAt(row).toInt()));
-    }
+    ReportItem(row, [this, row] { emit sigLayerChanged(static_cast<Osmirel::Layer>(DataAt(row).toInt())); });
 }
 
 const TLayer* TPropertyLayer::Record(Osmirel::Layer layer) const

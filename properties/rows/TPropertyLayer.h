@@ -26,10 +26,10 @@ public:
     /** Makes a layer current; one that is not offered becomes a new first item. An empty list stays empty. */
     void SetCurrentLayer(Osmirel::Layer layer);
 
-signals:
+Q_SIGNALS:
     void sigLayerChanged(Osmirel::Layer layer);
 
-private slots:
+private Q_SLOTS:
     void slotRowChanged(int row);
 
 private:

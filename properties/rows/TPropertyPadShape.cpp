@@ -23,7 +23,7 @@ void TPropertyPadShape::SetCurrentPadShape(TGraphicsPadItem::TypePadShape shape)
 
 void TPropertyPadShape::slotRowChanged(int row)
 {
-    if (HasItem(row)) {
+    ReportItem(row, [this, row] {
         emit sigPadShapeChanged(static_cast<TGraphicsPadItem::TypePadShape>(DataAt(row).toInt()));
-    }
+    });
 }

@@ -16,9 +16,9 @@ public:
     TGraphicsPadItem::TypePadShape CurrentPadShape() const;
     void SetCurrentPadShape(TGraphicsPadItem::TypePadShape shape);
 
-signals:
+Q_SIGNALS:
     void sigPadShapeChanged(TGraphicsPadItem::TypePadShape shape);
 
-private slots:
+private Q_SLOTS:
     void slotRowChanged(int row);
 };

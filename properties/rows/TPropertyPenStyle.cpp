@@ -44,7 +44,5 @@ void TPropertyPenStyle::SetCurrentPenStyle(Qt::PenStyle style)
 
 void TPropertyPenStyle::slotRowChanged(int row)
 {
-    if (HasItem(row)) {
-        emit sigPenStyleChanged(static_cast<Qt::PenStyle>(DataAt(row).toInt()));
-    }
+    ReportItem(row, [this, row] { emit sigPenStyleChanged(static_cast<Qt::PenStyle>(DataAt(row).toInt())); });
 }

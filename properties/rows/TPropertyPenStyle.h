@@ -14,9 +14,9 @@ public:
     Qt::PenStyle CurrentPenStyle() const;
     void SetCurrentPenStyle(Qt::PenStyle style);
 
-signals:
+Q_SIGNALS:
     void sigPenStyleChanged(Qt::PenStyle style);
 
-private slots:
+private Q_SLOTS:
     void slotRowChanged(int row);
 };

@@ -1,6 +1,7 @@
 #include "properties/rows/TPropertySize.h"
 
 #include "properties/rows/EditorBox.h"
+#include "properties/rows/TWidgetHold.h"
 
 #include <workspace/TDoubleSpinBox.h>
 
@@ -20,31 +21,43 @@ TPropertySize::TPropertySize(const QString& label, double min, double max, doubl
         spin->setSingleStep(step);
     }
 
-    connect(width, SIGNAL(valueChanged(double)), this, SIGNAL(sigWidthChanged(double)));
+    ForgetWhenGone(width);
+    ForgetWhenGone(height);
+    const auto reportWidth = [this](double value) {
+        Report(FirstValue, [this, value] { emit sigWidthChanged(value); });
+    };
+    connect(width, qOverload<double>(&QDoubleSpinBox::valueChanged), this, reportWidth);
     connect(width, SIGNAL(valueChanged(double)), this, SLOT(slotWidthChanged(double)));
-    connect(height, SIGNAL(valueChanged(double)), this, SIGNAL(sigHeightChanged(double)));
+    connect(height, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
+            [this](double value) { Report(SecondValue, [this, value] { emit sigHeightChanged(value); }); });
 }
 
 void TPropertySize::SetSuffix(const QString& suffix)
 {
-    width->setSuffix(suffix);
-    height->setSuffix(suffix);
+    if (width && height) {
+        width->setSuffix(suffix);
+        height->setSuffix(suffix);
+    }
 }
 
 void TPropertySize::SetDoubleHeight(bool on)
 {
     doubleHeight = on;
-    slotWidthChanged(width->value());
+    if (width) {
+        slotWidthChanged(width->value());
+    }
 }
 
 void TPropertySize::slotWidthChanged(double newWidth)
 {
-    if (height->isEnabled()) {
+    if (!height || height->isEnabled()) {
         return;
     }
+    const TWidgetHold hold(Editor());
     const QPointer<TPropertySize> self(this); // A receiver may replace the set, and with it this row.
     height->setValue(doubleHeight ? 2 * newWidth : newWidth);
     if (self) {
+        SetMixed(false, SecondValue);
         emit sigHeightChanged(newWidth); // Intended: the last word is the width itself, in the doubled mode too.
     }
 }

@@ -16,18 +16,21 @@ class PROPERTIES_EXPORT TPropertySize : public TAbstractProperty
 public:
     TPropertySize(const QString& label, double min, double max, double step, int decimals);
 
+    /** Does nothing without the editor. */
     void SetSuffix(const QString& suffix);
-    /** Sets whether a height that follows the width is twice the width, and lets it follow at once. */
+    /** Sets whether a height that follows the width is twice the width, and lets it follow at once if there is an
+     *  editor. */
     void SetDoubleHeight(bool on);
 
-    TDoubleSpinBox* const width;
-    TDoubleSpinBox* const height;
+    // Null once the editor is gone.
+    TDoubleSpinBox* width;
+    TDoubleSpinBox* height;
 
-signals:
+Q_SIGNALS:
     void sigWidthChanged(double width);
     void sigHeightChanged(double height);
 
-private slots:
+private Q_SLOTS:
     void slotWidthChanged(double newWidth);
 
 private:

@@ -15,6 +15,12 @@ TPropertyText::TPropertyText(const QString& label, const QString& text, bool mar
     EditorBox::LayOut(box, {{line, 1}, {visible, 0}});
     visible->hide();
     visible->setChecked(true);
-    connect(line, SIGNAL(textChanged(QString)), this, SIGNAL(sigTextChanged(QString)));
-    connect(visible, SIGNAL(clicked(bool)), this, SIGNAL(sigVisibleChanged(bool)));
+    ForgetWhenGone(line);
+    ForgetWhenGone(visible);
+    line->WhenTextIsSet([this] { SetMixed(false); });
+    connect(line, &TLineEdit::textChanged, this, [this](const QString& committed) {
+        Report(FirstValue, [this, committed] { emit sigTextChanged(committed); });
+    });
+    connect(visible, &QCheckBox::clicked, this,
+            [this](bool on) { Report(SecondValue, [this, on] { emit sigVisibleChanged(on); }); });
 }

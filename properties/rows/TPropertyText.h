@@ -18,10 +18,11 @@ public:
     /** With @p markEmpty an empty text is shown on a red background. */
     TPropertyText(const QString& label, const QString& text, bool markEmpty);
 
-    TLineEdit* const line;
-    QCheckBox* const visible; ///< Checked, and hidden until the set shows it; reports clicks only.
+    // Null once the editor is gone.
+    TLineEdit* line;
+    QCheckBox* visible; ///< Checked, and hidden until the set shows it; reports clicks only.
 
-signals:
+Q_SIGNALS:
     void sigTextChanged(const QString& text);
     void sigVisibleChanged(bool on);
 };

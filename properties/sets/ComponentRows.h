@@ -50,23 +50,17 @@ inline void LockText(TGraphicsItem* text, bool lock)
     }
 }
 
-/** Write at once whether the components' designators, or values, are locked in place. */
-template <class Item>
-void LockRefDes(const QList<Item*>& items, bool lock)
+/** Locks a component's designator, or value, in place, or unlocks it. */
+inline void LockRefDes(TGraphicsComponentItem& item, bool lock)
 {
-    for (Item* item : items) {
-        item->SetLockRefDes(lock);
-        LockText(item->RefDesText(), lock);
-    }
+    item.SetLockRefDes(lock);
+    LockText(item.RefDesText(), lock);
 }
 
-template <class Item>
-void LockValue(const QList<Item*>& items, bool lock)
+inline void LockValue(TGraphicsComponentItem& item, bool lock)
 {
-    for (Item* item : items) {
-        item->SetLockValue(lock);
-        LockText(item->ValueText(), lock);
-    }
+    item.SetLockValue(lock);
+    LockText(item.ValueText(), lock);
 }
 
 } // namespace ComponentRows

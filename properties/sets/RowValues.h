@@ -44,12 +44,12 @@ inline void Show(TPropertySize& row, double width, double height, const QString&
 }
 
 template <class Row, class Show>
-void ShowIfShared(Row& row, bool allEqual, Show show)
+void ShowIfShared(Row& row, bool allEqual, Show show, TAbstractProperty::Value value = TAbstractProperty::FirstValue)
 {
     if (allEqual) {
         show();
     } else {
-        row.SetMixed(true);
+        row.SetMixed(true, value);
     }
 }
 
@@ -87,7 +87,8 @@ inline void Show(TPropertyCheck& row, const TGathered<bool>& values)
 inline void Show(TPropertyCheck2& row, const TGathered<bool>& first, const TGathered<bool>& second)
 {
     ShowIfShared(row, first.AllEqual(), [&] { row.SetChecked1(first.First()); });
-    ShowIfShared(row, second.AllEqual(), [&] { row.SetChecked2(second.First()); });
+    ShowIfShared(
+        row, second.AllEqual(), [&] { row.SetChecked2(second.First()); }, TAbstractProperty::SecondValue);
 }
 
 /** The "Show" box of a text row. */
@@ -101,7 +102,8 @@ inline void ShowVisible(TPropertyText& row, const TGathered<bool>& values)
 inline void ShowCheck(TPropertyFloatSpin& row, const TGathered<bool>& values)
 {
     row.check->show();
-    ShowIfShared(row, values.AllEqual(), [&] { row.check->setChecked(values.First()); });
+    ShowIfShared(
+        row, values.AllEqual(), [&] { row.check->setChecked(values.First()); }, TAbstractProperty::SecondValue);
 }
 
 } // namespace RowValues

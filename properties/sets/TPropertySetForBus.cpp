@@ -1,19 +1,29 @@
 #include "properties/sets/TPropertySetForBus.h"
 
 #include "properties/sets/RowValues.h"
+#include "properties/sets/Selection.h"
 
 #include <objects/TGraphicsBusItem.h>
 
-TPropertySetForBus::TPropertySetForBus(QList<TGraphicsItem*> selection) : TPropertySet(tr("Bus"))
+namespace {
+
+/** Not by their type; but what has no name of a bus, such as a junction of buses, cannot be given one. */
+struct Buses
+{
+    static bool Accepts(const TGraphicsItem& item)
+    {
+        return item.Layer() == Osmirel::SchematicBuses && dynamic_cast<const TGraphicsBusItem*>(&item);
+    }
+};
+
+} // namespace
+
+TPropertySetForBus::TPropertySetForBus(QList<TGraphicsItem*> selection)
+    : TPropertySet(tr("Bus")), buses(Selection::Pick<Buses, TGraphicsBusItem>(selection))
 {
     TGathered<QString> names;
-    for (TGraphicsItem* item : qAsConst(selection)) {
-        // Not by their type; but what has no name of a bus, such as a junction of buses, cannot be given one.
-        auto* bus = item->Layer() == Osmirel::SchematicBuses ? dynamic_cast<TGraphicsBusItem*>(item) : nullptr;
-        if (bus) {
-            buses.append(bus);
-            names.Add(bus->Name());
-        }
+    for (const TGraphicsBusItem* bus : qAsConst(buses)) {
+        names.Add(bus->Name());
     }
     if (buses.isEmpty()) {
         return;
@@ -26,7 +36,5 @@ TPropertySetForBus::TPropertySetForBus(QList<TGraphicsItem*> selection) : TPrope
 
 void TPropertySetForBus::SetName(QString newName)
 {
-    for (TGraphicsBusItem* bus : qAsConst(buses)) {
-        bus->SetName(newName);
-    }
+    WriteAll(buses, [&newName](TGraphicsBusItem& bus) { bus.SetName(newName); });
 }

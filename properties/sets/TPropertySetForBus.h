@@ -14,7 +14,7 @@ public:
     /** Keeps the buses of @p selection. */
     explicit TPropertySetForBus(QList<TGraphicsItem*> selection);
 
-public slots:
+public Q_SLOTS:
     /** Intended: repaints nothing and cannot be undone. */
     void SetName(QString newName);
 

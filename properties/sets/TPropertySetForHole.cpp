@@ -2,16 +2,12 @@
 
 #include "properties/commands/TCmdPrimitive.h"
 #include "properties/sets/RowValues.h"
+#include "properties/sets/Selection.h"
 
-TPropertySetForHole::TPropertySetForHole(const QList<TGraphicsItem*>& items) : TPropertySet(tr("Hole"))
+TPropertySetForHole::TPropertySetForHole(const QList<TGraphicsItem*>& items)
+    : TPropertySet(tr("Hole")), holes(Selection::Pick<Attributes::OfKind<ItemType::Hole>, TGraphicsRectItem>(items))
 {
-    float diameter = 0;
-    for (TGraphicsItem* item : items) {
-        if (item->type() == ItemType::Hole) {
-            holes.append(static_cast<TGraphicsRectItem*>(item));
-            diameter = static_cast<float>(holes.last()->Size().width());
-        }
-    }
+    const auto diameter = holes.isEmpty() ? 0.0F : static_cast<float>(holes.last()->Size().width());
     diam = NewRow<TPropertyFloatSpin>(tr("Diameter:"), 0.1, 99.0, 0.1, 2);
     // Intended: always millimetres, whatever unit the workspace shows.
     RowValues::Show(*diam, Units::MillimetresFromScene(static_cast<double>(diameter)), tr(" mm"));
@@ -23,15 +19,14 @@ void TPropertySetForHole::slotDiam(double diameter)
 {
     const double size = Units::SceneFromMillimetres(diameter);
     QList<TGraphicsRectItem*> pending;
+    QList<TGraphicsRectItem*> bypassing;
     for (TGraphicsRectItem* hole : qAsConst(holes)) {
         // Intended: each hole's own flag decides, not the first one's.
-        if (hole->HasTFlag(TGraphicsItem::UndoBypass)) {
-            Attributes::RectSize::Write(*hole, {size, size});
-        } else {
-            pending.append(hole);
-        }
+        (hole->HasTFlag(TGraphicsItem::UndoBypass) ? bypassing : pending).append(hole);
     }
-    if (!pending.isEmpty()) {
+    const QPointer<TPropertySetForHole> self(this);
+    WriteAll(bypassing, [size](TGraphicsRectItem& hole) { Attributes::RectSize::Write(hole, {size, size}); });
+    if (self && !pending.isEmpty()) {
         Emit(new TCmdRectSize(pending, size, size));
     }
 }

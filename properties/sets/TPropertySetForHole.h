@@ -14,7 +14,7 @@ public:
     /** Keeps the holes of @p items; the row shows the last one's diameter. */
     explicit TPropertySetForHole(const QList<TGraphicsItem*>& items);
 
-public slots:
+public Q_SLOTS:
     /** The new diameter in millimetres. */
     void slotDiam(double diameter);
 

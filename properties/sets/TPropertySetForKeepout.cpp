@@ -2,6 +2,7 @@
 
 #include "properties/commands/TCmdKeepout.h"
 #include "properties/rows/TPropertyCheck.h"
+#include "properties/sets/Selection.h"
 
 #include <objects/TGraphicsKeepoutItem.h>
 #include <workspace/TWorkspace.h>
@@ -9,13 +10,9 @@
 #include <algorithm>
 
 TPropertySetForKeepout::TPropertySetForKeepout(const QList<TGraphicsItem*>& selection)
-    : TPropertySet(tr("Keepout polygons"))
+    : TPropertySet(tr("Keepout polygons")),
+      keepouts(Selection::Pick<Attributes::OfKind<ItemType::Keepout>, TGraphicsKeepoutItem>(selection))
 {
-    for (TGraphicsItem* item : selection) {
-        if (item->type() == ItemType::Keepout) {
-            keepouts.append(static_cast<TGraphicsKeepoutItem*>(item));
-        }
-    }
     const TWorkspace* workspace = keepouts.isEmpty() ? nullptr : keepouts.first()->Workspace();
     if (!workspace) {
         return;

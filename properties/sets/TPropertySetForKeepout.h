@@ -15,7 +15,7 @@ class PROPERTIES_EXPORT TPropertySetForKeepout : public TPropertySet
 public:
     explicit TPropertySetForKeepout(const QList<TGraphicsItem*>& selection);
 
-public slots:
+public Q_SLOTS:
     /** Acts on the layer of the row that sends the signal; called otherwise it does nothing. */
     void SetEn(bool on);
 

@@ -13,7 +13,7 @@ public:
     /** Keeps the polylines of @p selection that lie on the milling layer; the row shows the last one's width. */
     explicit TPropertySetForMilling(QList<TGraphicsItem*> selection);
 
-public slots:
+public Q_SLOTS:
     /** The new width in millimetres. */
     void slotSetLineWidth(double width);
 

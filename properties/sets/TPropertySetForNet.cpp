@@ -3,21 +3,20 @@
 #include "properties/commands/TCmdNet.h"
 #include "properties/rows/TPropertyColor.h"
 #include "properties/sets/RowValues.h"
+#include "properties/sets/Selection.h"
 
 #include <application/TSchematic.h>
 
 #include <QSet>
 
 TPropertySetForNet::TPropertySetForNet(QList<TGraphicsItem*> selection, TSchematic* ofSchematic)
-    : TPropertySet(selection.size() == 1 ? tr("Net") : tr("Nets")), schematic(ofSchematic)
+    : TPropertySet(Selection::IsSingle(selection) ? tr("Net") : tr("Nets")), schematic(ofSchematic)
 {
     TGathered<QString> names;
     QSet<QString> known;
-    for (const TGraphicsItem* item : qAsConst(selection)) {
-        if (item->type() != ItemType::NetWire) {
-            continue;
-        }
-        const QString onNet = item->Net();
+    const QList<TGraphicsItem*> wires = Selection::Pick<Attributes::OfKind<ItemType::NetWire>>(selection);
+    for (const TGraphicsItem* wire : wires) {
+        const QString onNet = wire->Net();
         names.Add(onNet);
         if (!onNet.isEmpty() && !known.contains(onNet)) {
             known.insert(onNet);

@@ -22,7 +22,7 @@ public:
      * them on pages of @p schematic. */
     TPropertySetForNet(QList<TGraphicsItem*> selection, TSchematic* schematic);
 
-public slots:
+public Q_SLOTS:
     void slotSetClass(QString newClass);
     /** "Default", or a digit. */
     void slotSetPrio(QString newLevel);

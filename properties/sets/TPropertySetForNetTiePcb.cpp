@@ -3,17 +3,15 @@
 #include "properties/commands/TCmdNetTie.h"
 #include "properties/commands/Units.h"
 #include "properties/sets/NetTieRows.h"
+#include "properties/sets/Selection.h"
 
 #include <workspace/TWorkspace.h>
 
 TPropertySetForNetTiePcb::TPropertySetForNetTiePcb(const QList<TGraphicsItem*>& selection, TProject* ofProject)
-    : TPropertySet(tr("Net Tie")), project(ofProject)
+    : TPropertySet(tr("Net Tie")),
+      ties(Selection::Pick<Attributes::OfKind<ItemType::NetTiePcb>, TGraphicsNetTiePcbItem>(selection)),
+      project(ofProject)
 {
-    for (TGraphicsItem* item : selection) {
-        if (item->type() == ItemType::NetTiePcb) {
-            ties.append(static_cast<TGraphicsNetTiePcbItem*>(item));
-        }
-    }
     if (!ties.isEmpty()) {
         MakeRows(*ties.first());
     }

@@ -16,7 +16,7 @@ class PROPERTIES_EXPORT TPropertySetForNetTiePcb : public TPropertySet
 public:
     TPropertySetForNetTiePcb(const QList<TGraphicsItem*>& selection, TProject* project);
 
-public slots:
+public Q_SLOTS:
     void SetName(QString newName);
     void SetNameVis(bool visible);
     void SetLayer(Osmirel::Layer newLayer);

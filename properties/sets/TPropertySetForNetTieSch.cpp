@@ -2,15 +2,13 @@
 
 #include "properties/commands/TCmdNetTie.h"
 #include "properties/sets/NetTieRows.h"
+#include "properties/sets/Selection.h"
 
 TPropertySetForNetTieSch::TPropertySetForNetTieSch(const QList<TGraphicsItem*>& selection, TProject* ofProject)
-    : TPropertySet(tr("Net Tie")), project(ofProject)
+    : TPropertySet(tr("Net Tie")),
+      ties(Selection::Pick<Attributes::OfKind<ItemType::NetTieSch>, TGraphicsNetTieSchItem>(selection)),
+      project(ofProject)
 {
-    for (TGraphicsItem* item : selection) {
-        if (item->type() == ItemType::NetTieSch) {
-            ties.append(static_cast<TGraphicsNetTieSchItem*>(item));
-        }
-    }
     if (!ties.isEmpty()) {
         MakeRows(*ties.first());
     }

@@ -15,7 +15,7 @@ class PROPERTIES_EXPORT TPropertySetForNetTieSch : public TPropertySet
 public:
     TPropertySetForNetTieSch(const QList<TGraphicsItem*>& selection, TProject* project);
 
-public slots:
+public Q_SLOTS:
     void SetName(QString newName);
     void SetNameVis(bool visible);
     /** 0, 1 or 2. */

@@ -1,7 +1,7 @@
 #include "properties/sets/TPropertySetForOutline.h"
 
-#include "properties/commands/Units.h"
 #include "properties/sets/RowValues.h"
+#include "properties/sets/Selection.h"
 
 #include <objects/TGraphicsOutlineItem.h>
 
@@ -9,15 +9,11 @@
 
 TPropertySetForOutline::TPropertySetForOutline(const QList<TGraphicsItem*>& selection) : TPropertySet(tr("Outline"))
 {
-    const TGraphicsOutlineItem* outline = nullptr;
-    for (const TGraphicsItem* item : selection) {
-        if (item->type() == ItemType::Outline) {
-            outline = static_cast<const TGraphicsOutlineItem*>(item);
-        }
-    }
-    if (!outline) {
+    const auto outlines = Selection::Pick<Attributes::OfKind<ItemType::Outline>, TGraphicsOutlineItem>(selection);
+    if (outlines.isEmpty()) {
         return;
     }
+    const TGraphicsOutlineItem* outline = outlines.last();
     const QRectF extent = outline->Path().boundingRect();
     size = NewRow<TPropertySize>(tr("Size:"), 0.0, 9999.0, 1.0, 2);
     RowValues::Show(*size, Units::MillimetresFromScene(std::abs(extent.width())),

@@ -2,6 +2,7 @@
 
 #include "properties/commands/TCmdPackage.h"
 #include "properties/sets/ComponentRows.h"
+#include "properties/sets/Selection.h"
 
 #include <objects/TGraphicsPackageItem.h>
 
@@ -20,17 +21,16 @@ struct TPropertySetForPackage::Values : ComponentRows::Values
 
 TPropertySetForPackage::TPropertySetForPackage(QList<TGraphicsItem*> selection, QList<Osmirel::Layer> layers,
                                                TBoard* ofBoard)
-    : TPropertySet(selection.size() == 1 ? tr("Package") : tr("Packages")), board(ofBoard)
+    : TPropertySet(Selection::IsSingle(selection) ? tr("Package") : tr("Packages")),
+      packages(Selection::Pick<Attributes::OfKind<ItemType::Package>, TGraphicsPackageItem>(selection)),
+      board(ofBoard)
 {
     Values values;
-    for (TGraphicsItem* item : qAsConst(selection)) {
-        if (item->type() == ItemType::Package) {
-            packages.append(static_cast<TGraphicsPackageItem*>(item));
-            values.Add(*packages.last());
-        }
+    for (const TGraphicsPackageItem* item : qAsConst(packages)) {
+        values.Add(*item);
     }
     if (!packages.isEmpty()) {
-        MakeRows(values, layers, selection.first()->Workspace());
+        MakeRows(values, layers, Selection::WorkspaceOf(selection));
     }
 }
 
@@ -66,28 +66,30 @@ void TPropertySetForPackage::SetRefDes(QString) {}
 
 void TPropertySetForPackage::SetValue(QString newValue)
 {
-    for (TGraphicsPackageItem* item : qAsConst(packages)) {
-        item->SetValue(newValue);
+    const QPointer<TPropertySetForPackage> self(this);
+    WriteAll(packages, [&newValue](TGraphicsPackageItem& item) { item.SetValue(newValue); });
+    if (self) {
+        emit sigAttr();
     }
-    emit sigAttr();
 }
 
 void TPropertySetForPackage::SetPackage(QString newPackage)
 {
-    for (TGraphicsPackageItem* item : qAsConst(packages)) {
-        item->SetPackageName(newPackage);
+    const QPointer<TPropertySetForPackage> self(this);
+    WriteAll(packages, [&newPackage](TGraphicsPackageItem& item) { item.SetPackageName(newPackage); });
+    if (self) {
+        emit sigAttr();
     }
-    emit sigAttr();
 }
 
 void TPropertySetForPackage::SetLockRefDes(bool on)
 {
-    ComponentRows::LockRefDes(packages, on);
+    WriteAll(packages, [on](TGraphicsPackageItem& item) { ComponentRows::LockRefDes(item, on); });
 }
 
 void TPropertySetForPackage::SetLockValue(bool on)
 {
-    ComponentRows::LockValue(packages, on);
+    WriteAll(packages, [on](TGraphicsPackageItem& item) { ComponentRows::LockValue(item, on); });
 }
 
 void TPropertySetForPackage::SetSide(Osmirel::Layer layer)

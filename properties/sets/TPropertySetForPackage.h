@@ -20,11 +20,11 @@ public:
     /** "O" moves the packages to the other side. */
     void KeyPressEvent(QKeyEvent* event) override;
 
-signals:
+Q_SIGNALS:
     /** A value or a package name was changed directly. */
     void sigAttr();
 
-public slots:
+public Q_SLOTS:
     /** Intended: does nothing, since designators are renamed by a command of the application's only. */
     void SetRefDes(QString refDes);
     /** Written at once, without a command; emits `sigAttr`. */

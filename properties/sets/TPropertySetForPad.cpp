@@ -4,16 +4,17 @@
 #include "properties/commands/TCmdPad.h"
 #include "properties/commands/TCmdVia.h"
 #include "properties/sets/RowValues.h"
+#include "properties/sets/Selection.h"
 #include "properties/sets/TDisplayUnit.h"
 
 struct TPropertySetForPad::Values
 {
     // Shown as the first pad's, whether or not the others agree: that is intended.
-    double width = 0;
-    double height = 0;
-    double drill = 0;
-    double maskClearance = 0;
-    double pasteClearance = 0;
+    double width;
+    double height;
+    double drill;
+    double maskClearance;
+    double pasteClearance;
     // Shown when all pads agree.
     TGathered<QString> number;
     TGathered<QString> name;
@@ -24,18 +25,17 @@ struct TPropertySetForPad::Values
     TGathered<bool> maskEnable;
     TGathered<bool> pasteEnable;
 
-    void AddFirst(const TGraphicsPadItem& pad);
+    explicit Values(const TGraphicsPadItem& first);
     void Add(const TGraphicsPadItem& pad);
 };
 
-void TPropertySetForPad::Values::AddFirst(const TGraphicsPadItem& pad)
-{
-    width = pad.Width();
-    height = pad.Height();
-    drill = Attributes::ViaDrill::Read(pad);
-    maskClearance = Attributes::MaskClearance::Read(pad);
-    pasteClearance = Attributes::PasteClearance::Read(pad);
-}
+TPropertySetForPad::Values::Values(const TGraphicsPadItem& first)
+    : width(first.Width()),
+      height(first.Height()),
+      drill(Attributes::ViaDrill::Read(first)),
+      maskClearance(Attributes::MaskClearance::Read(first)),
+      pasteClearance(Attributes::PasteClearance::Read(first))
+{}
 
 void TPropertySetForPad::Values::Add(const TGraphicsPadItem& pad)
 {
@@ -50,24 +50,18 @@ void TPropertySetForPad::Values::Add(const TGraphicsPadItem& pad)
 }
 
 TPropertySetForPad::TPropertySetForPad(const QList<TGraphicsItem*>& selection, const QList<Osmirel::Layer>& layers)
-    : TPropertySet(selection.size() == 1 ? tr("Pad") : tr("Pads"))
+    : TPropertySet(Selection::IsSingle(selection) ? tr("Pad") : tr("Pads")),
+      items(Selection::Pick<Attributes::Pads>(selection))
 {
-    Values values;
-    for (TGraphicsItem* item : selection) {
-        if (item->type() != ItemType::Pad) {
-            continue;
-        }
-        const auto& pad = static_cast<const TGraphicsPadItem&>(*item);
-        if (items.isEmpty()) {
-            values.AddFirst(pad);
-        }
-        values.Add(pad);
-        hasPackagePad = hasPackagePad || pad.parentItem();
-        items.append(item);
+    if (items.isEmpty()) {
+        return;
     }
-    if (!items.isEmpty()) {
-        MakeRows(values, layers);
+    Values values(static_cast<const TGraphicsPadItem&>(*items.first()));
+    for (const TGraphicsItem* item : qAsConst(items)) {
+        values.Add(static_cast<const TGraphicsPadItem&>(*item));
+        hasPackagePad = hasPackagePad || item->parentItem();
     }
+    MakeRows(values, layers);
 }
 
 void TPropertySetForPad::MakeRows(const Values& values, const QList<Osmirel::Layer>& layers)

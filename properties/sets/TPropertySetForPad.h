@@ -22,7 +22,7 @@ public:
     /** Keeps the pads of @p selection; @p layers are those that the "Side:" row offers. */
     TPropertySetForPad(const QList<TGraphicsItem*>& selection, const QList<Osmirel::Layer>& layers);
 
-public slots:
+public Q_SLOTS:
     /** Lengths in millimetres. */
     void SetNumber(QString newNumber);
     /** Intended: does nothing, since names of pads are only displayed. */

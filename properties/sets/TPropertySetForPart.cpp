@@ -2,6 +2,7 @@
 
 #include "properties/rows/TPropertyIntSpin.h"
 #include "properties/sets/ComponentRows.h"
+#include "properties/sets/Selection.h"
 
 #include <objects/TGraphicsPartItem.h>
 
@@ -19,14 +20,12 @@ struct TPropertySetForPart::Values : ComponentRows::Values
 };
 
 TPropertySetForPart::TPropertySetForPart(QList<TGraphicsItem*> selection)
-    : TPropertySet(selection.size() == 1 ? tr("Part") : tr("Parts"))
+    : TPropertySet(Selection::IsSingle(selection) ? tr("Part") : tr("Parts")),
+      parts(Selection::Pick<Attributes::OfKind<ItemType::Part>, TGraphicsPartItem>(selection))
 {
     Values values;
-    for (TGraphicsItem* item : qAsConst(selection)) {
-        if (item->type() == ItemType::Part) {
-            parts.append(static_cast<TGraphicsPartItem*>(item));
-            values.Add(*parts.last());
-        }
+    for (const TGraphicsPartItem* item : qAsConst(parts)) {
+        values.Add(*item);
     }
     if (!parts.isEmpty()) {
         MakeRows(values);
@@ -63,10 +62,10 @@ void TPropertySetForPart::MakeRows(const Values& values)
 
 void TPropertySetForPart::SetLockRefDes(bool on)
 {
-    ComponentRows::LockRefDes(parts, on);
+    WriteAll(parts, [on](TGraphicsPartItem& item) { ComponentRows::LockRefDes(item, on); });
 }
 
 void TPropertySetForPart::SetLockValue(bool on)
 {
-    ComponentRows::LockValue(parts, on);
+    WriteAll(parts, [on](TGraphicsPartItem& item) { ComponentRows::LockValue(item, on); });
 }

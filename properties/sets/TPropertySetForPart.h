@@ -1,8 +1,9 @@
 #pragma once
 
-#include "properties/sets/TGathered.h"
 #include "properties/TPropertySet.h"
 
+template <class Value>
+class TGathered;
 class TGraphicsPartItem;
 class TPropertyCheck2;
 class TPropertyIntSpin;
@@ -17,7 +18,7 @@ public:
     /** Intended: the name of the set counts all items that are given. Keeps the parts of @p selection. */
     explicit TPropertySetForPart(QList<TGraphicsItem*> selection);
 
-public slots:
+public Q_SLOTS:
     /** Written at once, without a command. */
     void SetLockRefDes(bool on);
     void SetLockValue(bool on);

@@ -3,19 +3,9 @@
 #include "properties/commands/TCmdPin.h"
 #include "properties/rows/TPropertyIntSpin.h"
 #include "properties/sets/RowValues.h"
+#include "properties/sets/Selection.h"
 
 #include <objects/TGraphicsPartItem.h>
-
-#include <algorithm>
-
-namespace {
-
-bool IsPin(const TGraphicsItem* item)
-{
-    return item->type() == ItemType::Pin;
-}
-
-} // namespace
 
 struct TPropertySetForPin::Values
 {
@@ -44,14 +34,12 @@ void TPropertySetForPin::Values::Add(const TGraphicsPinItem& pin)
 }
 
 TPropertySetForPin::TPropertySetForPin(QList<TGraphicsItem*> selection)
-    : TPropertySet(std::count_if(selection.cbegin(), selection.cend(), IsPin) == 1 ? tr("Pin") : tr("Pins"))
+    : TPropertySet(Selection::Pick<Attributes::Pins>(selection).size() == 1 ? tr("Pin") : tr("Pins")),
+      pins(Selection::Pick<Attributes::Pins>(selection))
 {
     Values values;
-    for (TGraphicsItem* item : qAsConst(selection)) {
-        if (IsPin(item)) {
-            pins.append(item);
-            values.Add(static_cast<const TGraphicsPinItem&>(*item));
-        }
+    for (const TGraphicsItem* pin : qAsConst(pins)) {
+        values.Add(static_cast<const TGraphicsPinItem&>(*pin));
     }
     if (pins.isEmpty()) {
         return;

@@ -18,7 +18,7 @@ public:
     /** Keeps the pins of @p selection, and is named for their number, not for that of all items. */
     explicit TPropertySetForPin(QList<TGraphicsItem*> selection);
 
-public slots:
+public Q_SLOTS:
     void SetName(const QString& newName);
     void SetNameVisible(bool on);
     void SetNumber(const QString& newNumber);

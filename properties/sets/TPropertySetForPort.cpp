@@ -2,20 +2,20 @@
 
 #include "properties/commands/TCmdPort.h"
 #include "properties/sets/RowValues.h"
+#include "properties/sets/Selection.h"
 
 #include <application/TSchematic.h>
 
 TPropertySetForPort::TPropertySetForPort(QList<TGraphicsItem*> selection, TSchematic* ofSchematic)
-    : TPropertySet(selection.size() == 1 ? tr("Port") : tr("Ports")), schematic(ofSchematic)
+    : TPropertySet(Selection::IsSingle(selection) ? tr("Port") : tr("Ports")),
+      ports(Selection::Pick<Attributes::OfKind<ItemType::Port>, TGraphicsPortItem>(selection)),
+      schematic(ofSchematic)
 {
     TGathered<QString> names;
     TGathered<bool> visible;
-    for (TGraphicsItem* item : qAsConst(selection)) {
-        if (item->type() == ItemType::Port) {
-            ports.append(static_cast<TGraphicsPortItem*>(item));
-            names.Add(ports.last()->Name());
-            visible.Add(ports.last()->NameVisible());
-        }
+    for (const TGraphicsPortItem* port : qAsConst(ports)) {
+        names.Add(port->Name());
+        visible.Add(port->NameVisible());
     }
     if (ports.isEmpty()) {
         return;

@@ -16,7 +16,7 @@ public:
      * pages of @p schematic. */
     TPropertySetForPort(QList<TGraphicsItem*> selection, TSchematic* schematic);
 
-public slots:
+public Q_SLOTS:
     void SetName(QString newName);
     void SetNameVis(bool visible);
 

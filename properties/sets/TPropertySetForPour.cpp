@@ -4,6 +4,7 @@
 #include "properties/rows/TPropertyIntSpin.h"
 #include "properties/sets/CompositionModes.h"
 #include "properties/sets/RowValues.h"
+#include "properties/sets/Selection.h"
 
 /** What the rows show of a pour. */
 struct TPropertySetForPour::Values
@@ -45,18 +46,14 @@ TPropertySetForPour::Values::Values(const TGraphicsPourItem& pour)
 {}
 
 TPropertySetForPour::TPropertySetForPour(QList<TGraphicsItem*> selection, QList<Osmirel::Layer> layers)
-    : TPropertySet(selection.size() == 1 ? tr("Pour") : tr("Pours"))
+    : TPropertySet(Selection::IsSingle(selection) ? tr("Pour") : tr("Pours")),
+      pours(Selection::Pick<Attributes::OfKind<ItemType::Pour>, TGraphicsPourItem>(selection))
 {
-    for (TGraphicsItem* item : qAsConst(selection)) {
-        if (item->type() == ItemType::Pour) {
-            pours.append(static_cast<TGraphicsPourItem*>(item));
-        }
-    }
     // Intended: without a pour the rows show a cleared record.
     const Values shown = pours.isEmpty() ? Values() : Values(*pours.last());
     MakeFillRows(shown);
     MakeClearanceAndThermalRows(shown);
-    MakeDrawingRows(shown, layers, selection.isEmpty() ? nullptr : selection.first()->Workspace());
+    MakeDrawingRows(shown, layers, Selection::WorkspaceOf(selection));
 
     // Intended: the rows for border clearance, connection, composition mode and alpha are made and not shown.
     AddProperties({clearanceToEtch, clearanceToPour, fillType, lineWidth, minimumArea, priority, thermalEnable,
@@ -227,16 +224,16 @@ void TPropertySetForPour::ThermalTypeChanged(int type)
 
 void TPropertySetForPour::SetCompMode(int mode)
 {
-    for (TGraphicsPourItem* pour : qAsConst(pours)) {
-        pour->SetCompositionMode(mode);
-        pour->update();
-    }
+    WriteAll(pours, [mode](TGraphicsPourItem& pour) {
+        pour.SetCompositionMode(mode);
+        pour.update();
+    });
 }
 
 void TPropertySetForPour::SetAlpha(int newAlpha)
 {
-    for (TGraphicsPourItem* pour : qAsConst(pours)) {
-        pour->SetAlpha(newAlpha);
-        pour->update();
-    }
+    WriteAll(pours, [newAlpha](TGraphicsPourItem& pour) {
+        pour.SetAlpha(newAlpha);
+        pour.update();
+    });
 }

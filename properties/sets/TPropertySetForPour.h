@@ -22,7 +22,7 @@ public:
     /** Keeps the pours of @p selection; @p layers are those that the "Layer:" row offers. */
     TPropertySetForPour(QList<TGraphicsItem*> selection, QList<Osmirel::Layer> layers);
 
-public slots:
+public Q_SLOTS:
     /** Lengths in millimetres, the area in square millimetres. */
     void SetClearanceToEtch(qreal clearance);
     void SetClearanceToBorder(qreal clearance);

@@ -3,11 +3,25 @@
 #include "properties/commands/TCmdPrimitive.h"
 #include "properties/rows/TPropertyColor.h"
 #include "properties/sets/RowValues.h"
+#include "properties/sets/Selection.h"
 #include "properties/sets/TDisplayUnit.h"
 
 #include <graphics/TGraphicsLineItem.h>
 
 #include <cmath>
+
+namespace {
+
+/** All but polylines, which are milling paths. */
+struct EditedPrimitives
+{
+    static bool Accepts(const TGraphicsItem& item)
+    {
+        return Attributes::AnyPrimitive::Accepts(item) && item.type() != ItemType::Polyline;
+    }
+};
+
+} // namespace
 
 struct TPropertySetForPrimitives::Values
 {
@@ -33,23 +47,18 @@ void TPropertySetForPrimitives::Values::Add(const TGraphicsPenItem& item)
 }
 
 TPropertySetForPrimitives::TPropertySetForPrimitives(QList<TGraphicsItem*> selection, QList<Osmirel::Layer> layers)
-    : TPropertySet(selection.size() == 1 ? tr("Primitive") : tr("Primitives"))
+    : TPropertySet(Selection::IsSingle(selection) ? tr("Primitive") : tr("Primitives")),
+      items(Selection::Pick<EditedPrimitives>(selection))
 {
+    if (items.isEmpty()) {
+        return;
+    }
     Values values;
-    for (TGraphicsItem* item : qAsConst(selection)) {
-        if (!Attributes::AnyPrimitive::Accepts(*item) || item->type() == ItemType::Polyline) {
-            continue;
-        }
-        const auto& drawing = static_cast<const TGraphicsPenItem&>(*item);
-        if (items.isEmpty()) {
-            values.lineWidth = Attributes::PenWidth::Read(drawing);
-        }
-        values.Add(drawing);
-        items.append(item);
+    values.lineWidth = Attributes::PenWidth::Read(static_cast<const TGraphicsPenItem&>(*items.first()));
+    for (const TGraphicsItem* item : qAsConst(items)) {
+        values.Add(static_cast<const TGraphicsPenItem&>(*item));
     }
-    if (!items.isEmpty()) {
-        MakeRows(values, layers);
-    }
+    MakeRows(values, layers);
 }
 
 void TPropertySetForPrimitives::MakeRows(const Values& values, const QList<Osmirel::Layer>& layers)

@@ -22,7 +22,7 @@ public:
     /** Keeps the drawings of @p selection but polylines; @p layers are those that the "Layer:" row offers. */
     TPropertySetForPrimitives(QList<TGraphicsItem*> selection, QList<Osmirel::Layer> layers);
 
-public slots:
+public Q_SLOTS:
     void slotSetColor(const QColor& newColor);
     /** A `Qt::BrushStyle`. */
     void slotSetFillStyle(int style);

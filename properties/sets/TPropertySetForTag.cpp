@@ -3,19 +3,17 @@
 #include "properties/commands/TCmdTag.h"
 #include "properties/commands/TCmdText.h"
 #include "properties/sets/RowValues.h"
+#include "properties/sets/Selection.h"
 #include "properties/sets/TextRows.h"
 
 #include <objects/TGraphicsTagItem.h>
 
 TPropertySetForTag::TPropertySetForTag(const QList<TGraphicsItem*>& selection, TProject* ofProject)
-    : TPropertySet(tr("Tags")), project(ofProject)
+    : TPropertySet(tr("Tags")),
+      tags(Selection::Pick<Attributes::OfKind<ItemType::Tag>, TGraphicsTagItem>(selection)),
+      texts(Selection::Pick<Attributes::OfKind<ItemType::Tag>, TGraphicsTextItem>(selection)),
+      project(ofProject)
 {
-    for (TGraphicsItem* item : selection) {
-        if (item->type() == ItemType::Tag) {
-            tags.append(static_cast<TGraphicsTagItem*>(item));
-            texts.append(tags.last());
-        }
-    }
     if (!tags.isEmpty()) {
         MakeRows(*tags.last());
     }
@@ -82,5 +80,5 @@ void TPropertySetForTag::SetAlign(int newAlignment)
 
 void TPropertySetForTag::SetLine(double width)
 {
-    TextRows::WriteLineWidth(texts, width);
+    WriteAll(texts, [width](TGraphicsTextItem& text) { TextRows::WriteLineWidth(text, width); });
 }

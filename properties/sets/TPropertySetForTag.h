@@ -19,7 +19,7 @@ public:
      * what they show. */
     TPropertySetForTag(const QList<TGraphicsItem*>& selection, TProject* project);
 
-public slots:
+public Q_SLOTS:
     /** The stroke width as it is. Intended: always written at once, so that it cannot be undone. */
     void SetLine(double width);
     void SetFontName(QString family);

@@ -4,10 +4,13 @@
 #include "properties/commands/TCmdText.h"
 #include "properties/rows/TPropertyColor.h"
 #include "properties/sets/RowValues.h"
+#include "properties/sets/Selection.h"
 #include "properties/sets/TextRows.h"
 
 #include <algorithm>
 #include <iterator>
+
+using TextsAndTags = Attributes::OfKind<ItemType::Text, ItemType::Tag>;
 
 struct TPropertySetForText::Values
 {
@@ -45,21 +48,15 @@ void TPropertySetForText::Values::Add(const TGraphicsTextItem& text)
 }
 
 TPropertySetForText::TPropertySetForText(const QList<TGraphicsItem*>& selection, QList<Osmirel::Layer> layers)
-    : TPropertySet(tr("Text"))
+    : TPropertySet(tr("Text")), texts(Selection::Pick<TextsAndTags, TGraphicsTextItem>(selection))
 {
-    Values values;
-    for (TGraphicsItem* item : selection) {
-        if (item->type() == ItemType::Text || item->type() == ItemType::Tag) {
-            auto* text = static_cast<TGraphicsTextItem*>(item);
-            if (texts.isEmpty()) {
-                values.outlines = Attributes::TextTrueType::Read(*text);
-            }
-            values.Add(*text);
-            texts.append(text);
-        }
-    }
     if (texts.isEmpty()) {
         return;
+    }
+    Values values;
+    values.outlines = Attributes::TextTrueType::Read(*texts.first());
+    for (const TGraphicsTextItem* text : qAsConst(texts)) {
+        values.Add(*text);
     }
     MakeFontRows(values);
     MakePlacementRows(values, layers);
@@ -195,5 +192,5 @@ void TPropertySetForText::SetMirrorH(bool on)
 
 void TPropertySetForText::SetLine(double width)
 {
-    TextRows::WriteLineWidth(texts, width);
+    WriteAll(texts, [width](TGraphicsTextItem& text) { TextRows::WriteLineWidth(text, width); });
 }

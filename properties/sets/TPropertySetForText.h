@@ -22,7 +22,7 @@ public:
     /** Keeps the texts and tags of @p selection; @p layers are those that the "Layer:" row offers. */
     TPropertySetForText(const QList<TGraphicsItem*>& selection, QList<Osmirel::Layer> layers);
 
-public slots:
+public Q_SLOTS:
     void SetColor(const QColor& newColor);
     /** In points. */
     void SetFontSize(int points);

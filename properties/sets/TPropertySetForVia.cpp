@@ -3,30 +3,30 @@
 #include "properties/commands/TCmdMask.h"
 #include "properties/commands/TCmdVia.h"
 #include "properties/sets/RowValues.h"
+#include "properties/sets/Selection.h"
 #include "properties/sets/TDisplayUnit.h"
 
 struct TPropertySetForVia::Values
 {
     // Shown as the first via's, whether or not the others agree: that is intended.
-    double diameter = 0;
-    double drill = 0;
-    double maskClearance = 0;
-    TGraphicsViaItem::TypeThermal thermal = TGraphicsViaItem::ThermalAuto;
+    double diameter;
+    double drill;
+    double maskClearance;
+    TGraphicsViaItem::TypeThermal thermal;
     // Shown when all vias agree.
     TGathered<QString> group;
     TGathered<bool> maskEnable;
 
-    void AddFirst(const TGraphicsViaItem& via);
+    explicit Values(const TGraphicsViaItem& first);
     void Add(const TGraphicsViaItem& via);
 };
 
-void TPropertySetForVia::Values::AddFirst(const TGraphicsViaItem& via)
-{
-    diameter = Attributes::ViaDiameter::Read(via);
-    drill = Attributes::ViaDrill::Read(via);
-    maskClearance = Attributes::MaskClearance::Read(via);
-    thermal = Attributes::ViaThermal::Read(via);
-}
+TPropertySetForVia::Values::Values(const TGraphicsViaItem& first)
+    : diameter(Attributes::ViaDiameter::Read(first)),
+      drill(Attributes::ViaDrill::Read(first)),
+      maskClearance(Attributes::MaskClearance::Read(first)),
+      thermal(Attributes::ViaThermal::Read(first))
+{}
 
 void TPropertySetForVia::Values::Add(const TGraphicsViaItem& via)
 {
@@ -35,23 +35,16 @@ void TPropertySetForVia::Values::Add(const TGraphicsViaItem& via)
 }
 
 TPropertySetForVia::TPropertySetForVia(QList<TGraphicsItem*> selection, QStringList viaGroups)
-    : TPropertySet(tr("Vias"))
+    : TPropertySet(tr("Vias")), items(Selection::Pick<Attributes::Vias>(selection))
 {
-    Values values;
-    for (TGraphicsItem* item : qAsConst(selection)) {
-        if (item->type() != ItemType::Via) {
-            continue;
-        }
-        const auto& via = static_cast<const TGraphicsViaItem&>(*item);
-        if (items.isEmpty()) {
-            values.AddFirst(via);
-        }
-        values.Add(via);
-        items.append(item);
+    if (items.isEmpty()) {
+        return;
     }
-    if (!items.isEmpty()) {
-        MakeRows(values, viaGroups);
+    Values values(static_cast<const TGraphicsViaItem&>(*items.first()));
+    for (const TGraphicsItem* item : qAsConst(items)) {
+        values.Add(static_cast<const TGraphicsViaItem&>(*item));
     }
+    MakeRows(values, viaGroups);
 }
 
 void TPropertySetForVia::MakeRows(const Values& values, const QStringList& viaGroups)

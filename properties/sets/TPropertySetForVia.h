@@ -16,7 +16,7 @@ public:
     /** Keeps the vias of @p selection; @p viaGroups are the names of the drill pairs that the board defines. */
     TPropertySetForVia(QList<TGraphicsItem*> selection, QStringList viaGroups);
 
-public slots:
+public Q_SLOTS:
     /** Lengths in millimetres. */
     void SetDiam(qreal diameter);
     void SetDrill(qreal diameter);

@@ -7,6 +7,7 @@
 #include "properties/rows/TPropertyColor.h"
 #include "properties/sets/CompositionModes.h"
 #include "properties/sets/RowValues.h"
+#include "properties/sets/Selection.h"
 #include "properties/sets/TDisplayUnit.h"
 
 #include <application/TSchematic.h>
@@ -39,13 +40,10 @@ const TGraphicsItem* StartOfRoute(const TGraphicsWireItem& wire)
 } // namespace
 
 TPropertySetForWire::TPropertySetForWire(const QList<TGraphicsItem*>& selection, TProject* ofProject)
-    : TPropertySet(tr("Wire")), project(ofProject)
+    : TPropertySet(tr("Wire")),
+      wires(Selection::Pick<Attributes::OfKind<ItemType::Wire>, TGraphicsWireItem>(selection)),
+      project(ofProject)
 {
-    for (TGraphicsItem* item : selection) {
-        if (item->type() == ItemType::Wire) {
-            wires.append(static_cast<TGraphicsWireItem*>(item));
-        }
-    }
     if (wires.isEmpty()) {
         return;
     }
@@ -161,10 +159,10 @@ void TPropertySetForWire::SetColor(const QColor& newColor)
 
 void TPropertySetForWire::SetCompMode(int mode)
 {
-    for (TGraphicsWireItem* wire : qAsConst(wires)) {
-        wire->SetCompositionMode(mode);
-        wire->update();
-    }
+    WriteAll(wires, [mode](TGraphicsWireItem& wire) {
+        wire.SetCompositionMode(mode);
+        wire.update();
+    });
 }
 
 void TPropertySetForWire::KeyPressEvent(QKeyEvent* event)

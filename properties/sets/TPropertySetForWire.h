@@ -24,7 +24,7 @@ public:
     /** Digits set the width, "1" to "9" to tenths of a millimetre and "0" to a whole one; "O" changes the side. */
     void KeyPressEvent(QKeyEvent* event) override;
 
-public slots:
+public Q_SLOTS:
     void SetLayer(Osmirel::Layer newLayer);
     /** In millimetres. */
     void SetWidth(qreal newWidth);

@@ -33,12 +33,10 @@ void TextRows::AddAlignments(TPropertyEnum& row, const QString& left, const QStr
     row.AddItem(right, Qt::AlignRight);
 }
 
-void TextRows::WriteLineWidth(const QList<TGraphicsTextItem*>& texts, double width)
+void TextRows::WriteLineWidth(TGraphicsTextItem& text, double width)
 {
-    for (TGraphicsTextItem* text : texts) {
-        text->SetLineWidth(static_cast<float>(width));
-        text->UpdatePath(false);
-    }
+    text.SetLineWidth(static_cast<float>(width));
+    text.UpdatePath(false);
 }
 
 void TextRows::AddFontNames(TPropertyEnum& row)

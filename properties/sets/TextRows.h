@@ -2,8 +2,6 @@
 
 #include "properties/rows/TPropertyEnum.h"
 
-#include <QList>
-
 class TGraphicsTextItem;
 
 /** What the sets of texts and of tags have in common: the choices that their rows offer. */
@@ -17,8 +15,8 @@ int OfferedFontSize(int points);
 /** Adds the alignments, which are `Qt::AlignmentFlag` values, under names that the set has translated. */
 void AddAlignments(TPropertyEnum& row, const QString& left, const QString& center, const QString& right);
 
-/** Writes a stroke width, as it is, to every text at once. */
-void WriteLineWidth(const QList<TGraphicsTextItem*>& texts, double width);
+/** Writes a stroke width, as it is, to a text at once. */
+void WriteLineWidth(TGraphicsTextItem& text, double width);
 
 /** Adds the names of the application's fonts. */
 void AddFontNames(TPropertyEnum& row);

@@ -2,6 +2,365 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>TCommandKind</name>
+    <message>
+        <source>Disconnect %1</source>
+        <translation>Trennen: %1</translation>
+    </message>
+    <message>
+        <source>bus entries</source>
+        <translation>Busabzweige</translation>
+    </message>
+    <message>
+        <source>Change value of %1</source>
+        <translation>Wert ändern: %1</translation>
+    </message>
+    <message>
+        <source>components</source>
+        <translation>Komponenten</translation>
+    </message>
+    <message>
+        <source>Switch a layer of %1</source>
+        <translation>Lage umschalten: %1</translation>
+    </message>
+    <message>
+        <source>keepouts</source>
+        <translation>Sperrflächen</translation>
+    </message>
+    <message>
+        <source>Change lock of %1</source>
+        <translation>Sperre ändern: %1</translation>
+    </message>
+    <message>
+        <source>parts and packages</source>
+        <translation>Bauteile und Gehäuse</translation>
+    </message>
+    <message>
+        <source>Change mask clearance of %1</source>
+        <translation>Lötstoppabstand ändern: %1</translation>
+    </message>
+    <message>
+        <source>pads and vias</source>
+        <translation>Pads und Vias</translation>
+    </message>
+    <message>
+        <source>Switch mask opening of %1</source>
+        <translation>Lötstoppöffnung umschalten: %1</translation>
+    </message>
+    <message>
+        <source>Change paste clearance of %1</source>
+        <translation>Lotpastenabstand ändern: %1</translation>
+    </message>
+    <message>
+        <source>pads</source>
+        <translation>Pads</translation>
+    </message>
+    <message>
+        <source>Switch paste of %1</source>
+        <translation>Lotpaste umschalten: %1</translation>
+    </message>
+    <message>
+        <source>Change net class of %1</source>
+        <translation>Netzklasse ändern: %1</translation>
+    </message>
+    <message>
+        <source>a net</source>
+        <translation>Netz</translation>
+    </message>
+    <message>
+        <source>Change net colour of %1</source>
+        <translation>Netzfarbe ändern: %1</translation>
+    </message>
+    <message>
+        <source>Change net priority of %1</source>
+        <translation>Netzpriorität ändern: %1</translation>
+    </message>
+    <message>
+        <source>nets</source>
+        <translation>Netze</translation>
+    </message>
+    <message>
+        <source>Rename %1</source>
+        <translation>Umbenennen: %1</translation>
+    </message>
+    <message>
+        <source>Rename a fragment of %1</source>
+        <translation>Teilstück umbenennen: %1</translation>
+    </message>
+    <message>
+        <source>Change %1</source>
+        <translation>Ändern: %1</translation>
+    </message>
+    <message>
+        <source>net ties</source>
+        <translation>Netzverbinder</translation>
+    </message>
+    <message>
+        <source>Switch name of %1</source>
+        <translation>Namen ein- oder ausblenden: %1</translation>
+    </message>
+    <message>
+        <source>Change layer of %1</source>
+        <translation>Lage ändern: %1</translation>
+    </message>
+    <message>
+        <source>Change pad size of %1</source>
+        <translation>Padgröße ändern: %1</translation>
+    </message>
+    <message>
+        <source>Change wire width of %1</source>
+        <translation>Leiterbreite ändern: %1</translation>
+    </message>
+    <message>
+        <source>Change symbol of %1</source>
+        <translation>Symbol ändern: %1</translation>
+    </message>
+    <message>
+        <source>Add a node to %1</source>
+        <translation>Knoten hinzufügen: %1</translation>
+    </message>
+    <message>
+        <source>the outline</source>
+        <translation>Umrisslinie</translation>
+    </message>
+    <message>
+        <source>Remove a node from %1</source>
+        <translation>Knoten entfernen: %1</translation>
+    </message>
+    <message>
+        <source>Change side of %1</source>
+        <translation>Seite ändern: %1</translation>
+    </message>
+    <message>
+        <source>packages</source>
+        <translation>Gehäuse</translation>
+    </message>
+    <message>
+        <source>Connect %1</source>
+        <translation>Verbinden: %1</translation>
+    </message>
+    <message>
+        <source>Change width of %1</source>
+        <translation>Breite ändern: %1</translation>
+    </message>
+    <message>
+        <source>Change height of %1</source>
+        <translation>Höhe ändern: %1</translation>
+    </message>
+    <message>
+        <source>Renumber %1</source>
+        <translation>Neu nummerieren: %1</translation>
+    </message>
+    <message>
+        <source>Change shape of %1</source>
+        <translation>Form ändern: %1</translation>
+    </message>
+    <message>
+        <source>Change type of %1</source>
+        <translation>Typ ändern: %1</translation>
+    </message>
+    <message>
+        <source>parts</source>
+        <translation>Bauteile</translation>
+    </message>
+    <message>
+        <source>pins</source>
+        <translation>Pins</translation>
+    </message>
+    <message>
+        <source>Switch number of %1</source>
+        <translation>Nummern ein- oder ausblenden: %1</translation>
+    </message>
+    <message>
+        <source>Change style of %1</source>
+        <translation>Darstellung ändern: %1</translation>
+    </message>
+    <message>
+        <source>Change length of %1</source>
+        <translation>Länge ändern: %1</translation>
+    </message>
+    <message>
+        <source>Change swap group of %1</source>
+        <translation>Tauschgruppe ändern: %1</translation>
+    </message>
+    <message>
+        <source>ports</source>
+        <translation>Ports</translation>
+    </message>
+    <message>
+        <source>Change clearance to etch of %1</source>
+        <translation>Abstand zum Kupfer ändern: %1</translation>
+    </message>
+    <message>
+        <source>pours</source>
+        <translation>Kupferflächen</translation>
+    </message>
+    <message>
+        <source>Change clearance to border of %1</source>
+        <translation>Abstand zum Rand ändern: %1</translation>
+    </message>
+    <message>
+        <source>Change clearance to pour of %1</source>
+        <translation>Abstand zu Flächen ändern: %1</translation>
+    </message>
+    <message>
+        <source>Change line width of %1</source>
+        <translation>Linienbreite ändern: %1</translation>
+    </message>
+    <message>
+        <source>Change minimum area of %1</source>
+        <translation>Kleinste Fläche ändern: %1</translation>
+    </message>
+    <message>
+        <source>Change thermal line of %1</source>
+        <translation>Stege der Wärmefallen ändern: %1</translation>
+    </message>
+    <message>
+        <source>Change thermal isolation of %1</source>
+        <translation>Isolation der Wärmefallen ändern: %1</translation>
+    </message>
+    <message>
+        <source>Change priority of %1</source>
+        <translation>Priorität ändern: %1</translation>
+    </message>
+    <message>
+        <source>Change net of %1</source>
+        <translation>Netz ändern: %1</translation>
+    </message>
+    <message>
+        <source>Change filling of %1</source>
+        <translation>Füllung ändern: %1</translation>
+    </message>
+    <message>
+        <source>Switch unconnected copper of %1</source>
+        <translation>Unverbundenes Kupfer umschalten: %1</translation>
+    </message>
+    <message>
+        <source>Switch thermal spokes of %1</source>
+        <translation>Wärmefallen umschalten: %1</translation>
+    </message>
+    <message>
+        <source>drawings</source>
+        <translation>Zeichnungselemente</translation>
+    </message>
+    <message>
+        <source>Change line style of %1</source>
+        <translation>Linienart ändern: %1</translation>
+    </message>
+    <message>
+        <source>Change colour of %1</source>
+        <translation>Farbe ändern: %1</translation>
+    </message>
+    <message>
+        <source>items</source>
+        <translation>Elemente</translation>
+    </message>
+    <message>
+        <source>Change size of %1</source>
+        <translation>Größe ändern: %1</translation>
+    </message>
+    <message>
+        <source>rectangles</source>
+        <translation>Rechtecke</translation>
+    </message>
+    <message>
+        <source>Rename part %1</source>
+        <translation>Bauteil %1 umbenennen</translation>
+    </message>
+    <message>
+        <source>Rename page %1</source>
+        <translation>Seite %1 umbenennen</translation>
+    </message>
+    <message>
+        <source>Open symbol of %1</source>
+        <translation>Symbol öffnen: %1</translation>
+    </message>
+    <message>
+        <source>a part</source>
+        <translation>Bauteil</translation>
+    </message>
+    <message>
+        <source>Open page %1</source>
+        <translation>Seite %1 öffnen</translation>
+    </message>
+    <message>
+        <source>tags</source>
+        <translation>Tags</translation>
+    </message>
+    <message>
+        <source>Change font kind of %1</source>
+        <translation>Schriftart ändern: %1</translation>
+    </message>
+    <message>
+        <source>texts</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Change font of %1</source>
+        <translation>Schrift ändern: %1</translation>
+    </message>
+    <message>
+        <source>Change font size of %1</source>
+        <translation>Schriftgröße ändern: %1</translation>
+    </message>
+    <message>
+        <source>Change alignment of %1</source>
+        <translation>Ausrichtung ändern: %1</translation>
+    </message>
+    <message>
+        <source>Change angle of %1</source>
+        <translation>Winkel ändern: %1</translation>
+    </message>
+    <message>
+        <source>Switch bold of %1</source>
+        <translation>Fettschrift umschalten: %1</translation>
+    </message>
+    <message>
+        <source>Switch italic of %1</source>
+        <translation>Kursivschrift umschalten: %1</translation>
+    </message>
+    <message>
+        <source>Mirror %1 horizontally</source>
+        <translation>Waagerecht spiegeln: %1</translation>
+    </message>
+    <message>
+        <source>Mirror %1 vertically</source>
+        <translation>Senkrecht spiegeln: %1</translation>
+    </message>
+    <message>
+        <source>Change diameter of %1</source>
+        <translation>Durchmesser ändern: %1</translation>
+    </message>
+    <message>
+        <source>vias</source>
+        <translation>Vias</translation>
+    </message>
+    <message>
+        <source>Change drill of %1</source>
+        <translation>Bohrung ändern: %1</translation>
+    </message>
+    <message>
+        <source>vias and pads</source>
+        <translation>Vias und Pads</translation>
+    </message>
+    <message>
+        <source>Change drill pair of %1</source>
+        <translation>Bohrpaar ändern: %1</translation>
+    </message>
+    <message>
+        <source>Change thermal connection of %1</source>
+        <translation>Wärmefalle ändern: %1</translation>
+    </message>
+    <message>
+        <source>wires</source>
+        <translation>Leiter</translation>
+    </message>
+    <message>
+        <source>a wire</source>
+        <translation>Leiter</translation>
+    </message>
+</context>
+<context>
     <name>TLineEdit</name>
     <message>
         <source>Show</source>

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QList>
+#include <QSet>
+
+/** The items of a list, each once, in the order in which they were first given. Null is skipped. */
+template <class Item>
+QList<Item*> EachOnce(const QList<Item*>& given)
+{
+    QList<Item*> once;
+    QSet<const Item*> known;
+    for (Item* item : given) {
+        if (item && !known.contains(item)) {
+            known.insert(item);
+            once.append(item);
+        }
+    }
+    return once;
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "properties/commands/Attributes.h"
+
+#include <graphics/TGraphicsItem.h>
+
+#include <QList>
+
+#include <algorithm>
+
+/** What sets take from the selection that they are given. Nulls in it count as nothing. */
+namespace Selection {
+
+/** The items that @p Kind accepts, in their order, as what they are. */
+template <class Kind, class Item = TGraphicsItem>
+QList<Item*> Pick(const QList<TGraphicsItem*>& selection)
+{
+    QList<Item*> items;
+    for (TGraphicsItem* item : selection) {
+        if (item && Kind::Accepts(*item)) {
+            items.append(static_cast<Item*>(item));
+        }
+    }
+    return items;
+}
+
+/** Whether there is one item, of whatever kind: the name of a set may depend on it. */
+inline bool IsSingle(const QList<TGraphicsItem*>& selection)
+{
+    return selection.size() - selection.count(nullptr) == 1;
+}
+
+/** The workspace of the first item, of whatever kind; null without one. */
+inline TWorkspace* WorkspaceOf(const QList<TGraphicsItem*>& selection)
+{
+    const auto first = std::find_if(selection.cbegin(), selection.cend(), [](TGraphicsItem* item) { return item; });
+    return first == selection.cend() ? nullptr : (*first)->Workspace();
+}
+
+} // namespace Selection
