@@ -14,11 +14,17 @@ if(PROPERTIES_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER "${PROPERTIES_CCACHE}")
 endif()
 
-# Warnings are errors in the project's own code.
+# Of the project's own code. They are errors in the presets that say so, and only warnings for everybody else.
 add_library(properties_warnings INTERFACE)
 target_compile_options(properties_warnings INTERFACE
-    -Wall -Wextra -Wpedantic -Werror -Wshadow -Woverloaded-virtual -Wnon-virtual-dtor -Wconversion -Wold-style-cast
-    -Wcast-align -Wunused -Wduplicated-cond -Wlogical-op -Wformat=2)
+    -Wall -Wextra -Wpedantic -Wshadow -Woverloaded-virtual -Wnon-virtual-dtor -Wconversion -Wold-style-cast -Wcast-align
+    -Wunused -Wformat=2 $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wlogical-op>)
+
+# While the major version is 0 every minor version may break what was built against the one before.
+set(PROPERTIES_SOVERSION ${PROJECT_VERSION_MAJOR})
+if(PROJECT_VERSION_MAJOR EQUAL 0)
+    set(PROPERTIES_SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+endif()
 
 if(PROPERTIES_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)

@@ -48,13 +48,15 @@ configure()
     cmake --fresh --preset "$1" -S "$root" "${options[@]}"
 }
 
-# build PRESET [TARGET]: silent when nothing is out of date.
+# build PRESET [TARGET...]: silent when nothing is out of date.
 build()
 {
-    cmake --build "$root/build/$1" ${2:+--target "$2"} | sed -u '/^ninja: no work to do/d; /Re-checking globbed/d'
+    local preset=$1
+    shift
+    cmake --build "$root/build/$preset" ${1:+--target "$@"} | sed -u '/^ninja: no work to do/d; /Re-checking globbed/d'
 }
 
-# prepare PRESET [TARGET]: packages, configuration and build, one caller at a time, all of it told on stderr.
+# prepare PRESET [TARGET...]: packages, configuration and build, one caller at a time, all of it told on stderr.
 prepare()
 {
     mkdir -p "$root/build"

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <graphics/TGraphicsPenItem.h>
+
+#include <QLineF>
+
+/** A straight line. */
+class TGraphicsLineItem : public TGraphicsPenItem
+{
+public:
+    int type() const override;
+
+    QLineF Line() const;
+
+protected:
+    QLineF line;
+};
