@@ -102,16 +102,13 @@ ProjectLaw TieLaw(All::Two<Item> All::*ties, const Value& first, const Value& se
         touched);
 }
 
-template <class Command, class Item>
-ProjectLaw ConnectLaw(All::Two<Item> All::*items, const QStringList& touched)
+/** A command over items of a project or a board, which @p owner tells. */
+template <class Command, class Item, class Owner>
+ProjectLaw ConnectLaw(All::Two<Item> All::*items, Owner* (Given::*owner)() const, const QStringList& touched)
 {
     return Law<Command>(
         [=](const Given& given) {
-            if constexpr (std::is_same_v<Item, TGraphicsPartItem>) {
-                return std::make_unique<Command>(given.ListOf<TGraphicsItem>(items), given.Project());
-            } else {
-                return std::make_unique<Command>(given.ListOf<TGraphicsItem>(items), given.Board());
-            }
+            return std::make_unique<Command>(given.ListOf<TGraphicsItem>(items), (given.*owner)());
         },
         touched);
 }
@@ -174,8 +171,8 @@ std::vector<ProjectLaw> BoardLaws()
         OutlineLaw<TCmdOutlineDelNode>(),
         SelectedLaw<TCmdPackageRefDes>("U8", "U9", {"package.refDes"}),
         SelectedLaw<TCmdPackageValue>("TL081", "TL082", {"package.value"}),
-        ConnectLaw<TCmdPkgConnect>(&All::packages, {"pad.wires", "wire.first"}),
-        ConnectLaw<TCmdPkgDisconnect>(&All::packages, {"pad.wires", "rats.lines", "wire.first"}),
+        ConnectLaw<TCmdPkgConnect>(&All::packages, &Given::Board, {"pad.wires", "wire.first"}),
+        ConnectLaw<TCmdPkgDisconnect>(&All::packages, &Given::Board, {"pad.wires", "rats.lines", "wire.first"}),
         Law<TCmdPkgSide>(
             [](const Given& given) {
                 return std::make_unique<TCmdPkgSide>(given.ListOf(&All::packages), Osmirel::CopperBottom,
@@ -205,8 +202,9 @@ std::vector<ProjectLaw> ComponentLaws()
 {
     return {
         ConnectLaw<TCmdPartConnect>(
-            &All::parts, {"netwire.first", "netwire.last", "pad.net", "pad.own", "pin.links", "pin.net", "rats.lines"}),
-        ConnectLaw<TCmdPartDisconnect>(&All::parts,
+            &All::parts, &Given::Project,
+            {"netwire.first", "netwire.last", "pad.net", "pad.own", "pin.links", "pin.net", "rats.lines"}),
+        ConnectLaw<TCmdPartDisconnect>(&All::parts, &Given::Project,
                                        {"netwire.first", "netwire.last", "pad.net", "pad.own", "pin.links", "pin.net"}),
         Law<TCmdCmpValue>(
             [](const Given& given) {

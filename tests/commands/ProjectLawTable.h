@@ -16,9 +16,17 @@ class Given
 public:
     Given(WholeProject* ofProject, std::size_t ofIndex) : project(ofProject), index(ofIndex) {}
 
-    TProject* Project() const { return project ? &project->project : nullptr; }
-    TSchematic* Schematic() const { return project ? &project->sheet : nullptr; }
-    TBoard* Board() const { return project ? &project->board : nullptr; }
+    /** The same items, with null for project, schematic and board. */
+    Given WithoutDocuments() const
+    {
+        Given items = *this;
+        items.hasDocuments = false;
+        return items;
+    }
+
+    TProject* Project() const { return project && hasDocuments ? &project->project : nullptr; }
+    TSchematic* Schematic() const { return project && hasDocuments ? &project->sheet : nullptr; }
+    TBoard* Board() const { return project && hasDocuments ? &project->board : nullptr; }
 
     /** Null for nothing. */
     template <class Item>
@@ -51,6 +59,7 @@ public:
 private:
     WholeProject* project;
     std::size_t index;
+    bool hasDocuments = true;
 };
 
 /** What one command that acts on a whole project has to do, in a form that one test can hold every such command to. */

@@ -1,8 +1,10 @@
 #include "tests/commands/RandomNetwork.h"
 
 #include "properties/commands/TCmdNet.h"
+#include "properties/commands/TCmdPackage.h"
 #include "properties/commands/TCmdWire.h"
 #include "properties/commands/TCmdWireLayer.h"
+#include "tests/commands/StackedPads.h"
 
 #include <QRegularExpression>
 
@@ -59,6 +61,11 @@ TGraphicsItem* RandomNetwork::AddPlace(int number, int kind)
 {
     const QPointF at = GridPoint(number);
     const QString net = kind % 2 == 0 ? QString() : At(nets.mid(0, 3), kind / 8);
+    switch (kind % 10) {
+    case 8:
+    case 9: return AddPackage(at, kind);
+    default: break;
+    }
     switch (kind % 8) {
     case 0: return board.Via(at);
     case 1: {
@@ -75,6 +82,15 @@ TGraphicsItem* RandomNetwork::AddPlace(int number, int kind)
     }
     default: return board.Junction(at, kind % 3 == 0 ? Osmirel::CopperBottom : Osmirel::CopperTop);
     }
+}
+
+/** A package of which two pads lie at a place, and one of its pads, which need not be one of them. */
+TGraphicsPadItem* RandomNetwork::AddPackage(const QPointF& at, int kind)
+{
+    const StackedPads pads(board, at - QPointF(20, 0), kind % 3 == 0 ? QString() : At(nets.mid(0, 3), kind));
+    pads.package->SetComponentNumber(static_cast<quint16>(packages.size()));
+    packages.append(pads.package);
+    return kind % 4 == 0 ? pads.exposed : pads.drilled[kind % 2];
 }
 
 void RandomNetwork::AddTrack(const PlannedTrack& track)
@@ -153,7 +169,43 @@ QList<TGraphicsWireItem*> RandomNetwork::SomeWires(const PlannedEdit& edit) cons
     return some;
 }
 
+/** None to all of the packages. */
+template <class Item>
+QList<Item*> RandomNetwork::SomePackages(const PlannedEdit& edit) const
+{
+    QList<Item*> some;
+    for (int i = 0; i < packages.size(); ++i) {
+        if ((edit.what >> (i % 10) & 1) != 0) {
+            some.append(packages[i]);
+        }
+    }
+    return some;
+}
+
+std::unique_ptr<QUndoCommand> RandomNetwork::PackageCommand(const PlannedEdit& edit)
+{
+    switch (edit.action) {
+    case 0:
+    case 1: {
+        commandName = "side";
+        const auto side = edit.value % 2 == 0 ? Osmirel::PackagesTop : Osmirel::PackagesBottom;
+        return std::make_unique<TCmdPkgSide>(SomePackages<TGraphicsPackageItem>(edit), side, &board);
+    }
+    case 2: commandName = "connect"; return std::make_unique<TCmdPkgConnect>(SomePackages<TGraphicsItem>(edit), &board);
+    default:
+        commandName = "disconnect";
+        return std::make_unique<TCmdPkgDisconnect>(SomePackages<TGraphicsItem>(edit), &board);
+    }
+}
+
 std::unique_ptr<QUndoCommand> RandomNetwork::Command(const PlannedEdit& edit)
+{
+    constexpr int ofPackages = 4;
+    return edit.action < ofPackages ? PackageCommand(edit)
+                                    : WireCommand({edit.action - ofPackages, edit.what, edit.value});
+}
+
+std::unique_ptr<QUndoCommand> RandomNetwork::WireCommand(const PlannedEdit& edit)
 {
     const QList<TGraphicsWireItem*> all = WiresOnBoard();
     if (all.isEmpty()) {
@@ -198,10 +250,6 @@ std::unique_ptr<QUndoCommand> RandomNetwork::Command(const PlannedEdit& edit)
 
 QString RandomNetwork::Do(const PlannedEdit& edit)
 {
-    if (edit.action >= actions - 2) {
-        const int steps = 1 + edit.value % 3;
-        return stack.Move(edit.action == actions - 1 ? steps : -steps);
-    }
     std::unique_ptr<QUndoCommand> command = Command(edit);
     if (!command) {
         return {};

@@ -253,10 +253,6 @@ std::unique_ptr<QUndoCommand> RandomSheet::LinkOfAFreeEnd(const PlannedEdit& edi
 
 QString RandomSheet::Do(const PlannedEdit& edit)
 {
-    if (edit.action >= actions - 2) {
-        const int steps = 1 + edit.value % 3;
-        return stack.Move(edit.action == actions - 1 ? steps : -steps);
-    }
     std::unique_ptr<QUndoCommand> command = Command(edit);
     return command ? stack.Push(std::move(command), commandName) : QString();
 }

@@ -39,8 +39,8 @@ class RandomSheet
 public:
     RandomSheet(const std::vector<PlannedThing>& things, const std::vector<PlannedWire>& wires);
 
-    /** So many kinds of edits there are; the last two are undo and redo. */
-    static constexpr int actions = 14;
+    /** So many actions there are. */
+    static constexpr int actions = 12;
     /** Does one edit and tells what is wrong after it; empty for nothing. */
     QString Do(const PlannedEdit& edit);
     TracedStack& Stack() { return stack; }

@@ -1,26 +1,10 @@
 #include "tests/commands/TracedStack.h"
 
+#include "tests/support/LineDifferences.h"
+
 #include <algorithm>
 
 namespace Test {
-
-namespace {
-
-/** The lines in which two states differ. */
-QString Difference(const QString& is, const QString& was)
-{
-    const QStringList now = is.split(QLatin1Char('\n'));
-    const QStringList before = was.split(QLatin1Char('\n'));
-    QString difference;
-    for (int i = 0; i < std::max(now.size(), before.size()); ++i) {
-        if (now.value(i) != before.value(i)) {
-            difference += QStringLiteral("is\n%1\nwas\n%2\n").arg(now.value(i), before.value(i));
-        }
-    }
-    return difference;
-}
-
-} // namespace
 
 QString TracedStack::Push(std::unique_ptr<QUndoCommand> command, const QString& name)
 {
@@ -42,7 +26,7 @@ QString TracedStack::MoveTo(int index)
         stack.index() < index ? stack.redo() : stack.undo();
         const QString now = state();
         if (now != states[stack.index()]) {
-            return QStringLiteral("at index %1 ").arg(stack.index()) + Difference(now, states[stack.index()]);
+            return QStringLiteral("at index %1 ").arg(stack.index()) + LineDifferences(now, states[stack.index()]);
         }
         const QString wrong = fault();
         if (!wrong.isEmpty()) {

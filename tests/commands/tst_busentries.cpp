@@ -248,6 +248,27 @@ private slots:
         QCOMPARE(design.Fault(), QString());
     }
 
+    // It was never taken off anything, and stays with whoever has made it.
+    void anEntryOfNoPageIsCutAndLinkedAgain()
+    {
+        Design design;
+        int destroyed = 0;
+        Test::Mortal<TGraphicsBusEntryItem> entry;
+        entry.gone = &destroyed;
+        entry.LinkToBus(design.bus);
+        {
+            TCmdBusEntryDisconnect command({&entry});
+            command.redo();
+            QCOMPARE(entry.BusLink(), nullptr);
+            command.undo();
+            QCOMPARE(entry.BusLink(), design.bus);
+            QCOMPARE(entry.Owner(), nullptr);
+            command.redo();
+        }
+        QCOMPARE(destroyed, 0);
+        QCOMPARE(entry.BusLink(), nullptr);
+    }
+
     void theDesignMayGoBeforeTheCommand()
     {
         int destroyed = 0;

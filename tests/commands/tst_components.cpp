@@ -230,6 +230,22 @@ private slots:
         command.undo();
         QCOMPARE(design.Value(4) + design.Value(5), QString("4k5k"));
     }
+
+    void fewerValuesThanNumbersLeaveTheOthersAlone()
+    {
+        Design design;
+        TCmdCmpValue command({4, 5}, "10k", &design.project);
+        command.SetValue({"a"});
+        QCOMPARE(design.Value(4) + design.Value(5), QString("a5k"));
+        QCOMPARE(design.other->Value() + design.packageOf5->Value(), QString("5k5k"));
+        command.SetValue({});
+        QCOMPARE(design.Value(4) + design.Value(5), QString("a5k"));
+        command.SetValue({"b", "c", "d"}); // One too many.
+        QCOMPARE(design.Value(4) + design.Value(5), QString("bc"));
+        command.redo();
+        command.undo();
+        QCOMPARE(design.Value(4) + design.Value(5), QString("4k5k")); // As it was the first time.
+    }
 };
 
 PROPERTIES_TEST_MAIN(TestComponents)

@@ -1,7 +1,10 @@
 #include "properties/commands/TCmdPackage.h"
+#include "properties/commands/TExistingItems.h"
 #include "properties/commands/TUniqueNumbers.h"
 #include "tests/commands/PackageDesign.h"
 #include "tests/support/TestMain.h"
+
+#include <objects/TGraphicsNetItem.h>
 
 #include <QtTest>
 
@@ -92,6 +95,84 @@ private slots:
         command->undo();
         QCOMPARE(wireOfSecond->FirstLink() != nullptr, kind != "connect");
         QVERIFY(Design::Linked(first).isEmpty());
+    }
+
+    // The host decides what packages are connected with: whatever it is, it is asked for before it is given back.
+    void connectionsOfAllKindsAreKept()
+    {
+        Design design;
+        TGraphicsItem* via = design.board.Via({0, 0});
+        TGraphicsItem* junction = design.board.Junction({0, 50});
+        TGraphicsItem* pad = design.board.Pad({0, 100});
+        TGraphicsItem* tie = design.board.NetTie({0, 150});
+        TGraphicsItem* wire = design.board.Wire({0, 200}, {50, 200});
+        TGraphicsItem* gone = design.board.Via({0, 250});
+        TExistingItems::Lists lists{{via, gone, junction}, {pad, tie}, {}, {gone}, {wire}};
+        delete gone;
+        const QVector<TGraphicsItem*> unchanged = lists[1];
+        TExistingItems(&design.view).KeepOnlyExisting(lists);
+        QCOMPARE(lists, (TExistingItems::Lists{{via, junction}, {pad, tie}, {}, {}, {wire}}));
+        QCOMPARE(lists.at(1).constData(), unchanged.constData()); // The host may know it again by that.
+    }
+
+    void whatIsNoWireIsConnectedAgain_data()
+    {
+        QTest::addColumn<bool>("side");
+        QTest::newRow("side") << true;
+        QTest::newRow("disconnect") << false;
+    }
+    void whatIsNoWireIsConnectedAgain()
+    {
+        QFETCH(bool, side);
+        Design design;
+        auto* package = design.Package("A", {0, 0});
+        auto* line = design.board.Add<TGraphicsNetItem>({});
+        line->SetLayer(Osmirel::CopperTop);
+        line->LinkToFirst(package->Pads().last());
+        std::unique_ptr<TUndoCommand> command;
+        if (side) {
+            command = std::make_unique<TCmdPkgSide>(QList<TGraphicsPackageItem*>{package}, Osmirel::PackagesBottom,
+                                                    &design.board);
+        } else {
+            command = std::make_unique<TCmdPkgDisconnect>(QList<TGraphicsItem*>{package}, &design.board);
+        }
+        Test::CheckBothWays(*command, design.board);
+        QCOMPARE(line->FirstLink(), package->Pads().last());
+    }
+
+    // What stands at its address now is none of the command's.
+    void anotherKindOfItemIsNotTakenForAPackage()
+    {
+        Design design;
+        TGraphicsItem* package = design.Package("A", {0, 0});
+        TGraphicsItem* wire = design.board.Wire({0, 200}, {50, 200});
+        QVector<TGraphicsItem*> items{wire, package};
+        QVector<int> parallel{1, 2};
+        TExistingItems(&design.view).KeepOnlyExisting({ItemType::Package}, items, parallel);
+        QCOMPARE(items, QVector<TGraphicsItem*>{package});
+        QCOMPARE(parallel, QVector<int>{2});
+    }
+
+    // Nobody knows then what is still there.
+    void withoutAViewNothingIsForgotten()
+    {
+        Design design;
+        auto* package = design.Package("A", {0, 0});
+        package->setSelected(true);
+        TCmdPkgSide side({package}, Osmirel::PackagesBottom, &design.board);
+        TCmdPackageRefDes name(QStringLiteral("X"), &design.project);
+        TCmdPkgDisconnect disconnect({package}, &design.board);
+        design.board.SetView(nullptr);
+        side.ExistItems();
+        name.ExistItems();
+        disconnect.ExistItems();
+        design.board.SetView(&design.view);
+        disconnect.redo();
+        name.redo();
+        side.redo();
+        QVERIFY(Design::Linked(package).isEmpty());
+        QCOMPARE(package->RefDes(), QString("X"));
+        QCOMPARE(package->Layer(), Osmirel::PackagesBottom);
     }
 };
 

@@ -1,3 +1,4 @@
+#include "tests/commands/LawRows.h"
 #include "tests/commands/LawTable.h"
 #include "tests/commands/MixedBoard.h"
 #include "tests/support/Observers.h"
@@ -79,18 +80,12 @@ private:
 
 const CommandLaw& CurrentLaw()
 {
-    const auto& table = Test::LawTable();
-    return *std::find_if(table.begin(), table.end(),
-                         [](const CommandLaw& law) { return law.name == QTest::currentDataTag(); });
+    return Test::CurrentRowOf(Test::LawTable());
 }
 
-/** A row for each command. */
 void EachCommand()
 {
-    QTest::addColumn<int>("unused");
-    for (const CommandLaw& law : Test::LawTable()) {
-        QTest::newRow(qPrintable(law.name)) << 0;
-    }
+    Test::AddRowForEach(Test::LawTable());
 }
 
 Items Reversed(Items items)

@@ -1,4 +1,5 @@
 #include "properties/commands/TCmdVia.h"
+#include "tests/commands/LawRows.h"
 #include "tests/commands/LawTable.h"
 #include "tests/commands/MixedBoard.h"
 #include "tests/support/TestMain.h"
@@ -10,21 +11,21 @@ using Test::CommandLaw;
 
 namespace {
 
+const CommandLaw& CurrentLaw()
+{
+    return Test::CurrentRowOf(Test::LawTable());
+}
+
 void EachCommand()
 {
-    QTest::addColumn<int>("row");
-    int row = 0;
-    for (const CommandLaw& law : Test::LawTable()) {
-        QTest::newRow(qPrintable(law.name)) << row++;
-    }
+    Test::AddRowForEach(Test::LawTable());
 }
 
 /** A board with three commands of a kind on its undo stack, all done. */
 struct Edited
 {
-    explicit Edited(int row)
+    explicit Edited(const CommandLaw& law)
     {
-        const CommandLaw& law = Test::LawTable().at(static_cast<std::size_t>(row));
         for (const int value : {0, 1, 0}) {
             states.append(board.Dump());
             stack.push(law.make(board.Items(), value).release());
@@ -48,11 +49,10 @@ private slots:
     void destroyedWhenDoneOrUndone_data() { EachCommand(); }
     void destroyedWhenDoneOrUndone()
     {
-        QFETCH(int, row);
         Test::MixedBoard board;
         const int items = board.Items().size();
         for (int steps = 0; steps <= 3; ++steps) { // never done, done, undone, done again
-            auto command = Test::LawTable().at(static_cast<std::size_t>(row)).make(board.Items(), 0);
+            auto command = CurrentLaw().make(board.Items(), 0);
             for (int step = 0; step < steps; ++step) {
                 step == 1 ? command->undo() : command->redo();
             }
@@ -66,9 +66,8 @@ private slots:
     void stackIsClearedAtAnyIndex_data() { EachCommand(); }
     void stackIsClearedAtAnyIndex()
     {
-        QFETCH(int, row);
         for (int index = 0; index <= 3; ++index) {
-            Edited edited(row);
+            Edited edited(CurrentLaw());
             QCOMPARE(edited.board.Dump(), edited.states.last());
             edited.stack.setIndex(index);
             const QString before = edited.board.Dump();
@@ -80,10 +79,9 @@ private slots:
     void undoneCommandsAreDroppedByAPush_data() { EachCommand(); }
     void undoneCommandsAreDroppedByAPush()
     {
-        QFETCH(int, row);
-        Edited edited(row);
+        Edited edited(CurrentLaw());
         edited.stack.setIndex(1);
-        edited.stack.push(Test::LawTable().at(static_cast<std::size_t>(row)).make(edited.board.Items(), 1).release());
+        edited.stack.push(CurrentLaw().make(edited.board.Items(), 1).release());
         QCOMPARE(edited.stack.count(), 2);
         QCOMPARE(edited.board.Dump(), edited.states[2]);
     }
@@ -91,8 +89,7 @@ private slots:
     void undoLimitDropsTheOldest_data() { EachCommand(); }
     void undoLimitDropsTheOldest()
     {
-        QFETCH(int, row);
-        const CommandLaw& law = Test::LawTable().at(static_cast<std::size_t>(row));
+        const CommandLaw& law = CurrentLaw();
         Test::MixedBoard board;
         QUndoStack stack;
         stack.setUndoLimit(1);
@@ -126,8 +123,7 @@ private slots:
     void isDestroyedAfterItsItems_data() { EachCommand(); }
     void isDestroyedAfterItsItems()
     {
-        QFETCH(int, row);
-        const CommandLaw& law = Test::LawTable().at(static_cast<std::size_t>(row));
+        const CommandLaw& law = CurrentLaw();
         QList<TUndoCommand*> alive;
         std::unique_ptr<TUndoCommand> done;
         std::unique_ptr<TUndoCommand> undone;

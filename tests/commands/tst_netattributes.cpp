@@ -203,6 +203,28 @@ private slots:
         QCOMPARE(design.Model().ColorPcb(0), QColor(Qt::green));
     }
 
+    // What is on no net has no colour in common.
+    void theEmptyNameIsNoNet()
+    {
+        Design design;
+        auto* wire = design.board.Wire({0, 300}, {20, 300});
+        auto* line = design.board.Wire({0, 310}, {20, 310});
+        line->SetAltColor(Qt::cyan);
+        const QString before = design.board.Dump() + design.Model().Dump();
+        TCmdNetColorPcb command("", Qt::magenta, &design.project);
+        command.redo();
+        QCOMPARE(design.board.Dump() + design.Model().Dump(), before);
+        command.SetColor("", Qt::magenta);
+        command.undo();
+        QCOMPARE(design.board.Dump() + design.Model().Dump(), before);
+        QVERIFY(!wire->AltColor().isValid());
+        auto* rat = design.board.Add<TGraphicsRatLineItem>({});
+        rat->SetLine({0, 0, 9, 9}, "");
+        TCmdNetPrio({"", "A"}, "7", &design.project).redo();
+        QCOMPARE(rat->Priority(), QString());
+        QCOMPARE(design.Model().Priority("A"), QString("7"));
+    }
+
     void colorIsTakenAway()
     {
         Design design;
@@ -345,6 +367,29 @@ private slots:
         }
         QCOMPARE(design.Model().NetClass("A"), QString("Power"));
         QCOMPARE(design.Model().Priority("A"), QString("1"));
+    }
+
+    // What nobody could read when the command was made is read when it can act first.
+    void whatWasNotReadWhenItWasMadeIsReadByTheFirstRedo()
+    {
+        Design design;
+        design.project.SetSchematic(nullptr);
+        TCmdNetClass ofClass("A", "Signal", &design.project);
+        TCmdNetColorPcb ofColor("A", Qt::magenta, &design.project);
+        TCmdNetPrio ofLevel({"A", "B"}, "5", &design.project);
+        const QList<TUndoCommand*> commands{&ofClass, &ofColor, &ofLevel};
+        const QString before = design.Model().Dump();
+        for (const bool isThere : {false, true, true}) {
+            design.project.SetSchematic(isThere ? &design.schematic : nullptr);
+            for (TUndoCommand* command : commands) {
+                command->redo();
+            }
+            QCOMPARE(design.Model().Dump() != before, isThere);
+            for (TUndoCommand* command : commands) {
+                command->undo();
+            }
+            QCOMPARE(design.Model().Dump(), before);
+        }
     }
 
     // Colour in the schematic.

@@ -321,10 +321,10 @@ private slots:
         const auto renew = [&design] {
             delete design.boardTies.takeAt(1);
             delete design.pageTies.takeAt(1);
-            design.boardTies.insert(1, design.AddToBoard(2));
-            design.pageTies.insert(1, design.AddToPage(2));
-            design.boardTies.removeLast();
-            design.pageTies.removeLast();
+            design.AddToBoard(2);
+            design.AddToPage(2);
+            design.boardTies.move(2, 1);
+            design.pageTies.move(2, 1);
         };
         const QStringList before = design.Lines();
         command.redo();

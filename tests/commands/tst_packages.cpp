@@ -188,6 +188,23 @@ private slots:
         }
     }
 
+    void whatWasTypedSinceARedoWithoutAViewStays_data() { BothTexts(); }
+    void whatWasTypedSinceARedoWithoutAViewStays()
+    {
+        const Text text = CurrentText();
+        Design design;
+        auto* package = design.Package("A", {0, 0});
+        package->setSelected(true);
+        const auto command = Renaming(text, "X", &design.project);
+        design.board.SetView(nullptr);
+        command->redo();
+        design.board.SetView(&design.view);
+        package->SetRefDes("typed");
+        package->SetValue("typed");
+        command->undo();
+        QCOMPARE(TextOf(text, package), QString("typed"));
+    }
+
     // Connect and disconnect.
 
     void connectsWhatThePadsTouch()
@@ -350,6 +367,22 @@ private slots:
             redo ? command->redo() : command->undo();
             QCOMPARE(design.board.AskedRats(), QStringList({"A1", "A2", "B1", "B2"}));
         }
+    }
+
+    void itemsGivenTwiceAreTakenOnce()
+    {
+        Design design;
+        auto* package = design.Package("A", {0, 0}, 1);
+        design.board.Wire({50, 0}, {50, 80});
+        auto* tie = design.board.NetTie({300, 0});
+        design.board.Wire({300, 0}, {300, 80});
+        const QList<TGraphicsItem*> items{package, tie, package, tie};
+        TCmdPkgConnect connect(items, &design.board);
+        Test::CheckBothWays(connect, design.board);
+        connect.redo();
+        QCOMPARE(Design::Linked(package).size(), 2);
+        TCmdPkgDisconnect disconnect(items, &design.board);
+        Test::CheckBothWays(disconnect, design.board);
     }
 
     void connectWithoutAViewDoesNothing()

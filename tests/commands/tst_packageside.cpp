@@ -179,6 +179,18 @@ private slots:
         }
     }
 
+    // Undo would cut for the second time what it had just linked again.
+    void aPackageGivenTwiceIsMovedOnce()
+    {
+        Design design;
+        auto* package = design.Package("A", {0, 0}, 1);
+        auto* other = design.Package("B", {300, 0}, 2);
+        design.board.Wire({50, 0}, {50, 80}, {}, Osmirel::CopperBottom);
+        TCmdPkgSide command({package, other, package, package}, bottomSide, &design.board);
+        Test::CheckBothWays(command, design.board);
+        QCOMPARE(Design::Linked(package).size(), 1);
+    }
+
     void deletedPackagesAreDropped_data()
     {
         QTest::addColumn<int>("deleted");
@@ -276,6 +288,40 @@ private slots:
             tested->undo();
             QCOMPARE(design.board.Dump(), before);
         }
+    }
+
+    // Undo would cut the wires, and has none to link again.
+    void aRedoWithoutAViewIsNotUndone()
+    {
+        Design design;
+        auto* package = design.Package("A", {0, 0}, 1);
+        const QString before = design.board.Dump();
+        TCmdPkgSide command({package}, bottomSide, &design.board);
+        design.board.SetView(nullptr);
+        command.redo();
+        design.board.SetView(&design.view);
+        command.undo();
+        QCOMPARE(design.board.Dump(), before);
+        Test::CheckBothWays(command, design.board);
+    }
+
+    // A second redo would find the wires cut, and forget them.
+    void anUndoWithoutAViewLeavesTheCommandDone()
+    {
+        Design design;
+        auto* package = design.Package("A", {0, 0}, 1);
+        const QString before = design.board.Dump();
+        TCmdPkgSide command({package}, bottomSide, &design.board);
+        command.redo();
+        const QString redone = design.board.Dump();
+        design.board.SetView(nullptr);
+        command.undo();
+        QCOMPARE(design.board.Dump(), redone);
+        design.board.SetView(&design.view);
+        command.redo();
+        QCOMPARE(design.board.Dump(), redone);
+        command.undo();
+        QCOMPARE(design.board.Dump(), before);
     }
 };
 

@@ -160,6 +160,39 @@ private slots:
         Test::CheckBothWays(disconnect, design);
     }
 
+    // Pins of one part in one place, which lie on those of another: wires and pins come back to the very pin.
+    void pinsOnEachOtherKeepTheirOwn()
+    {
+        SheetDesign design;
+        TGraphicsPartItem* one = design.sheet.Part({0, 0}, 4, {{0, 0}, {0, 0}, {0, 50}});
+        TGraphicsPartItem* other = design.sheet.Part({0, 0}, 5, {{0, 0}, {0, 0}, {0, 50}});
+        design.WireFrom(PinOf(one, 2), "A")->LinkToLast(PinOf(one, 2)); // Both ends at one pin.
+        design.WireFrom(PinOf(one, 1), "B", {0, 50})->LinkToLast(PinOf(one, 3));
+        design.WireFrom(PinOf(other, 2), "C");
+        design.sheet.Wire({0, 0}, {0, 50});
+        PinOf(one, 2)->LinkToPin(PinOf(other, 1));
+        QUndoStack stack;
+        QStringList states{design.Dump()};
+        const auto push = [&](TUndoCommand* command) {
+            stack.push(command);
+            states.append(design.Dump());
+        };
+        const QList<TGraphicsItem*> both{one, other};
+        push(new TCmdPartDisconnect(both, nullptr));
+        push(new TCmdPartConnect({other}, nullptr));
+        push(new TCmdPartDisconnect({one}, nullptr));
+        push(new TCmdPartConnect(both, nullptr));
+        push(new TCmdPartDisconnect({other, one}, nullptr));
+        for (const int end : {0, 5, 1, 4, 0, 5, 0}) {
+            while (stack.index() != end) {
+                stack.index() < end ? stack.redo() : stack.undo();
+                QCOMPARE(design.Dump(), states[stack.index()]);
+                QCOMPARE(design.Fault(), QString());
+            }
+        }
+        QCOMPARE(PinOf(other, 1)->LinkedPins(), QList<TGraphicsPinItem*>{PinOf(one, 2)});
+    }
+
     void padsTakeTheNetsOfTheirPins()
     {
         Design design;

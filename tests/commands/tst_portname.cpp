@@ -345,14 +345,18 @@ private slots:
         }
     }
 
-    // Intended: the new net is added even if no port moves to it.
-    void withoutPortsTheNetIsAddedAllTheSame()
+    void withoutPortsNoNetIsAdded()
     {
         SheetDesign design;
-        TCmdPortName command({}, "B", &design.sheet);
-        Test::CheckBothWays(command, design);
+        design.Package(4);
+        const QString before = design.Dump();
+        TCmdPortName command({nullptr}, "B", &design.sheet);
         command.redo();
-        QCOMPARE(design.Nets(), QStringList{"B"});
+        QCOMPARE(design.Dump(), before);
+        QCOMPARE(design.Nets(), QStringList());
+        design.Model().AddNet("B", {}, {}, {}, 0);
+        command.undo();
+        QCOMPARE(design.Nets(), QStringList{"B"}); // Another's.
     }
 
     void theEmptyNameIsNoNet()

@@ -1,3 +1,4 @@
+#include "tests/commands/LawRows.h"
 #include "tests/commands/LawTable.h"
 #include "tests/commands/ProjectLawTable.h"
 #include "tests/support/Observers.h"
@@ -5,8 +6,6 @@
 
 #include <QSet>
 #include <QUndoStack>
-
-#include <algorithm>
 
 using Test::Given;
 using Test::ProjectLaw;
@@ -30,18 +29,12 @@ struct Session
 
 const ProjectLaw& CurrentLaw()
 {
-    const auto& table = Test::ProjectLawTable();
-    return *std::find_if(table.begin(), table.end(),
-                         [](const ProjectLaw& law) { return law.name == QTest::currentDataTag(); });
+    return Test::CurrentRowOf(Test::ProjectLawTable());
 }
 
-/** A row for each command. */
 void EachCommand()
 {
-    QTest::addColumn<int>("unused");
-    for (const ProjectLaw& law : Test::ProjectLawTable()) {
-        QTest::newRow(qPrintable(law.name)) << 0;
-    }
+    Test::AddRowForEach(Test::ProjectLawTable());
 }
 
 /** The lines of one state that are not in the other, as they are and as they were. */

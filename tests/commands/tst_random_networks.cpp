@@ -37,14 +37,15 @@ private slots:
         const bool isUsual = Test::TriesUsualCases(300);
         QMap<QString, int> made;
         const auto everyStateComesBack = [&made] {
-            const auto places = *Test::UpTo(12, rc::gen::inRange(0, 24));
+            const auto places = *Test::UpTo(12, rc::gen::inRange(0, 60));
             const auto tracks = *Test::UpTo(14, Track());
             Test::RandomNetwork network(places, tracks);
             Test::CheckThatEveryStateComesBack(network, made);
         };
         QVERIFY(rc::check("every state comes back, with two-sided links and nets that follow", everyStateComesBack));
         if (isUsual) {
-            for (const char* name : {"width", "layer", "add node", "delete node", "net color"}) {
+            for (const char* name :
+                 {"width", "layer", "add node", "delete node", "net color", "side", "connect", "disconnect"}) {
                 QVERIFY2(made.value(name) > 100, name);
             }
         }

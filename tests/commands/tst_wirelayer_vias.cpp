@@ -316,6 +316,33 @@ private slots:
         QCOMPARE(gone, 1);
     }
 
+    // It was never taken off anything, and stays with whoever has made it.
+    void junctionOfNoBoardIsNotDeleted()
+    {
+        int gone = 0;
+        Design design;
+        Test::Mortal<TGraphicsJunctionItem> junction;
+        junction.gone = &gone;
+        junction.SetLayer(top);
+        const Wires wires = design.Star(&junction, 3);
+        const Sections sections = junction.LinkedSections();
+        for (const int steps : {1, 2, 3, 4}) {
+            TCmdWireLayer command(&design.project, {wires[0]}, bottom);
+            for (int i = 0; i < steps; ++i) {
+                i % 2 == 0 ? command.redo() : command.undo();
+                QCOMPARE(junction.LinkedSections(), i % 2 == 0 ? Sections() : sections);
+            }
+            QCOMPARE(gone, 0);
+            QCOMPARE(junction.Owner(), nullptr);
+            if (steps % 2 != 0) {
+                command.undo();
+            }
+        }
+        QCOMPARE(gone, 0);
+        TCmdWireLayer command(&design.project, {wires[0]}, bottom);
+        command.redo(); // Destroyed while it is done.
+    }
+
     void boardGoesFirst()
     {
         int gone = 0;

@@ -256,6 +256,19 @@ private slots:
         QCOMPARE(board.Dump(), after);
     }
 
+    void aCommandOfASilencedSetIsDeleted()
+    {
+        Test::TestBoard board;
+        TPropertySetForVia set({board.AddVia()}, board.ViaGroups());
+        const Test::CommandLog log(set);
+        const QString before = board.Dump();
+        set.blockSignals(true);
+        set.SetDiam(2); // The leak sanitizer tells whether the command is left over.
+        set.blockSignals(false);
+        QCOMPARE(log.Count(), 0);
+        QCOMPARE(board.Dump(), before);
+    }
+
     void commandWithoutAReceiverChangesNothing()
     {
         Test::TestBoard board;

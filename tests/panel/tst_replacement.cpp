@@ -1,4 +1,4 @@
-#include "tests/panel/KindsBoard.h"
+#include "tests/panel/UserEdits.h"
 #include "tests/support/Observers.h"
 #include "tests/support/PanelFixture.h"
 #include "tests/support/PlainSet.h"
@@ -29,190 +29,13 @@
 
 namespace {
 
-/** A user's edit of one row of one set. */
-struct UserEdit
-{
-    const char* name;
-    Test::MakeKindsSet makeSet;
-    const char* label;
-    const char* signature; ///< of the row's signal that reports the edit first
-    void (*edit)(Test::PanelWindow& place, TAbstractProperty* row);
-    int commandsOfSignal = 1; ///< What the set makes of the signal before others hear of it; 0 for a write at once.
-};
+using Test::UserEdit;
 
 template <class Row>
 Row* As(TAbstractProperty* row)
 {
     return qobject_cast<Row*>(row);
 }
-
-void StepSpin(Test::PanelWindow&, TAbstractProperty* row)
-{
-    As<TPropertyFloatSpin>(row)->spin->setFocus();
-    QTest::keyClick(As<TPropertyFloatSpin>(row)->spin, Qt::Key_Up);
-}
-
-void ClickSpinArrow(Test::PanelWindow&, TAbstractProperty* row)
-{
-    auto* box = As<TPropertyFloatSpin>(row)->spin;
-    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(box->width() - 6, 4));
-}
-
-void TypeIntoSpin(Test::PanelWindow&, TAbstractProperty* row)
-{
-    auto* box = As<TPropertyFloatSpin>(row)->spin;
-    box->setFocus();
-    box->selectAll();
-    QTest::keyClick(box, Qt::Key_4);
-}
-
-void ClickCheck(Test::PanelWindow&, TAbstractProperty* row)
-{
-    QCheckBox* box = As<TPropertyFloatSpin>(row)->check;
-    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
-}
-
-void ToggleCheckByKey(Test::PanelWindow&, TAbstractProperty* row)
-{
-    As<TPropertyFloatSpin>(row)->check->setFocus();
-    QTest::keyClick(As<TPropertyFloatSpin>(row)->check, Qt::Key_Space);
-}
-
-QComboBox* BoxOf(TAbstractProperty* row)
-{
-    return qobject_cast<QComboBox*>(row->Editor());
-}
-
-void NextItem(Test::PanelWindow&, TAbstractProperty* row)
-{
-    BoxOf(row)->setFocus();
-    QTest::keyClick(BoxOf(row), Qt::Key_Down);
-}
-
-void ChooseFirst(Test::PanelWindow&, TAbstractProperty* row)
-{
-    BoxOf(row)->setFocus();
-    QTest::keyClick(BoxOf(row), Qt::Key_Home);
-}
-
-void ChooseFromOpenList(Test::PanelWindow&, TAbstractProperty* row)
-{
-    BoxOf(row)->setFocus();
-    BoxOf(row)->showPopup();
-    QTest::keyClick(BoxOf(row)->view(), Qt::Key_End);
-    QTest::keyClick(BoxOf(row)->view(), Qt::Key_Return);
-}
-
-void TypeAndReturn(Test::PanelWindow&, TAbstractProperty* row)
-{
-    Test::TypeHalfText(row, "77");
-    QTest::keyClick(As<TPropertyText>(row)->line->edit, Qt::Key_Return);
-}
-
-void TypeAndReturnToTheLine(Test::PanelWindow&, TAbstractProperty* row)
-{
-    Test::TypeHalfText(row, "77");
-    QTest::keyClick(As<TPropertyText>(row)->line, Qt::Key_Return);
-}
-
-void TypeAndLeave(Test::PanelWindow& place, TAbstractProperty* row)
-{
-    Test::TypeHalfText(row, "77");
-    place.elsewhere->setFocus();
-}
-
-void TypeAndPress(Test::PanelWindow&, TAbstractProperty* row)
-{
-    const Test::DebugLines silence;
-    Test::TypeHalfText(row, "77");
-    QTest::mousePress(As<TPropertyText>(row)->line, Qt::LeftButton);
-}
-
-void StepWidth(Test::PanelWindow&, TAbstractProperty* row)
-{
-    As<TPropertySize>(row)->width->setFocus();
-    QTest::keyClick(As<TPropertySize>(row)->width, Qt::Key_Up);
-}
-
-void StepDoubledWidth(Test::PanelWindow& place, TAbstractProperty* row)
-{
-    QVERIFY(!As<TPropertySize>(row)->height->isEnabled());
-    StepWidth(place, row);
-}
-
-void StepWholeNumber(Test::PanelWindow&, TAbstractProperty* row)
-{
-    QTest::keyClick(row->Editor(), Qt::Key_Up);
-}
-
-void ClickBox(Test::PanelWindow&, TAbstractProperty* row)
-{
-    QCheckBox* box = row->Editor()->findChildren<QCheckBox*>().value(0);
-    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
-}
-
-void ClickShowBox(Test::PanelWindow&, TAbstractProperty* row)
-{
-    QCheckBox* box = As<TPropertyText>(row)->visible;
-    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
-}
-
-const UserEdit userEdits[] = {
-    {"number, key", Test::MakeViaSet, "Diameter:", "sigValueChanged(double)", StepSpin},
-    {"number, arrow", Test::MakeViaSet, "Drill:", "sigValueChanged(double)", ClickSpinArrow},
-    {"number, typed", Test::MakeViaSet, "Mask:", "sigValueChanged(double)", TypeIntoSpin},
-    {"enable box, mouse", Test::MakeViaSet, "Mask:", "sigCheckChanged(bool)", ClickCheck},
-    {"choice by value", Test::MakeViaSet, "Thermal:", "sigEnumChanged(int)", NextItem},
-    {"choice by text", Test::MakeViaSet, "Drill pair:", "sigTextChanged(QString)", NextItem},
-    {"choice from the open list", Test::MakeViaSet, "Thermal:", "sigEnumChanged(int)", ChooseFromOpenList},
-    {"text, Return", Test::MakePadSet, "Number:", "sigTextChanged(QString)", TypeAndReturn},
-    {"text, Return given to the line", Test::MakePadSet, "Number:", "sigTextChanged(QString)", TypeAndReturnToTheLine},
-    {"text, focus lost", Test::MakePadSet, "Number:", "sigTextChanged(QString)", TypeAndLeave},
-    {"text, mouse press", Test::MakePadSet, "Number:", "sigTextChanged(QString)", TypeAndPress},
-    {"width with a doubled, locked height", Test::MakePadSet, "Size (W x H):", "sigWidthChanged(double)",
-     StepDoubledWidth},
-    {"following height", Test::MakePadSet, "Size (W x H):", "sigHeightChanged(double)", StepDoubledWidth, 2},
-    {"type, which shows and hides rows", Test::MakePadSet, "Type:", "sigEnumChanged(int)", NextItem},
-    {"type from the open list", Test::MakePadSet, "Type:", "sigEnumChanged(int)", ChooseFromOpenList},
-    {"shape, which makes the height follow", Test::MakePadSet, "Shape:", "sigEnumChanged(int)", ChooseFromOpenList, 3},
-    {"layer", Test::MakePadSet, "Side:", "sigLayerChanged(Osmirel::Layer)", NextItem},
-    {"mask of a pad, key", Test::MakePadSet, "Mask:", "sigCheckChanged(bool)", ToggleCheckByKey},
-    {"paste of a pad, mouse", Test::MakePadSet, "Paste:", "sigCheckChanged(bool)", ClickCheck},
-    {"hole", Test::MakeHoleSet, "Diameter:", "sigValueChanged(double)", StepSpin},
-    {"net of a pour", Test::MakePourSet, "Net:", "sigTextChanged(QString)", TypeAndReturn},
-    {"priority of a pour", Test::MakePourSet, "Priority:", "sigValueChanged(int)", StepWholeNumber},
-    {"filling of a pour, with two slots", Test::MakePourSet, "Fill type:", "sigEnumChanged(int)", ChooseFromOpenList},
-    {"thermal of a pour", Test::MakePourSet, "Thermal enable:", "sigStateChanged(bool)", ClickBox},
-    {"width of a wire", Test::MakeWireSet, "Width:", "sigValueChanged(double)", StepSpin},
-    {"layer of a wire", Test::MakeWireSet, "Layer:", "sigLayerChanged(Osmirel::Layer)", NextItem},
-    {"side of a package", Test::MakePackageSet, "Side:", "sigLayerChanged(Osmirel::Layer)", NextItem},
-    {"name of a net tie", Test::MakeNetTieSet, "Name:", "sigTextChanged(QString)", TypeAndReturn},
-    {"show box of a net tie", Test::MakeNetTieSet, "Name:", "sigVisibleChanged(bool)", ClickShowBox},
-    {"pad size of a net tie", Test::MakeNetTieSet, "Pad size:", "sigValueChanged(double)", StepSpin},
-    {"font of a text", Test::MakeTextSet, "Font name:", "sigTextChanged(QString)", ChooseFromOpenList},
-    {"bold of a text", Test::MakeTextSet, "Bold:", "sigStateChanged(bool)", ClickBox},
-    {"mirror of a text", Test::MakeTextSet, "Mirror:", "sigChecked1(bool)", ClickBox},
-    {"colour of a text", Test::MakeTextSet, "Color:", "sigColorChanged(QColor)", NextItem},
-    {"line style of a drawing", Test::MakeDrawingSet, "Line style:", "sigPenStyleChanged(Qt::PenStyle)", NextItem},
-    {"filling of a drawing", Test::MakeDrawingSet, "Fill style:", "sigEnumChanged(int)", ChooseFromOpenList},
-    {"width of a milling path", Test::MakeMillingSet, "Line width:", "sigValueChanged(double)", StepSpin},
-    {"layer of a keepout", Test::MakeKeepoutSet, "Inner 2", "sigStateChanged(bool)", ClickBox},
-    {"class of a net", Test::MakeNetSet, "Net class:", "sigTextChanged(QString)", ChooseFirst},
-    {"level of a net", Test::MakeNetSet, "Level:", "sigTextChanged(QString)", ChooseFromOpenList},
-    {"colour of a net", Test::MakeNetSet, "Color:", "sigColorChanged(QColor)", NextItem},
-    {"name of a bus", Test::MakeBusSet, "Name", "sigTextChanged(QString)", TypeAndReturn, 0},
-    {"name of a pin", Test::MakePinSet, "Name:", "sigTextChanged(QString)", TypeAndReturn},
-    {"show box of a pin's number", Test::MakePinSet, "Number:", "sigVisibleChanged(bool)", ClickShowBox},
-    {"type of a pin", Test::MakePinSet, "Type:", "sigEnumChanged(int)", NextItem},
-    {"name of a port", Test::MakePortSet, "Name:", "sigTextChanged(QString)", TypeAndReturn},
-    {"show box of a port", Test::MakePortSet, "Name:", "sigVisibleChanged(bool)", ClickShowBox},
-    {"lock of a part", Test::MakePartSet, "Lock:", "sigChecked1(bool)", ClickBox, 0},
-    {"name of a tag", Test::MakeTagSet, "Name:", "sigTextChanged(QString)", TypeAndReturn},
-    {"font of a tag", Test::MakeTagSet, "Font name:", "sigTextChanged(QString)", ChooseFromOpenList},
-    {"size of a tag", Test::MakeTagSet, "Font size:", "sigEnumChanged(int)", NextItem},
-    {"line width of a tag", Test::MakeTagSet, "Line width:", "sigValueChanged(double)", StepSpin, 0},
-    {"symbol of a net tie", Test::MakeNetTieSymbolSet, "Symbol:", "sigEnumChanged(int)", NextItem},
-};
 
 enum class Moment { InCommand, InRowSignal };
 enum class Next { NoSet, AnotherSet, SameKind };
@@ -300,13 +123,13 @@ const LooseRow looseRows[] = {
          QTest::keyClick(As<TPropertyText>(row)->visible, Qt::Key_Space);
      }},
     {"colour", [](Test::PlainSet& set) -> TAbstractProperty* { return set.Add<TPropertyColor>("L", QColor()); },
-     "sigColorChanged(QColor)", NextItem},
+     "sigColorChanged(QColor)", Test::NextItem},
     {"angle", [](Test::PlainSet& set) -> TAbstractProperty* { return set.Add<TPropertyAngleEnum>("L"); },
-     "sigAngleChanged(float)", NextItem},
+     "sigAngleChanged(float)", Test::NextItem},
     {"pad shape", [](Test::PlainSet& set) -> TAbstractProperty* { return set.Add<TPropertyPadShape>("L"); },
-     "sigPadShapeChanged(TGraphicsPadItem::TypePadShape)", ChooseFromOpenList},
+     "sigPadShapeChanged(TGraphicsPadItem::TypePadShape)", Test::ChooseFromOpenList},
     {"pen style", [](Test::PlainSet& set) -> TAbstractProperty* { return set.Add<TPropertyPenStyle>("L"); },
-     "sigPenStyleChanged(Qt::PenStyle)", NextItem},
+     "sigPenStyleChanged(Qt::PenStyle)", Test::NextItem},
     {"number set by the program",
      [](Test::PlainSet& set) -> TAbstractProperty* { return set.Add<TPropertyFloatSpin>("L", 0, 9, 1, 1); },
      "sigValueChanged(double)",
@@ -355,7 +178,7 @@ private slots:
         QTest::addColumn<const UserEdit*>("userEdit");
         QTest::addColumn<Moment>("moment");
         QTest::addColumn<Next>("next");
-        for (const UserEdit& userEdit : userEdits) {
+        for (const UserEdit& userEdit : Test::UserEdits()) {
             if (userEdit.commandsOfSignal > 0) {
                 QTest::addRow("%s: command, no set", userEdit.name) << &userEdit << Moment::InCommand << Next::NoSet;
                 QTest::addRow("%s: command, another set", userEdit.name)

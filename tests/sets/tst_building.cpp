@@ -167,6 +167,45 @@ private slots:
         QCOMPARE(QApplication::allWidgets().size(), before);
     }
 
+    void nullsAreSkipped_data() { leavesTheItemsAlone_data(); }
+
+    void nullsAreSkipped()
+    {
+        QFETCH(MakeSet, makeSet);
+        QFETCH(bool, bypass);
+        WatchfulBoard board;
+        board.SetBypass(bypass);
+        for (const QList<TGraphicsItem*>& selection : board.Selections()) {
+            const std::unique_ptr<TPropertySet> plain(makeSet(selection, board));
+            const std::unique_ptr<TPropertySet> holed(makeSet(Items{nullptr} + selection + Items{nullptr}, board));
+            QCOMPARE(holed->Name(), plain->Name());
+            QCOMPARE(Test::RowTexts(holed.get()), Test::RowTexts(plain.get()));
+        }
+        const std::unique_ptr<TPropertySet> ofNone(makeSet({}, board));
+        const std::unique_ptr<TPropertySet> ofNulls(makeSet({nullptr, nullptr}, board));
+        QCOMPARE(ofNulls->Name(), ofNone->Name());
+        QCOMPARE(Test::RowTexts(ofNulls.get()), Test::RowTexts(ofNone.get()));
+    }
+
+    void noEditorIsAWindowOnceTheSetIsShown_data() { leavesTheItemsAlone_data(); }
+
+    /** Those of rows that are made and not shown neither. */
+    void noEditorIsAWindowOnceTheSetIsShown()
+    {
+        QFETCH(MakeSet, makeSet);
+        QFETCH(bool, bypass);
+        WatchfulBoard board;
+        board.SetBypass(bypass);
+        Test::PanelWindow place;
+        place.Show(nullptr);
+        const QWidgetList before = QApplication::topLevelWidgets();
+        place.Show(makeSet(board.AllItems(), board));
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        for (QWidget* window : windows) {
+            QVERIFY2(before.contains(window) || window->parent(), window->metaObject()->className());
+        }
+    }
+
     void readsTheItemsOnce_data() { leavesTheItemsAlone_data(); }
 
     void readsTheItemsOnce()
