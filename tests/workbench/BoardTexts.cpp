@@ -281,6 +281,25 @@ QByteArray BoardTexts::Footprint(const QByteArray& elements)
     return "  (footprint \"Lib:Part\" (layer \"F.Cu\") (at 0 0) (property \"Reference\" \"U1\")\n" + elements + "\n  )";
 }
 
+QByteArray BoardTexts::StackedPads()
+{
+    const QByteArray package = Footprint(R"re((pad 1 smd rect (at -4 0) (size 1 0.5) (layers F.Cu) (net 1 GND))
+    (pad 2 smd rect (at 0 0) (size 5 5) (layers F.Cu) (net 1 GND))
+    (pad 2 thru_hole circle (at 0 0) (size 1 1) (drill 0.4) (layers *.Cu) (net 1 GND))
+    (pad 2 thru_hole circle (at -1.5 0) (size 1 1) (drill 0.4) (layers *.Cu) (net 1 GND))
+    (pad 2 thru_hole circle (at 1.5 0) (size 1 1) (drill 0.4) (layers *.Cu) (net 1 GND)))re");
+    QByteArray tracks;
+    for (const QByteArray layer : {"F.Cu", "In1.Cu", "B.Cu"}) {
+        for (const QByteArray x : {"0", "-1.5", "1.7", "-0.6"}) {
+            tracks += "  (segment (start " + x + " 0) (end " + x + " 9) (width 0.2) (layer " + layer + ") (net 1))\n";
+        }
+    }
+    tracks += "  (segment (start 0 0) (end -4 0) (width 0.2) (layer F.Cu) (net 1))\n";
+    const QByteArray layers =
+        "    (0 F.Cu signal)\n    (1 In1.Cu signal)\n    (2 In2.Cu signal)\n    (31 B.Cu signal)\n";
+    return BoardWithLayers(layers, package + '\n' + package + '\n' + tracks);
+}
+
 QByteArray BoardTexts::InDialect(int version)
 {
     switch (version) {

@@ -15,6 +15,9 @@ QByteArray BoardWithLayers(const QByteArray& layers, const QByteArray& elements 
 /** A footprint "U1" on the top side at the origin, with these further elements. */
 QByteArray Footprint(const QByteArray& elements);
 
+/** Two packages in one place, whose drilled pads lie within their exposed pads, with tracks of three layers to them. */
+QByteArray StackedPads();
+
 /** One and the same board as versions 5 to 9 write it. */
 QByteArray InDialect(int version);
 

@@ -1,5 +1,6 @@
 #include "tests/support/TestMain.h"
 #include "tests/workbench/ImportedItems.h"
+#include "tests/workbench/RealDesigns.h"
 #include "tests/workbench/TBoardText.h"
 
 #include <graphics/TGraphicsTextItem.h>
@@ -9,7 +10,6 @@
 #include <objects/TGraphicsPackageItem.h>
 #include <objects/TGraphicsPadItem.h>
 
-#include <QDirIterator>
 #include <QtTest>
 
 #include <cmath>
@@ -76,15 +76,7 @@ class TestDesigns : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        const QString folder = QStringLiteral(PROPERTIES_DESIGNS_DIR);
-        QDirIterator found(folder, {"*.kicad_pcb"}, QDir::Files, QDirIterator::Subdirectories);
-        while (!folder.isEmpty() && found.hasNext()) {
-            designs.append(found.next());
-        }
-        designs.sort();
-    }
+    void initTestCase() { designs = Test::RealDesigns(QStringLiteral(PROPERTIES_DESIGNS_DIR), "*.kicad_pcb"); }
 
     void holdsAllItems_data() { AddFiles(designs + sample); }
 

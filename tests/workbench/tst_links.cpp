@@ -1,6 +1,8 @@
+#include "properties/commands/TCmdPackage.h"
 #include "tests/support/TestMain.h"
 #include "tests/workbench/BoardTexts.h"
 #include "tests/workbench/ImportedItems.h"
+#include "tests/workbench/RealDesigns.h"
 #include "tests/workbench/TBoardText.h"
 
 #include <objects/TGraphicsJunctionItem.h>
@@ -10,9 +12,10 @@
 #include <objects/TGraphicsRatLineItem.h>
 #include <objects/TGraphicsWireItem.h>
 
-#include <QDirIterator>
 #include <QElapsedTimer>
+#include <QGraphicsView>
 #include <QtTest>
+#include <QUndoStack>
 
 #include <cmath>
 
@@ -125,12 +128,7 @@ class TestLinks : public QObject
 private slots:
     void initTestCase()
     {
-        const QString folder = QStringLiteral(PROPERTIES_DESIGNS_DIR);
-        QDirIterator found(folder, {"*.kicad_pcb"}, QDir::Files, QDirIterator::Subdirectories);
-        while (!folder.isEmpty() && found.hasNext()) {
-            designs.append(found.next());
-        }
-        designs.sort();
+        designs = Test::RealDesigns(QStringLiteral(PROPERTIES_DESIGNS_DIR), "*.kicad_pcb");
         designs.append(QStringLiteral(PROPERTIES_SOURCE_DIR "/workbench/samples/sample.kicad_pcb"));
     }
 
@@ -222,6 +220,30 @@ private slots:
         const TImportResult imported = Import(elements);
         QCOMPARE(imported.error, QString());
         QTEST(Topology(imported), "topology");
+    }
+
+    // Where pads lie on each other, each track comes back to the one that it was linked with.
+    void tracksOfStackedPadsComeBackFromTheOtherSide()
+    {
+        const TImportResult imported = ImportBoardText(BoardTexts::StackedPads(), QStringLiteral("board"));
+        QCOMPARE(imported.error, QString());
+        QGraphicsView view(imported.board->Scene());
+        imported.board->SetView(&view);
+        const auto packages = All<TGraphicsPackageItem>(imported);
+        QCOMPARE(packages.size(), 2);
+        QCOMPARE(All<TGraphicsWireItem>(imported).first()->FirstLink()->DesignOrder(),
+                 packages.first()->Pads().at(1)->DesignOrder()); // The exposed one, which a drilled one is centred in.
+        QUndoStack stack;
+        QStringList states{imported.board->Dump()};
+        for (const auto side : {Osmirel::PackagesBottom, Osmirel::PackagesTop, Osmirel::PackagesBottom}) {
+            stack.push(new TCmdPkgSide(packages, side, imported.board.get()));
+            states.append(imported.board->Dump());
+            QVERIFY(states.last() != states.at(states.size() - 2));
+        }
+        for (const int index : {0, 3, 1, 2, 0, 1, 0}) {
+            stack.setIndex(index);
+            QCOMPARE(imported.board->Dump(), states[index]);
+        }
     }
 
     void makesJunctions()

@@ -1,7 +1,7 @@
 #include "tests/support/TestMain.h"
+#include "tests/workbench/RealDesigns.h"
 #include "workbench/session/CommandLine.h"
 
-#include <QDirIterator>
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -47,10 +47,9 @@ void AddRealFiles(const QString& pattern)
     if (folder.isEmpty()) {
         QSKIP("There is no folder of real designs");
     }
-    QDirIterator files(folder, {pattern}, QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        const QString file = files.next();
-        QTest::newRow(qPrintable(files.fileName())) << file;
+    const QStringList files = Test::RealDesigns(folder, pattern);
+    for (const QString& file : files) {
+        QTest::newRow(qPrintable(file.mid(folder.size() + 1))) << file;
     }
 }
 

@@ -1,5 +1,6 @@
 #include "properties/commands/TCmdProjectTree.h"
 #include "properties/commands/TCmdText.h"
+#include "tests/support/LineDifferences.h"
 #include "tests/support/PanelFixture.h"
 #include "tests/support/RandomCases.h"
 #include "tests/support/TestMain.h"
@@ -137,16 +138,7 @@ public:
         if (stack.index() >= dumps.size()) {
             dumps.append(dump);
         }
-        const QStringList actual = dump.split('\n');
-        const QStringList expected = dumps[stack.index()].split('\n');
-        for (int i = 0; i < std::max(actual.size(), expected.size()); ++i) {
-            if (actual.value(i) != expected.value(i)) {
-                return QStringLiteral("line %1 is\n  %2\nand should be\n  %3")
-                    .arg(i)
-                    .arg(actual.value(i), expected.value(i));
-            }
-        }
-        return {};
+        return Test::LineDifferences(dump, dumps[stack.index()]);
     }
 
 public slots:
@@ -287,11 +279,13 @@ private:
         if (ActOn(action, step, Selected())) {
             return;
         }
-        for (const char* word : {"package", "wire", "part", "busentry", "nettie", "rectangle"}) {
+        const QStringList words{"package", "part", "wire", "busentry", "nettie", "nettiesymbol", "rectangle"};
+        for (int i = 0; i < words.size(); ++i) {
+            const QString& word = words[(step.value + i) % words.size()]; // Each has its turn to be the first.
             Items suitable = ItemsOf(design);
             suitable.erase(std::remove_if(suitable.begin(), suitable.end(),
-                                          [word](const TGraphicsItem* item) {
-                                              return item->parentItem() || Kinds::Word(*item) != QLatin1String(word);
+                                          [&word](const TGraphicsItem* item) {
+                                              return item->parentItem() || Kinds::Word(*item) != word;
                                           }),
                            suitable.end());
             if (!suitable.isEmpty() && ActOn(action, step, {suitable[step.value % suitable.size()]})) {

@@ -3,6 +3,7 @@
 #include "tests/support/TestMain.h"
 #include "tests/workbench/FreePads.h"
 #include "tests/workbench/PanelCells.h"
+#include "tests/workbench/RealDesigns.h"
 #include "workbench/importer/ProjectImporter.h"
 #include "workbench/Kinds.h"
 #include "workbench/LoadDesign.h"
@@ -12,7 +13,6 @@
 #include <application/TUndoCommand.h>
 #include <objects/TGraphicsPackageItem.h>
 
-#include <QDirIterator>
 #include <QGraphicsView>
 #include <QtTest>
 #include <QUndoStack>
@@ -232,14 +232,8 @@ private slots:
 private:
     static QStringList Files()
     {
-        QStringList files;
         const QString folder = QStringLiteral(PROPERTIES_DESIGNS_DIR);
-        QDirIterator found(folder, {"*.kicad_pcb", "*.kicad_pro"}, QDir::Files, QDirIterator::Subdirectories);
-        while (!folder.isEmpty() && found.hasNext()) {
-            files.append(found.next());
-        }
-        files.sort();
-        return files;
+        return Test::RealDesigns(folder, "*.kicad_pcb") + Test::RealDesigns(folder, "*.kicad_pro");
     }
 
     std::vector<PanelCell> Show(const Items& selection)

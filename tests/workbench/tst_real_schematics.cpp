@@ -1,4 +1,5 @@
 #include "tests/support/TestMain.h"
+#include "tests/workbench/RealDesigns.h"
 #include "tests/workbench/SheetFiles.h"
 
 #include "properties/commands/TCmdPort.h"
@@ -15,7 +16,6 @@
 #include <objects/TGraphicsPinItem.h>
 #include <objects/TGraphicsPortItem.h>
 
-#include <QDirIterator>
 #include <QSet>
 #include <QtTest>
 
@@ -92,15 +92,7 @@ class TestRealSchematics : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        const QString folder = QStringLiteral(PROPERTIES_DESIGNS_DIR);
-        QDirIterator found(folder, {"*.kicad_pro"}, QDir::Files, QDirIterator::Subdirectories);
-        while (!folder.isEmpty() && found.hasNext()) {
-            designs.append(found.next());
-        }
-        designs.sort();
-    }
+    void initTestCase() { designs = Test::RealDesigns(QStringLiteral(PROPERTIES_DESIGNS_DIR), "*.kicad_pro"); }
 
     void holdsAllItems_data() { AddDesigns(); }
 

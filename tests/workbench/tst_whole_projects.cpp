@@ -1,15 +1,14 @@
+#include "tests/support/LineDifferences.h"
 #include "tests/support/TestMain.h"
+#include "tests/workbench/RealDesigns.h"
 #include "tests/workbench/ShownWorkbench.h"
 #include "workbench/importer/ProjectImporter.h"
 #include "workbench/Kinds.h"
 #include "workbench/LoadDesign.h"
 #include "workbench/Picking.h"
 
-#include <QDirIterator>
 #include <QtTest>
 #include <QUndoStack>
-
-#include <algorithm>
 
 namespace {
 
@@ -73,10 +72,9 @@ private slots:
         QTest::addColumn<QString>("file");
         QTest::newRow("sample") << SampleProjectFile();
         const QString folder = QStringLiteral(PROPERTIES_DESIGNS_DIR);
-        QDirIterator found(folder, {"*.kicad_pro"}, QDir::Files, QDirIterator::Subdirectories);
-        while (!folder.isEmpty() && found.hasNext()) {
-            const QString file = found.next();
-            QTest::newRow(found.fileName().toUtf8()) << file;
+        const QStringList projects = Test::RealDesigns(folder, "*.kicad_pro");
+        for (const QString& file : projects) {
+            QTest::newRow(qPrintable(file.mid(folder.size() + 1))) << file;
         }
     }
     void everyKindIsEditedUndoneAndRedone()
@@ -152,13 +150,8 @@ private:
 
     static void ExpectEqual(const char* what, const QString& actual, const QString& expected)
     {
-        const QStringList lines = actual.split('\n');
-        const QStringList wanted = expected.split('\n');
-        for (int i = 0; i < std::max(lines.size(), wanted.size()); ++i) {
-            QVERIFY2(
-                lines.value(i) == wanted.value(i),
-                qPrintable(QString("%1: is\n  %2\nand should be\n  %3").arg(what, lines.value(i), wanted.value(i))));
-        }
+        const QString differences = Test::LineDifferences(actual, expected);
+        QVERIFY2(differences.isEmpty(), qPrintable(QString("%1: %2").arg(what, differences)));
     }
 };
 

@@ -4,7 +4,6 @@
 #include "properties/TPropertyWidget.h"
 #include "tests/support/TestMain.h"
 #include "tests/workbench/ShownWorkbench.h"
-#include "workbench/CommandNames.h"
 #include "workbench/Kinds.h"
 #include "workbench/LoadDesign.h"
 #include "workbench/TCanvas.h"
@@ -421,10 +420,6 @@ void TestWorkbench::commandsAreNamedInUsersWords()
 
 void TestWorkbench::namesOfKinds()
 {
-    class TCmdWithoutAName : public QUndoCommand
-    {};
-    QVERIFY(CommandNames::Text(TCmdWithoutAName(), "1 via").contains("TCmdWithoutAName"));
-
     QCOMPARE(Kinds::Counted(1, nullptr), QString("1 item"));
     QCOMPARE(Kinds::Counted(2, nullptr), QString("2 items"));
     QCOMPARE(Kinds::Summary({}), QString());
