@@ -12,6 +12,8 @@ packages=(
     fonts-dejavu-core
 )
 
+export CCACHE_SLOPPINESS=pch_defines,time_macros # Without it a compiler cache keeps nothing that uses precompiled headers.
+
 say() { printf '%s\n' "$*" >&2; }
 
 # need PACKAGE...: installs those that are missing.
@@ -33,19 +35,22 @@ need()
     "${admin[@]}" install -y --no-install-recommends "${missing[@]}"
 }
 
-# cached PRESET ENTRY: whether the build's cache holds this line.
-cached() { grep -qxF "$2" "$root/build/$1/CMakeCache.txt"; }
-
-# configure PRESET: once, and again when the presets have changed, the tree has moved or other designs are asked for.
+# configure PRESET: once, and again when the presets have changed or the tree has moved.
 configure()
 {
-    local designs=${PROPERTIES_DESIGNS:+$(realpath -m "$PROPERTIES_DESIGNS")} options=()
     [[ $root/build/$1/build.ninja -nt $root/CMakePresets.json ]] &&
-        cached "$1" "CMAKE_HOME_DIRECTORY:INTERNAL=$root" &&
-        { [[ -z $designs ]] || cached "$1" "PROPERTIES_DESIGNS_DIR:PATH=$designs"; } && return
+        grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$root/build/$1/CMakeCache.txt" && return
+    cmake --fresh --preset "$1" -S "$root"
+}
 
-    [[ -z $designs ]] || options+=("-DPROPERTIES_DESIGNS_DIR:PATH=$designs")
-    cmake --fresh --preset "$1" -S "$root" "${options[@]}"
+# find_designs: the real designs to test with are those in a folder beside the project, unless another one is given.
+find_designs()
+{
+    local folder
+    for folder in "$root"/../*/designs; do
+        [[ ! -d $folder ]] || export PROPERTIES_DESIGNS=${PROPERTIES_DESIGNS:-$folder}
+    done
+    say "Real designs to test with: ${PROPERTIES_DESIGNS:-none}"
 }
 
 # build PRESET [TARGET...]: silent when nothing is out of date.

@@ -2,7 +2,7 @@
 #include "tests/commands/Links.h"
 #include "tests/commands/SheetDesign.h"
 #include "tests/support/Observers.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QUndoStack>
 
@@ -290,5 +290,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestBusEntries)
+PROPERTIES_TEST(TestBusEntries)
 #include "tst_busentries.moc"

@@ -2,7 +2,7 @@
 #include "tests/commands/LawTable.h"
 #include "tests/commands/MixedBoard.h"
 #include "tests/commands/ProjectLawTable.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/commands/CommandKind.h"
 
@@ -105,5 +105,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestCommandKinds)
+PROPERTIES_TEST(TestCommandKinds)
 #include "tst_commandkinds.moc"

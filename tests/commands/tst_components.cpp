@@ -1,6 +1,6 @@
 #include "properties/commands/TCmdComponent.h"
 #include "tests/commands/SheetDesign.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 using Test::SheetDesign;
 using Numbers = QList<unsigned short>;
@@ -248,5 +248,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestComponents)
+PROPERTIES_TEST(TestComponents)
 #include "tst_components.moc"

@@ -3,7 +3,7 @@
 #include "tests/commands/LawRows.h"
 #include "tests/commands/ProjectLawTable.h"
 #include "tests/support/LineDifferences.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QtTest>
 
@@ -208,5 +208,5 @@ private:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestContexts)
+PROPERTIES_TEST(TestContexts)
 #include "tst_contexts.moc"

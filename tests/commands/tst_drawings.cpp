@@ -1,7 +1,7 @@
 #include "properties/commands/TCmdOutline.h"
 #include "properties/commands/TCmdPrimitive.h"
 #include "tests/host/Network.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <graphics/TGraphicsEllipseItem.h>
 #include <graphics/TGraphicsLineItem.h>
@@ -122,5 +122,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestDrawings)
+PROPERTIES_TEST(TestDrawings)
 #include "tst_drawings.moc"

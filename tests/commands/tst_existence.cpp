@@ -2,7 +2,7 @@
 #include "properties/commands/TExistingItems.h"
 #include "properties/commands/TUniqueNumbers.h"
 #include "tests/commands/PackageDesign.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <objects/TGraphicsNetItem.h>
 
@@ -176,5 +176,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestExistence)
+PROPERTIES_TEST(TestExistence)
 #include "tst_existence.moc"

@@ -1,5 +1,7 @@
 #include "tests/commands/LawTable.h"
 #include "tests/commands/ProjectLawTable.h"
+#include "tests/support/Places.h"
+#include "tests/support/TestProgram.h"
 
 #include <QFile>
 #include <QProcess>
@@ -99,7 +101,7 @@ private slots:
 
     void idsAreUniqueAndAscending()
     {
-        QList<Id> ids = IdsIn(Read(PROPERTIES_SOURCE_DIR "/properties/commands/CommandIds.h"));
+        QList<Id> ids = IdsIn(Read(Test::SourcePath("properties/commands/CommandIds.h")));
         QVERIFY(ids.size() > 1);
         QCOMPARE(ids.takeFirst().number, -1); // that of a command without an id
         for (int i = 0; i < ids.size(); ++i) {
@@ -110,7 +112,7 @@ private slots:
 
     void everyIdBelongsToOneLaw()
     {
-        const QList<Id> ids = IdsIn(Read(PROPERTIES_SOURCE_DIR "/properties/commands/CommandIds.h"));
+        const QList<Id> ids = IdsIn(Read(Test::SourcePath("properties/commands/CommandIds.h")));
         const QList<Id> laws = IdsOfLaws();
         for (const Id& id : ids) {
             const auto owners = std::count_if(laws.begin(), laws.end(), [&id](const Id& law) {
@@ -125,5 +127,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestExported)
+PROPERTIES_TEST(TestExported)
 #include "tst_exported.moc"

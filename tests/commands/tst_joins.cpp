@@ -1,6 +1,6 @@
 #include "properties/commands/TCmdWire.h"
 #include "tests/commands/Links.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QtTest>
 
@@ -132,5 +132,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestJoins)
+PROPERTIES_TEST(TestJoins)
 #include "tst_joins.moc"

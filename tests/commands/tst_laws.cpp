@@ -2,7 +2,7 @@
 #include "tests/commands/LawTable.h"
 #include "tests/commands/MixedBoard.h"
 #include "tests/support/Observers.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QSet>
 #include <QtTest>
@@ -405,5 +405,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestLaws)
+PROPERTIES_TEST(TestLaws)
 #include "tst_laws.moc"

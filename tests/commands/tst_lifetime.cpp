@@ -2,7 +2,7 @@
 #include "tests/commands/LawRows.h"
 #include "tests/commands/LawTable.h"
 #include "tests/commands/MixedBoard.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QtTest>
 #include <QUndoStack>
@@ -142,5 +142,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestLifetime)
+PROPERTIES_TEST(TestLifetime)
 #include "tst_lifetime.moc"

@@ -1,6 +1,6 @@
 #include "properties/commands/TCmdNet.h"
 #include "tests/commands/SheetDesign.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <objects/TGraphicsRatLineItem.h>
 
@@ -501,5 +501,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestNetAttributes)
+PROPERTIES_TEST(TestNetAttributes)
 #include "tst_netattributes.moc"

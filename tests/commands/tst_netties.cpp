@@ -1,7 +1,7 @@
 #include "properties/commands/TCmdNetTie.h"
 #include "tests/host/Network.h"
 #include "tests/support/Observers.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <application/TProject.h>
 #include <application/TSchematic.h>
@@ -388,5 +388,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestNetTies)
+PROPERTIES_TEST(TestNetTies)
 #include "tst_netties.moc"

@@ -1,6 +1,6 @@
 #include "properties/commands/TCmdWire.h"
 #include "tests/commands/Links.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QtTest>
 #include <QUndoStack>
@@ -477,5 +477,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestNodes)
+PROPERTIES_TEST(TestNodes)
 #include "tst_nodes.moc"

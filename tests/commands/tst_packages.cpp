@@ -1,7 +1,7 @@
 #include "properties/commands/TCmdLock.h"
 #include "properties/commands/TCmdPackage.h"
 #include "tests/commands/PackageDesign.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QtTest>
 
@@ -416,5 +416,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestPackages)
+PROPERTIES_TEST(TestPackages)
 #include "tst_packages.moc"

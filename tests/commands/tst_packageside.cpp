@@ -1,6 +1,6 @@
 #include "properties/commands/TCmdPackage.h"
 #include "tests/commands/PackageDesign.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QtTest>
 #include <QUndoStack>
@@ -325,5 +325,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestPackageSide)
+PROPERTIES_TEST(TestPackageSide)
 #include "tst_packageside.moc"

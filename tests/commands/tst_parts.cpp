@@ -1,6 +1,6 @@
 #include "properties/commands/TCmdPart.h"
 #include "tests/commands/SheetDesign.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QUndoStack>
 
@@ -305,5 +305,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestParts)
+PROPERTIES_TEST(TestParts)
 #include "tst_parts.moc"

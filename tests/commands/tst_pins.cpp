@@ -3,7 +3,7 @@
 #include "properties/commands/TCmdTag.h"
 #include "tests/commands/SheetDesign.h"
 #include "tests/support/Observers.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <functional>
 
@@ -293,5 +293,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestPins)
+PROPERTIES_TEST(TestPins)
 #include "tst_pins.moc"

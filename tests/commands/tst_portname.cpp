@@ -1,6 +1,6 @@
 #include "properties/commands/TCmdPort.h"
 #include "tests/commands/SheetDesign.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QUndoStack>
 
@@ -505,5 +505,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestPortName)
+PROPERTIES_TEST(TestPortName)
 #include "tst_portname.moc"

@@ -1,6 +1,6 @@
 #include "properties/commands/TCmdPour.h"
 #include "tests/host/Network.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QtTest>
 
@@ -85,5 +85,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestPours)
+PROPERTIES_TEST(TestPours)
 #include "tst_pours.moc"

@@ -2,7 +2,7 @@
 #include "tests/commands/LawTable.h"
 #include "tests/commands/ProjectLawTable.h"
 #include "tests/support/Observers.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QSet>
 #include <QUndoStack>
@@ -191,5 +191,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestProjectLaws)
+PROPERTIES_TEST(TestProjectLaws)
 #include "tst_project_laws.moc"

@@ -1,5 +1,5 @@
 #include "properties/commands/TCmdProjectTree.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <application/TProjectTree.h>
 
@@ -233,5 +233,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestProjectTree)
+PROPERTIES_TEST(TestProjectTree)
 #include "tst_projecttree.moc"

@@ -4,7 +4,7 @@
 #include "properties/commands/TCmdVia.h"
 #include "tests/commands/MixedBoard.h"
 #include "tests/support/Observers.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QImage>
 #include <QPainter>
@@ -392,5 +392,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestQuirks)
+PROPERTIES_TEST(TestQuirks)
 #include "tst_quirks.moc"

@@ -1,6 +1,6 @@
 #include "tests/commands/RandomEditing.h"
 #include "tests/commands/RandomNetwork.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QSettings>
 #include <QTemporaryDir>
@@ -55,5 +55,5 @@ private:
     QTemporaryDir folder;
 };
 
-PROPERTIES_TEST_MAIN(TestRandomNetworks)
+PROPERTIES_TEST(TestRandomNetworks)
 #include "tst_random_networks.moc"

@@ -1,6 +1,6 @@
 #include "tests/commands/RandomEditing.h"
 #include "tests/commands/RandomSheet.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 namespace {
 
@@ -48,5 +48,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestRandomSheets)
+PROPERTIES_TEST(TestRandomSheets)
 #include "tst_random_sheets.moc"

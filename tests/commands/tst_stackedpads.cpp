@@ -1,7 +1,7 @@
 #include "properties/commands/TCmdPackage.h"
 #include "tests/commands/PackageDesign.h"
 #include "tests/commands/StackedPads.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QUndoStack>
 
@@ -150,5 +150,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestStackedPads)
+PROPERTIES_TEST(TestStackedPads)
 #include "tst_stackedpads.moc"

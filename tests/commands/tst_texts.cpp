@@ -1,7 +1,7 @@
 #include "properties/commands/TCmdText.h"
 #include "tests/support/Observers.h"
 #include "tests/support/TestBoard.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QtTest>
 
@@ -242,5 +242,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestTexts)
+PROPERTIES_TEST(TestTexts)
 #include "tst_texts.moc"

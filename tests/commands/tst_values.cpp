@@ -6,7 +6,7 @@
 #include "properties/commands/TCmdText.h"
 #include "properties/commands/TCmdVia.h"
 #include "tests/commands/SheetDesign.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <graphics/TGraphicsPolygonItem.h>
 
@@ -178,5 +178,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestValues)
+PROPERTIES_TEST(TestValues)
 #include "tst_values.moc"

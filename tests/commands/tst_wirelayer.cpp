@@ -1,5 +1,5 @@
 #include "tests/commands/WireLayerDesign.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QtTest>
 
@@ -485,5 +485,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestWireLayer)
+PROPERTIES_TEST(TestWireLayer)
 #include "tst_wirelayer.moc"

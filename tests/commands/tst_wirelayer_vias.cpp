@@ -1,6 +1,6 @@
 #include "properties/commands/TCmdMask.h"
 #include "tests/commands/WireLayerDesign.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QSettings>
 #include <QTemporaryDir>
@@ -379,5 +379,5 @@ private:
     QTemporaryDir folder;
 };
 
-PROPERTIES_TEST_MAIN(TestWireLayerVias)
+PROPERTIES_TEST(TestWireLayerVias)
 #include "tst_wirelayer_vias.moc"

@@ -1,6 +1,6 @@
 #include "properties/commands/TCmdWire.h"
 #include "tests/commands/Links.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QtTest>
 
@@ -130,5 +130,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestWireWidth)
+PROPERTIES_TEST(TestWireWidth)
 #include "tst_wirewidth.moc"

@@ -1,6 +1,7 @@
 #include "tests/contract/ContractPage.h"
 #include "tests/contract/HostHeaders.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/Places.h"
+#include "tests/support/TestProgram.h"
 #include "tests/tree/TestSources.h"
 
 #include <QDirIterator>
@@ -52,7 +53,7 @@ protected:
 };
 )";
 
-const QString root = QStringLiteral(PROPERTIES_SOURCE_DIR "/");
+const QString root = Test::SourcePath();
 
 QStringList FilesOf(const QString& folder)
 {
@@ -350,5 +351,5 @@ private:
     QStringList toolkitListed;
 };
 
-PROPERTIES_TEST_MAIN(TestTables)
+PROPERTIES_TEST(TestTables)
 #include "tst_tables.moc"

@@ -1,5 +1,5 @@
 #include "tests/support/TestBoard.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QGraphicsView>
 #include <QtTest>
@@ -172,5 +172,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestBoardItems)
+PROPERTIES_TEST(TestBoardItems)
 #include "tst_board.moc"

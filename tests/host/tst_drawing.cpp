@@ -1,5 +1,5 @@
 #include "tests/support/TestBoard.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <graphics/TGraphicsTextItem.h>
 #include <objects/DrawingStyle.h>
@@ -339,5 +339,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestDrawing)
+PROPERTIES_TEST(TestDrawing)
 #include "tst_drawing.moc"

@@ -1,5 +1,5 @@
 #include "tests/host/Network.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <graphics/TGraphicsLineItem.h>
 
@@ -396,5 +396,5 @@ private:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestLinks)
+PROPERTIES_TEST(TestLinks)
 #include "tst_links.moc"

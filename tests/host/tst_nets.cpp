@@ -1,5 +1,5 @@
 #include "tests/host/Network.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 class TestNets : public QObject
 {
@@ -114,5 +114,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestNets)
+PROPERTIES_TEST(TestNets)
 #include "tst_nets.moc"

@@ -1,5 +1,5 @@
 #include "tests/host/Network.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <graphics/TGraphicsTextItem.h>
 #include <objects/TGraphicsRatLineItem.h>
@@ -264,5 +264,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestPackages)
+PROPERTIES_TEST(TestPackages)
 #include "tst_packages.moc"

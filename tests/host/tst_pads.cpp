@@ -1,6 +1,6 @@
 #include "tests/support/Observers.h"
 #include "tests/support/TestBoard.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QtTest>
 
@@ -379,5 +379,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestPads)
+PROPERTIES_TEST(TestPads)
 #include "tst_pads.moc"

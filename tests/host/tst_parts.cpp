@@ -1,6 +1,6 @@
 #include "tests/host/LinkFault.h"
 #include "tests/host/Sheet.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QtTest>
 
@@ -268,5 +268,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestParts)
+PROPERTIES_TEST(TestParts)
 #include "tst_parts.moc"

@@ -1,4 +1,4 @@
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <application/TSchematic.h>
 #include <objects/TGraphicsNetItem.h>
@@ -125,5 +125,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestPortColors)
+PROPERTIES_TEST(TestPortColors)
 #include "tst_portcolors.moc"

@@ -1,6 +1,6 @@
 #include "tests/host/LinkFault.h"
 #include "tests/host/Sheet.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QtTest>
 
@@ -253,5 +253,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestPorts)
+PROPERTIES_TEST(TestPorts)
 #include "tst_ports.moc"

@@ -1,5 +1,5 @@
 #include "tests/host/Network.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <graphics/TGraphicsTextItem.h>
 #include <objects/TGraphicsKeepoutItem.h>
@@ -389,5 +389,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestPour)
+PROPERTIES_TEST(TestPour)
 #include "tst_pour.moc"

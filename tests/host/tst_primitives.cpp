@@ -1,5 +1,5 @@
 #include "tests/host/Network.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <graphics/Shapes.h>
 #include <graphics/TGraphicsArcItem.h>
@@ -414,5 +414,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestPrimitives)
+PROPERTIES_TEST(TestPrimitives)
 #include "tst_primitives.moc"

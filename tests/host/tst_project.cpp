@@ -1,5 +1,5 @@
 #include "tests/host/Network.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <application/TProject.h>
 #include <application/TSchematic.h>
@@ -250,5 +250,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestProject)
+PROPERTIES_TEST(TestProject)
 #include "tst_project.moc"

@@ -1,5 +1,5 @@
 #include "tests/host/Network.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <application/TProject.h>
 #include <application/TSchematic.h>
@@ -309,5 +309,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestRats)
+PROPERTIES_TEST(TestRats)
 #include "tst_rats.moc"

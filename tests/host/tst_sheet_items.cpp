@@ -1,5 +1,5 @@
 #include "tests/host/Sheet.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QPainter>
 #include <QtTest>
@@ -308,5 +308,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestSheetItems)
+PROPERTIES_TEST(TestSheetItems)
 #include "tst_sheet_items.moc"

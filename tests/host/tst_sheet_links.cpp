@@ -1,6 +1,6 @@
 #include "tests/host/LinkFault.h"
 #include "tests/host/Sheet.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <QtTest>
 
@@ -315,5 +315,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestSheetLinks)
+PROPERTIES_TEST(TestSheetLinks)
 #include "tst_sheet_links.moc"

@@ -1,5 +1,5 @@
 #include "tests/host/Sheet.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <application/TProjectTree.h>
 
@@ -200,5 +200,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestSheets)
+PROPERTIES_TEST(TestSheets)
 #include "tst_sheets.moc"

@@ -1,7 +1,7 @@
 #include "tests/host/StateChanges.h"
 #include "tests/host/StateFields.h"
 #include "tests/support/TestBoard.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <graphics/TGraphicsArcItem.h>
 #include <graphics/TGraphicsEllipseItem.h>
@@ -339,5 +339,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestState)
+PROPERTIES_TEST(TestState)
 #include "tst_state.moc"

@@ -1,5 +1,5 @@
 #include "tests/host/Network.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <application/TApplication.h>
 #include <graphics/TGraphicsTextItem.h>
@@ -133,5 +133,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestText)
+PROPERTIES_TEST(TestText)
 #include "tst_text.moc"

@@ -1,5 +1,5 @@
 #include "tests/host/Network.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 // The ways in which editing takes wires apart and puts them together, step by step as commands do it: afterwards the
 // board is what it was, and on the way nothing points to what has gone.
@@ -155,5 +155,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestWireCopy)
+PROPERTIES_TEST(TestWireCopy)
 #include "tst_wire_copy.moc"

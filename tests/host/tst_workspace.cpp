@@ -1,4 +1,4 @@
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include <workspace/TDoubleSpinBox.h>
 #include <workspace/TWorkspace.h>
@@ -207,5 +207,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestWorkspace)
+PROPERTIES_TEST(TestWorkspace)
 #include "tst_workspace.moc"

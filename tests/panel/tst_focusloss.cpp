@@ -2,7 +2,7 @@
 #include "tests/support/Observers.h"
 #include "tests/support/PanelFixture.h"
 #include "tests/support/TestBoard.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TLineEdit.h"
 #include "properties/rows/TPropertyEnum.h"
@@ -205,5 +205,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestFocusLoss)
+PROPERTIES_TEST(TestFocusLoss)
 #include "tst_focusloss.moc"

@@ -1,6 +1,6 @@
 #include "tests/support/PanelFixture.h"
 #include "tests/support/PlainSet.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TPropertyCheck.h"
 #include "properties/rows/TPropertySeparator.h"
@@ -172,5 +172,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestGrid)
+PROPERTIES_TEST(TestGrid)
 #include "tst_grid.moc"

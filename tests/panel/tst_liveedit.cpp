@@ -2,7 +2,7 @@
 #include "tests/support/Observers.h"
 #include "tests/support/PanelFixture.h"
 #include "tests/support/TestBoard.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TLineEdit.h"
 #include "properties/rows/TPropertyEnum.h"
@@ -334,5 +334,5 @@ private:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestLiveEdit)
+PROPERTIES_TEST(TestLiveEdit)
 #include "tst_liveedit.moc"

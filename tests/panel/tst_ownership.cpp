@@ -2,7 +2,7 @@
 #include "tests/support/PanelFixture.h"
 #include "tests/support/PlainSet.h"
 #include "tests/support/TestBoard.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TPropertyCheck.h"
 #include "properties/rows/TPropertyFloatSpin.h"
@@ -279,5 +279,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestOwnership)
+PROPERTIES_TEST(TestOwnership)
 #include "tst_ownership.moc"

@@ -1,7 +1,7 @@
 #include "tests/support/Observers.h"
 #include "tests/support/PanelFixture.h"
 #include "tests/support/PlainSet.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TPropertyCheck.h"
 #include "properties/rows/TPropertyFloatSpin.h"
@@ -313,5 +313,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestPanel)
+PROPERTIES_TEST(TestPanel)
 #include "tst_panel.moc"

@@ -3,7 +3,7 @@
 #include "tests/support/PanelFixture.h"
 #include "tests/support/PlainSet.h"
 #include "tests/support/TestBoard.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TCheckBox2Widget.h"
 #include "properties/rows/TLineEdit.h"
@@ -241,5 +241,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestReplacement)
+PROPERTIES_TEST(TestReplacement)
 #include "tst_replacement.moc"

@@ -1,6 +1,6 @@
 #include "tests/support/PanelFixture.h"
 #include "tests/support/PlainSet.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TPropertyCheck.h"
 #include "properties/rows/TPropertyEnum.h"
@@ -268,5 +268,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestPanelRows)
+PROPERTIES_TEST(TestPanelRows)
 #include "tst_rows.moc"

@@ -1,5 +1,5 @@
 #include "tests/support/PanelFixture.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TCheckBox2Widget.h"
 #include "properties/rows/TPropertyCheck.h"
@@ -153,5 +153,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestCheckRows)
+PROPERTIES_TEST(TestCheckRows)
 #include "tst_check.moc"

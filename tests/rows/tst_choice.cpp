@@ -1,6 +1,6 @@
 #include "tests/support/Observers.h"
 #include "tests/support/PanelFixture.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TPropertyAngleEnum.h"
 #include "properties/rows/TPropertyEnum.h"
@@ -492,5 +492,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestChoiceRows)
+PROPERTIES_TEST(TestChoiceRows)
 #include "tst_choice.moc"

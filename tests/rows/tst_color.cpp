@@ -1,4 +1,4 @@
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TPropertyColor.h"
 
@@ -150,5 +150,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestColorRow)
+PROPERTIES_TEST(TestColorRow)
 #include "tst_color.moc"

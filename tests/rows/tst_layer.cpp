@@ -1,5 +1,5 @@
 #include "tests/support/TestBoard.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TPropertyLayer.h"
 
@@ -163,5 +163,5 @@ private:
     std::unique_ptr<Test::TestBoard> board;
 };
 
-PROPERTIES_TEST_MAIN(TestLayerRow)
+PROPERTIES_TEST(TestLayerRow)
 #include "tst_layer.moc"

@@ -1,6 +1,6 @@
 #include "tests/support/Observers.h"
 #include "tests/support/PanelFixture.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TPropertyFloatSpin.h"
 #include "properties/rows/TPropertyIntSpin.h"
@@ -391,5 +391,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestNumericRows)
+PROPERTIES_TEST(TestNumericRows)
 #include "tst_numeric.moc"

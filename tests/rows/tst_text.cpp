@@ -1,6 +1,6 @@
 #include "tests/support/Observers.h"
 #include "tests/support/PanelFixture.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TLineEdit.h"
 #include "properties/rows/TPropertyText.h"
@@ -455,5 +455,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestTextRows)
+PROPERTIES_TEST(TestTextRows)
 #include "tst_text.moc"

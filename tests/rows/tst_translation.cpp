@@ -1,5 +1,5 @@
 #include "tests/support/Observers.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TLineEdit.h"
 #include "properties/rows/TPropertyAngleEnum.h"
@@ -73,5 +73,5 @@ private:
     std::unique_ptr<Test::MarkingTranslator> translator;
 };
 
-PROPERTIES_TEST_MAIN(TestRowTranslation)
+PROPERTIES_TEST(TestRowTranslation)
 #include "tst_translation.moc"

@@ -2,7 +2,7 @@
 #include "tests/support/Observers.h"
 #include "tests/support/PanelFixture.h"
 #include "tests/support/RowText.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/sets/TPropertySetForBus.h"
 #include "properties/sets/TPropertySetForHole.h"
@@ -226,5 +226,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestBuilding)
+PROPERTIES_TEST(TestBuilding)
 #include "tst_building.moc"

@@ -2,7 +2,7 @@
 #include "tests/support/PanelFixture.h"
 #include "tests/support/RowText.h"
 #include "tests/support/SlotLaw.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TLineEdit.h"
 #include "properties/rows/TPropertyText.h"
@@ -197,5 +197,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestBusSet)
+PROPERTIES_TEST(TestBusSet)
 #include "tst_bus.moc"

@@ -1,4 +1,5 @@
-#include "tests/support/TestMain.h"
+#include "tests/support/Places.h"
+#include "tests/support/TestProgram.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,7 +11,7 @@ namespace {
 
 QString TextOf(const QString& file)
 {
-    QFile text(QStringLiteral(PROPERTIES_SOURCE_DIR "/") + file);
+    QFile text(Test::SourcePath(file));
     if (!text.open(QIODevice::ReadOnly)) {
         qFatal("%s cannot be read", qPrintable(file));
     }
@@ -64,7 +65,7 @@ private slots:
     void hasEveryTextOfTheSet_data()
     {
         QTest::addColumn<QString>("context");
-        const QDir sets(QStringLiteral(PROPERTIES_SOURCE_DIR "/properties/sets"));
+        const QDir sets(Test::SourcePath("properties/sets"));
         const QStringList files = sets.entryList({QStringLiteral("TPropertySetFor*.cpp")}, QDir::Files);
         for (const QString& file : files) {
             QTest::newRow(qPrintable(file)) << file.chopped(4);
@@ -86,5 +87,5 @@ private:
     QSet<QString> translated; ///< As "context/text".
 };
 
-PROPERTIES_TEST_MAIN(TestGerman)
+PROPERTIES_TEST(TestGerman)
 #include "tst_german.moc"

@@ -2,7 +2,7 @@
 #include "tests/support/PanelFixture.h"
 #include "tests/support/RowText.h"
 #include "tests/support/TestBoard.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TPropertyFloatSpin.h"
 #include "properties/sets/TPropertySetForHole.h"
@@ -199,5 +199,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestHoleSet)
+PROPERTIES_TEST(TestHoleSet)
 #include "tst_hole.moc"

@@ -2,7 +2,7 @@
 #include "tests/support/PanelFixture.h"
 #include "tests/support/RowText.h"
 #include "tests/support/SlotLaw.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TPropertyCheck.h"
 #include "properties/sets/TPropertySetForKeepout.h"
@@ -190,5 +190,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestKeepoutSet)
+PROPERTIES_TEST(TestKeepoutSet)
 #include "tst_keepout.moc"

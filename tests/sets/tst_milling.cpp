@@ -2,7 +2,7 @@
 #include "tests/support/PanelFixture.h"
 #include "tests/support/RowText.h"
 #include "tests/support/SlotLaw.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TPropertyFloatSpin.h"
 #include "properties/sets/TPropertySetForMilling.h"
@@ -156,5 +156,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestMillingSet)
+PROPERTIES_TEST(TestMillingSet)
 #include "tst_milling.moc"

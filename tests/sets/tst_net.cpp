@@ -1,7 +1,7 @@
 #include "tests/sets/SheetProject.h"
 #include "tests/support/PanelFixture.h"
 #include "tests/support/RowText.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TLineEdit.h"
 #include "properties/rows/TPropertyColor.h"
@@ -393,5 +393,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestNetSet)
+PROPERTIES_TEST(TestNetSet)
 #include "tst_net.moc"

@@ -2,7 +2,7 @@
 #include "tests/support/PanelFixture.h"
 #include "tests/support/RowText.h"
 #include "tests/support/SlotLaw.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TLineEdit.h"
 #include "properties/rows/TPropertyEnum.h"
@@ -201,5 +201,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestNetTieSchSet)
+PROPERTIES_TEST(TestNetTieSchSet)
 #include "tst_nettiesch.moc"

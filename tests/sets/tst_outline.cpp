@@ -1,7 +1,7 @@
 #include "tests/sets/SetSupport.h"
 #include "tests/support/PanelFixture.h"
 #include "tests/support/RowText.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/sets/TPropertySetForOutline.h"
 
@@ -114,5 +114,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestOutlineSet)
+PROPERTIES_TEST(TestOutlineSet)
 #include "tst_outline.moc"

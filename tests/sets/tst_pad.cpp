@@ -2,7 +2,7 @@
 #include "tests/support/PanelFixture.h"
 #include "tests/support/RowText.h"
 #include "tests/support/TestBoard.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TLineEdit.h"
 #include "properties/rows/TPropertyEnum.h"
@@ -513,5 +513,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestPadSet)
+PROPERTIES_TEST(TestPadSet)
 #include "tst_pad.moc"

@@ -1,7 +1,7 @@
 #include "tests/support/PanelFixture.h"
 #include "tests/support/SlotLaw.h"
 #include "tests/support/TestBoard.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TLineEdit.h"
 #include "properties/rows/TPropertyEnum.h"
@@ -320,5 +320,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestPadSlots)
+PROPERTIES_TEST(TestPadSlots)
 #include "tst_padslots.moc"

@@ -2,7 +2,7 @@
 #include "tests/support/PanelFixture.h"
 #include "tests/support/RowText.h"
 #include "tests/support/SlotLaw.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TCheckBox2Widget.h"
 #include "properties/rows/TLineEdit.h"
@@ -400,5 +400,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestPartSet)
+PROPERTIES_TEST(TestPartSet)
 #include "tst_part.moc"

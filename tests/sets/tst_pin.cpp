@@ -1,7 +1,7 @@
 #include "tests/sets/SheetProject.h"
 #include "tests/support/PanelFixture.h"
 #include "tests/support/RowText.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TLineEdit.h"
 #include "properties/sets/TPropertySetForPin.h"
@@ -321,5 +321,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestPinSet)
+PROPERTIES_TEST(TestPinSet)
 #include "tst_pin.moc"

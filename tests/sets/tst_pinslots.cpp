@@ -1,7 +1,7 @@
 #include "tests/sets/SheetProject.h"
 #include "tests/support/PanelFixture.h"
 #include "tests/support/SlotLaw.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TLineEdit.h"
 #include "properties/rows/TPropertyEnum.h"
@@ -237,5 +237,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestPinSlots)
+PROPERTIES_TEST(TestPinSlots)
 #include "tst_pinslots.moc"

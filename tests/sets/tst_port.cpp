@@ -2,7 +2,7 @@
 #include "tests/support/PanelFixture.h"
 #include "tests/support/RowText.h"
 #include "tests/support/SlotLaw.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TLineEdit.h"
 #include "properties/rows/TPropertyText.h"
@@ -372,5 +372,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestPortSet)
+PROPERTIES_TEST(TestPortSet)
 #include "tst_port.moc"

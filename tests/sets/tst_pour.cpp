@@ -2,7 +2,7 @@
 #include "tests/support/PanelFixture.h"
 #include "tests/support/RowText.h"
 #include "tests/support/SlotLaw.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TLineEdit.h"
 #include "properties/rows/TPropertyCheck.h"
@@ -414,5 +414,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestPourSet)
+PROPERTIES_TEST(TestPourSet)
 #include "tst_pour.moc"

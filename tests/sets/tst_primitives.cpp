@@ -2,7 +2,7 @@
 #include "tests/support/PanelFixture.h"
 #include "tests/support/RowText.h"
 #include "tests/support/SlotLaw.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TPropertyColor.h"
 #include "properties/rows/TPropertyFloatSpin.h"
@@ -442,5 +442,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestPrimitivesSet)
+PROPERTIES_TEST(TestPrimitivesSet)
 #include "tst_primitives.moc"

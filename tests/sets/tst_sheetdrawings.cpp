@@ -2,7 +2,7 @@
 #include "tests/support/PanelFixture.h"
 #include "tests/support/RowText.h"
 #include "tests/support/SlotLaw.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/commands/TCmdText.h"
 #include "properties/sets/TPropertySetForPrimitives.h"
@@ -243,5 +243,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestSheetDrawings)
+PROPERTIES_TEST(TestSheetDrawings)
 #include "tst_sheetdrawings.moc"

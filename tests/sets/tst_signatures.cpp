@@ -1,5 +1,6 @@
+#include "tests/support/Places.h"
 #include "tests/support/TestBoard.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TCheckBox2Widget.h"
 #include "properties/rows/TLineEdit.h"
@@ -198,7 +199,7 @@ QStringList ClassesWithMetaObject()
 {
     static const QRegularExpression declaration("\\bclass (?:\\w+_EXPORT )?(\\w+)[^;{]*\\{\\s*Q_OBJECT");
     QStringList classes;
-    QDirIterator headers(PROPERTIES_SOURCE_DIR "/properties", {"*.h"}, QDir::Files, QDirIterator::Subdirectories);
+    QDirIterator headers(Test::SourcePath("properties"), {"*.h"}, QDir::Files, QDirIterator::Subdirectories);
     while (headers.hasNext()) {
         QFile header(headers.next());
         if (header.open(QIODevice::ReadOnly)) {
@@ -351,5 +352,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestSignatures)
+PROPERTIES_TEST(TestSignatures)
 #include "tst_signatures.moc"

@@ -1,7 +1,7 @@
 #include "tests/sets/SetSupport.h"
 #include "tests/support/PanelFixture.h"
 #include "tests/support/RowText.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TPropertyColor.h"
 #include "properties/rows/TPropertyEnum.h"
@@ -305,5 +305,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestTextSet)
+PROPERTIES_TEST(TestTextSet)
 #include "tst_text.moc"

@@ -1,7 +1,7 @@
 #include "tests/sets/SetSupport.h"
 #include "tests/support/PanelFixture.h"
 #include "tests/support/SlotLaw.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TPropertyCheck.h"
 #include "properties/rows/TPropertyCheck2.h"
@@ -245,5 +245,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestTextSlots)
+PROPERTIES_TEST(TestTextSlots)
 #include "tst_textslots.moc"

@@ -2,7 +2,7 @@
 #include "tests/support/RowText.h"
 #include "tests/support/SlotLaw.h"
 #include "tests/support/TestBoard.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TPropertyEnum.h"
 #include "properties/rows/TPropertyFloatSpin.h"
@@ -420,5 +420,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestViaSet)
+PROPERTIES_TEST(TestViaSet)
 #include "tst_via.moc"

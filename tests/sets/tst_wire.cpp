@@ -1,7 +1,7 @@
 #include "tests/sets/WireProject.h"
 #include "tests/support/PanelFixture.h"
 #include "tests/support/RowText.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TLineEdit.h"
 #include "properties/rows/TPropertyText.h"
@@ -303,5 +303,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestWireSet)
+PROPERTIES_TEST(TestWireSet)
 #include "tst_wire.moc"

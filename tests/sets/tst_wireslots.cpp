@@ -1,7 +1,7 @@
 #include "tests/sets/WireProject.h"
 #include "tests/support/PanelFixture.h"
 #include "tests/support/SlotLaw.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TPropertyColor.h"
 #include "properties/rows/TPropertyEnum.h"
@@ -325,5 +325,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestWireSlots)
+PROPERTIES_TEST(TestWireSlots)
 #include "tst_wireslots.moc"

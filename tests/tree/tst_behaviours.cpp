@@ -1,4 +1,4 @@
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/tree/TestSources.h"
 
 #include <QtTest>
@@ -45,5 +45,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestBehaviours)
+PROPERTIES_TEST(TestBehaviours)
 #include "tst_behaviours.moc"

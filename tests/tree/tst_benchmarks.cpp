@@ -1,4 +1,5 @@
-#include "tests/support/TestMain.h"
+#include "tests/support/Places.h"
+#include "tests/support/TestProgram.h"
 
 #include <QDir>
 #include <QFile>
@@ -95,7 +96,7 @@ private:
 
     static QString TextOfAll(const QString& folder, const char* files)
     {
-        const QDir dir(QStringLiteral(PROPERTIES_SOURCE_DIR "/") + folder);
+        const QDir dir(Test::SourcePath(folder));
         QString text;
         for (const QString& name : dir.entryList({QString::fromLatin1(files)}, QDir::Files)) {
             QFile file(dir.filePath(name));
@@ -108,5 +109,5 @@ private:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestBenchmarks)
+PROPERTIES_TEST(TestBenchmarks)
 #include "tst_benchmarks.moc"

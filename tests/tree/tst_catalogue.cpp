@@ -1,4 +1,4 @@
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/tree/TestSources.h"
 
 #include <QHash>
@@ -161,5 +161,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestCatalogue)
+PROPERTIES_TEST(TestCatalogue)
 #include "tst_catalogue.moc"

@@ -1,3 +1,5 @@
+#include "tests/support/Places.h"
+#include "tests/support/TestProgram.h"
 #include <QDirIterator>
 #include <QFile>
 #include <QMap>
@@ -175,7 +177,7 @@ class TestFloors : public QObject
 private slots:
     void initTestCase()
     {
-        tree.AddTree(PROPERTIES_SOURCE_DIR, {"host", "properties", "workbench", "tests", "benchmarks"});
+        tree.AddTree(Test::SourcePath(), {"host", "properties", "workbench", "tests", "benchmarks"});
     }
 
     void includesOnlyWhatStandsBelow_data()
@@ -295,5 +297,5 @@ private:
     TIncludeGraph tree;
 };
 
-QTEST_APPLESS_MAIN(TestFloors)
+PROPERTIES_TEST(TestFloors)
 #include "tst_floors.moc"

@@ -1,4 +1,4 @@
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/workbench/ShownWorkbench.h"
 #include "tests/workbench/SmallProject.h"
 #include "workbench/DesignActions.h"
@@ -326,6 +326,6 @@ void TestActions::aDialogAsks()
     QTEST(user.complaint, "complaint");
 }
 
-PROPERTIES_TEST_MAIN(TestActions)
+PROPERTIES_TEST(TestActions)
 
 #include "tst_actions.moc"

@@ -1,4 +1,5 @@
-#include "tests/support/TestMain.h"
+#include "tests/support/Places.h"
+#include "tests/support/TestProgram.h"
 #include "tests/workbench/BoardTexts.h"
 #include "tests/workbench/ImportedItems.h"
 
@@ -19,7 +20,7 @@ namespace {
 
 QByteArray Sample()
 {
-    QFile file(QStringLiteral(PROPERTIES_SOURCE_DIR "/workbench/samples/sample.kicad_pcb"));
+    QFile file(Test::SourcePath("workbench/samples/sample.kicad_pcb"));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
@@ -403,5 +404,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestBoardFiles)
+PROPERTIES_TEST(TestBoardFiles)
 #include "tst_board_files.moc"

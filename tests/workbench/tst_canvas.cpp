@@ -1,7 +1,7 @@
 #include "properties/rows/TPropertyFloatSpin.h"
 #include "properties/TPropertySet.h"
 #include "properties/TPropertyWidget.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/workbench/ShownWorkbench.h"
 #include "workbench/TCanvas.h"
 #include "workbench/TSelection.h"
@@ -257,6 +257,6 @@ void TestCanvas::theMiddleButtonPans()
     QCOMPARE(workbench.window->Selection().Items(), workbench.Items(ItemType::Via));
 }
 
-PROPERTIES_TEST_MAIN(TestCanvas)
+PROPERTIES_TEST(TestCanvas)
 
 #include "tst_canvas.moc"

@@ -1,4 +1,4 @@
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/workbench/ShownWorkbench.h"
 #include "workbench/LoadDesign.h"
 #include "workbench/session/CommandLine.h"
@@ -405,6 +405,6 @@ void TestCommandLine::nodesOfAWire()
     QCOMPARE(workbench.Dump(), before);
 }
 
-PROPERTIES_TEST_MAIN(TestCommandLine)
+PROPERTIES_TEST(TestCommandLine)
 
 #include "tst_command_line.moc"

@@ -1,4 +1,5 @@
-#include "tests/support/TestMain.h"
+#include "tests/support/Places.h"
+#include "tests/support/TestProgram.h"
 #include "tests/workbench/ImportedItems.h"
 #include "tests/workbench/RealDesigns.h"
 #include "tests/workbench/TBoardText.h"
@@ -76,7 +77,7 @@ class TestDesigns : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { designs = Test::RealDesigns(QStringLiteral(PROPERTIES_DESIGNS_DIR), "*.kicad_pcb"); }
+    void initTestCase() { designs = Test::RealDesigns(Test::DesignsFolder(), "*.kicad_pcb"); }
 
     void holdsAllItems_data() { AddFiles(designs + sample); }
 
@@ -196,8 +197,8 @@ private:
     }
 
     QStringList designs;
-    const QStringList sample = {QStringLiteral(PROPERTIES_SOURCE_DIR "/workbench/samples/sample.kicad_pcb")};
+    const QStringList sample = {Test::SourcePath("workbench/samples/sample.kicad_pcb")};
 };
 
-PROPERTIES_TEST_MAIN(TestDesigns)
+PROPERTIES_TEST(TestDesigns)
 #include "tst_designs.moc"

@@ -2,7 +2,7 @@
 #include "properties/rows/TPropertyText.h"
 #include "properties/TPropertySet.h"
 #include "properties/TPropertyWidget.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/workbench/ShownWorkbench.h"
 #include "tests/workbench/SmallProject.h"
 #include "workbench/Kinds.h"
@@ -353,6 +353,6 @@ void TestDocuments::everyRowOfAPageComesBackAfterUndo()
     QCOMPARE(workbench.Dump(), after);
 }
 
-PROPERTIES_TEST_MAIN(TestDocuments)
+PROPERTIES_TEST(TestDocuments)
 
 #include "tst_documents.moc"

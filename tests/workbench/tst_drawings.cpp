@@ -1,4 +1,4 @@
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/workbench/BoardTexts.h"
 #include "tests/workbench/ImportedItems.h"
 
@@ -499,5 +499,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestDrawings)
+PROPERTIES_TEST(TestDrawings)
 #include "tst_drawings.moc"

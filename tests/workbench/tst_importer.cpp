@@ -1,4 +1,4 @@
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/workbench/BoardTexts.h"
 #include "tests/workbench/ImportedItems.h"
 
@@ -471,5 +471,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestImporter)
+PROPERTIES_TEST(TestImporter)
 #include "tst_importer.moc"

@@ -1,5 +1,6 @@
 #include "properties/commands/TCmdPackage.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/Places.h"
+#include "tests/support/TestProgram.h"
 #include "tests/workbench/BoardTexts.h"
 #include "tests/workbench/ImportedItems.h"
 #include "tests/workbench/RealDesigns.h"
@@ -128,8 +129,8 @@ class TestLinks : public QObject
 private slots:
     void initTestCase()
     {
-        designs = Test::RealDesigns(QStringLiteral(PROPERTIES_DESIGNS_DIR), "*.kicad_pcb");
-        designs.append(QStringLiteral(PROPERTIES_SOURCE_DIR "/workbench/samples/sample.kicad_pcb"));
+        designs = Test::RealDesigns(Test::DesignsFolder(), "*.kicad_pcb");
+        designs.append(Test::SourcePath("workbench/samples/sample.kicad_pcb"));
     }
 
     void linksEnds_data()
@@ -437,5 +438,5 @@ private:
     QStringList designs;
 };
 
-PROPERTIES_TEST_MAIN(TestLinks)
+PROPERTIES_TEST(TestLinks)
 #include "tst_links.moc"

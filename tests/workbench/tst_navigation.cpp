@@ -1,5 +1,5 @@
 #include "properties/commands/TCmdProjectTree.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/workbench/ShownWorkbench.h"
 #include "tests/workbench/SmallProject.h"
 #include "workbench/TCanvas.h"
@@ -449,6 +449,6 @@ void TestNavigation::aNameOfDigitsIsANumber()
     QCOMPARE(project.Page(), 1);
 }
 
-PROPERTIES_TEST_MAIN(TestNavigation)
+PROPERTIES_TEST(TestNavigation)
 
 #include "tst_navigation.moc"

@@ -1,4 +1,5 @@
-#include "tests/support/TestMain.h"
+#include "tests/support/Places.h"
+#include "tests/support/TestProgram.h"
 #include "tests/workbench/RealDesigns.h"
 #include "workbench/session/CommandLine.h"
 
@@ -43,7 +44,7 @@ QByteArray ContentOf(const QString& fileName)
 void AddRealFiles(const QString& pattern)
 {
     QTest::addColumn<QString>("file");
-    const QString folder = PROPERTIES_DESIGNS_DIR;
+    const QString folder = Test::DesignsFolder();
     if (folder.isEmpty()) {
         QSKIP("There is no folder of real designs");
     }
@@ -206,6 +207,6 @@ void TestProgram::realProjectsComeBackAfterUndo()
     QCOMPARE(ContentOf(folder.filePath("undone")), before);
 }
 
-PROPERTIES_TEST_MAIN(TestProgram)
+PROPERTIES_TEST(TestProgram)
 
 #include "tst_program.moc"

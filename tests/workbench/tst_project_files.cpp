@@ -1,4 +1,4 @@
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/workbench/SheetFiles.h"
 
 #include <graphics/TGraphicsTextItem.h>
@@ -228,6 +228,6 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestProjectFiles)
+PROPERTIES_TEST(TestProjectFiles)
 
 #include "tst_project_files.moc"

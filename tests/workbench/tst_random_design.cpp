@@ -3,7 +3,7 @@
 #include "tests/support/LineDifferences.h"
 #include "tests/support/PanelFixture.h"
 #include "tests/support/RandomCases.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/workbench/PanelCells.h"
 #include "workbench/DesignActions.h"
 #include "workbench/importer/ProjectImporter.h"
@@ -405,5 +405,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestRandomDesign)
+PROPERTIES_TEST(TestRandomDesign)
 #include "tst_random_design.moc"

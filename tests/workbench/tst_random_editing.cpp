@@ -1,5 +1,5 @@
 #include "tests/support/RandomCases.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/workbench/FreePads.h"
 #include "tests/workbench/PanelSession.h"
 #include "workbench/LoadDesign.h"
@@ -217,5 +217,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestRandomEditing)
+PROPERTIES_TEST(TestRandomEditing)
 #include "tst_random_editing.moc"

@@ -1,6 +1,7 @@
 #include "tests/host/StateFields.h"
 #include "tests/support/PanelFixture.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/Places.h"
+#include "tests/support/TestProgram.h"
 #include "tests/workbench/FreePads.h"
 #include "tests/workbench/PanelCells.h"
 #include "tests/workbench/RealDesigns.h"
@@ -168,7 +169,7 @@ private slots:
 
     void designsAreThere()
     {
-        if (QStringLiteral(PROPERTIES_DESIGNS_DIR).isEmpty()) {
+        if (Test::DesignsFolder().isEmpty()) {
             QSKIP("there is no folder of real designs");
         }
         QVERIFY(!Files().isEmpty());
@@ -232,7 +233,7 @@ private slots:
 private:
     static QStringList Files()
     {
-        const QString folder = QStringLiteral(PROPERTIES_DESIGNS_DIR);
+        const QString folder = Test::DesignsFolder();
         return Test::RealDesigns(folder, "*.kicad_pcb") + Test::RealDesigns(folder, "*.kicad_pro");
     }
 
@@ -420,5 +421,5 @@ private:
     QStringList dump;                  ///< As it is now; its lines begin with those of the items.
 };
 
-PROPERTIES_TEST_MAIN(TestRealDesigns)
+PROPERTIES_TEST(TestRealDesigns)
 #include "tst_real_designs.moc"

@@ -1,4 +1,5 @@
-#include "tests/support/TestMain.h"
+#include "tests/support/Places.h"
+#include "tests/support/TestProgram.h"
 #include "tests/workbench/RealDesigns.h"
 #include "tests/workbench/SheetFiles.h"
 
@@ -92,7 +93,7 @@ class TestRealSchematics : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { designs = Test::RealDesigns(QStringLiteral(PROPERTIES_DESIGNS_DIR), "*.kicad_pro"); }
+    void initTestCase() { designs = Test::RealDesigns(Test::DesignsFolder(), "*.kicad_pro"); }
 
     void holdsAllItems_data() { AddDesigns(); }
 
@@ -285,6 +286,6 @@ private:
     QStringList designs;
 };
 
-PROPERTIES_TEST_MAIN(TestRealSchematics)
+PROPERTIES_TEST(TestRealSchematics)
 
 #include "tst_real_schematics.moc"

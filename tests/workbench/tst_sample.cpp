@@ -1,5 +1,5 @@
 #include "properties/commands/TCmdWireLayer.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/workbench/ImportedItems.h"
 #include "workbench/LoadDesign.h"
 
@@ -180,5 +180,5 @@ private:
     TImportResult imported;
 };
 
-PROPERTIES_TEST_MAIN(TestSample)
+PROPERTIES_TEST(TestSample)
 #include "tst_sample.moc"

@@ -1,4 +1,4 @@
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/workbench/SheetFiles.h"
 
 #include <graphics/TGraphicsTextItem.h>
@@ -445,6 +445,6 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestSchematicFiles)
+PROPERTIES_TEST(TestSchematicFiles)
 
 #include "tst_schematic_files.moc"

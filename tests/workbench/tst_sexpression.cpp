@@ -1,4 +1,4 @@
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "workbench/importer/Measures.h"
 #include "workbench/importer/TImportError.h"
 #include "workbench/importer/TSexpression.h"
@@ -332,5 +332,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestSexpression)
+PROPERTIES_TEST(TestSexpression)
 #include "tst_sexpression.moc"

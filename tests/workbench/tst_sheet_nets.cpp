@@ -1,4 +1,4 @@
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/workbench/SheetTexts.h"
 
 #include "workbench/importer/TImportError.h"
@@ -373,6 +373,6 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestSheetNets)
+PROPERTIES_TEST(TestSheetNets)
 
 #include "tst_sheet_nets.moc"

@@ -1,5 +1,6 @@
 #include "tests/support/LineDifferences.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/Places.h"
+#include "tests/support/TestProgram.h"
 #include "tests/workbench/RealDesigns.h"
 #include "tests/workbench/ShownWorkbench.h"
 #include "workbench/importer/ProjectImporter.h"
@@ -71,7 +72,7 @@ private slots:
     {
         QTest::addColumn<QString>("file");
         QTest::newRow("sample") << SampleProjectFile();
-        const QString folder = QStringLiteral(PROPERTIES_DESIGNS_DIR);
+        const QString folder = Test::DesignsFolder();
         const QStringList projects = Test::RealDesigns(folder, "*.kicad_pro");
         for (const QString& file : projects) {
             QTest::newRow(qPrintable(file.mid(folder.size() + 1))) << file;
@@ -155,5 +156,5 @@ private:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestWholeProjects)
+PROPERTIES_TEST(TestWholeProjects)
 #include "tst_whole_projects.moc"

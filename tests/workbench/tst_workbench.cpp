@@ -2,7 +2,7 @@
 #include "properties/rows/TPropertyText.h"
 #include "properties/TPropertySet.h"
 #include "properties/TPropertyWidget.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/workbench/ShownWorkbench.h"
 #include "workbench/Kinds.h"
 #include "workbench/LoadDesign.h"
@@ -444,6 +444,6 @@ void TestWorkbench::namesOfKinds()
     QVERIFY(!Kinds::MakePropertySet({}, *workbench.window->Design()));
 }
 
-PROPERTIES_TEST_MAIN(TestWorkbench)
+PROPERTIES_TEST(TestWorkbench)
 
 #include "tst_workbench.moc"

@@ -1,4 +1,4 @@
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 #include "tests/workbench/BoardTexts.h"
 #include "tests/workbench/ImportedItems.h"
 
@@ -454,5 +454,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestZones)
+PROPERTIES_TEST(TestZones)
 #include "tst_zones.moc"

@@ -1,6 +1,6 @@
 #include "tests/panel/UserEdits.h"
 #include "tests/support/PlainSet.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TAbstractProperty.h"
 #include "properties/TTreeWidget.h"
@@ -346,5 +346,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestCallsOut)
-#include "tst_callsout.moc"
+PROPERTIES_TEST(TestCallsOut)
+#include "tst_calls_out.moc"

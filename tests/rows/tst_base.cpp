@@ -1,5 +1,5 @@
 #include "tests/support/PanelFixture.h"
-#include "tests/support/TestMain.h"
+#include "tests/support/TestProgram.h"
 
 #include "properties/rows/TLineEdit.h"
 #include "properties/rows/TPropertyAngleEnum.h"
@@ -237,5 +237,5 @@ private slots:
     }
 };
 
-PROPERTIES_TEST_MAIN(TestRow)
-#include "tst_row.moc"
+PROPERTIES_TEST(TestRow)
+#include "tst_base.moc"
