@@ -29,6 +29,15 @@ QList<TGraphicsItem*> TItemScene::DesignItems() const
     return items;
 }
 
+QList<QGraphicsItem*> TItemScene::ItemsNear(const QRectF& rect)
+{
+    if (numbered.size() > 2 * numberedWhenFitted) {
+        setSceneRect(itemsBoundingRect());
+        numberedWhenFitted = numbered.size();
+    }
+    return items(rect, Qt::IntersectsItemBoundingRect);
+}
+
 void TItemScene::ApplyLinks()
 {
     if (!linkChanges.IsEmpty()) {

@@ -31,6 +31,13 @@ public:
     /** All design items, children too, in the order in which they first joined. Linear in all that ever joined. */
     QList<TGraphicsItem*> DesignItems() const;
 
+    /**
+     * The items whose bounding rectangles meet one of the scene (scene units), in no useful order. Gives the scene a
+     * fixed rectangle, that of its items, since the toolkit looks at every item after each change of geometry in a
+     * scene that grows by itself.
+     */
+    QList<QGraphicsItem*> ItemsNear(const QRectF& rect);
+
     /** Brings the nets up to date with the links. Asking an item for its net does it by itself. */
     void ApplyLinks();
 
@@ -59,6 +66,7 @@ private:
 
     TWorkspace* workspace;
     QVector<TGraphicsItem*> numbered; ///< By number, from 1; null where the item is away.
+    int numberedWhenFitted = 0;       ///< How many items had joined when the scene's rectangle was last fixed.
     TLinkChanges linkChanges;
     QSet<QString> markedNets;
     QString lastMarkedNet;

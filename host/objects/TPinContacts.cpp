@@ -31,8 +31,7 @@ QVector<TGraphicsPinItem*> FreeNeighbours(const TGraphicsPinItem& pin)
         return found;
     }
     const QPointF margin(tolerance, tolerance);
-    const QList<QGraphicsItem*> near =
-        pin.Owner()->items(QRectF(pin.scenePos() - margin, pin.scenePos() + margin), Qt::IntersectsItemBoundingRect);
+    const QList<QGraphicsItem*> near = pin.Owner()->ItemsNear(QRectF(pin.scenePos() - margin, pin.scenePos() + margin));
     for (QGraphicsItem* item : near) {
         TGraphicsPinItem* other = PinContacts::AsPin(item);
         if (other && !AreOfOneSymbol(pin, *other) && Touch(pin, *other) && !pin.LinkedPins().contains(other)) {

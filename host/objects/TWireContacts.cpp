@@ -44,7 +44,7 @@ QVector<TGraphicsSectionItem*> WiresNear(const TGraphicsItem& place)
     if (!place.Owner()) {
         return wires;
     }
-    const QList<QGraphicsItem*> near = place.Owner()->items(place.sceneBoundingRect(), Qt::IntersectsItemBoundingRect);
+    const QList<QGraphicsItem*> near = place.Owner()->ItemsNear(place.sceneBoundingRect());
     for (QGraphicsItem* item : near) {
         if (auto* wire = dynamic_cast<TGraphicsSectionItem*>(item)) {
             wires.append(wire);
