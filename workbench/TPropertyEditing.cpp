@@ -105,7 +105,8 @@ void TPropertyEditing::FocusRow(const QString& label) const
     }
     for (const TAbstractProperty* row : panel.PropertySet()->Properties()) {
         if (row->text(TAbstractProperty::labelColumn) == label && row->Editor()) {
-            row->Editor()->setFocus(Qt::OtherFocusReason);
+            row->Editor()->setFocus(Qt::OtherFocusReason); // Whoever hears of it may show other rows.
+            return;
         }
     }
 }

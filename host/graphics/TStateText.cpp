@@ -16,16 +16,38 @@ QString Number(double value)
     return QString::number(value == zero ? zero : value, 'g', QLocale::FloatingPointShortest);
 }
 
+void AddPair(QString& text, double first, double second)
+{
+    text += QLatin1Char('(');
+    text += Number(first);
+    text += QLatin1Char(',');
+    text += Number(second);
+    text += QLatin1Char(')');
+}
+
 QString Pair(double first, double second)
 {
-    return QStringLiteral("(%1,%2)").arg(Number(first), Number(second));
+    QString pair;
+    AddPair(pair, first, second);
+    return pair;
 }
 
 } // namespace
 
+// Whole designs are described again and again: the line is added to in place.
+TStateText::TStateText(const QString& kind)
+{
+    constexpr int usualLength = 400;
+    line.reserve(usualLength);
+    line += kind;
+}
+
 void TStateText::Append(const char* name, const QString& value)
 {
-    line += QLatin1Char(' ') + QLatin1String(name) + QLatin1Char('=') + value;
+    line += QLatin1Char(' ');
+    line += QLatin1String(name);
+    line += QLatin1Char('=');
+    line += value;
 }
 
 TStateText& TStateText::Add(const char* name, const QString& text)
@@ -90,7 +112,8 @@ TStateText& TStateText::Add(const char* name, const QPainterPath& path)
     QString points;
     for (int i = 0; i < path.elementCount(); ++i) {
         const QPainterPath::Element element = path.elementAt(i);
-        points += QString::number(element.type) + Pair(element.x, element.y);
+        points += QString::number(element.type);
+        AddPair(points, element.x, element.y);
     }
     Append(name, points);
     return *this;
@@ -100,7 +123,7 @@ TStateText& TStateText::Add(const char* name, const QPolygonF& polygon)
 {
     QString points;
     for (const QPointF& point : polygon) {
-        points += Pair(point.x(), point.y());
+        AddPair(points, point.x(), point.y());
     }
     Append(name, points);
     return *this;
@@ -116,7 +139,7 @@ TStateText& TStateText::AddPlace(int layer, const QVector<QPointF>& points)
 {
     line += QLatin1Char('@') + QString::number(layer);
     for (const QPointF& point : points) {
-        line += Pair(point.x(), point.y());
+        AddPair(line, point.x(), point.y());
     }
     return *this;
 }

@@ -18,7 +18,7 @@ class QStringList;
 class TStateText
 {
 public:
-    explicit TStateText(const QString& kind) : line(kind) {}
+    explicit TStateText(const QString& kind);
 
     TStateText& Add(const char* name, const QString& text);
     TStateText& Add(const char* name, const char* text);
