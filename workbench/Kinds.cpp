@@ -109,7 +109,7 @@ std::unique_ptr<TPropertySet> MakeSetForPour(const TItems& selection, TDesign& d
     return std::make_unique<TPropertySetForPour>(selection, design.Board()->LayerManager()->CopperLayers());
 }
 
-QString Translated(const char* word)
+QString TranslatedWord(const char* word)
 {
     return QCoreApplication::translate("Kinds", word);
 }
@@ -123,7 +123,7 @@ bool TKind::Holds(const TGraphicsItem& item) const
 
 QString TKind::Plural() const
 {
-    return Translated(many);
+    return TranslatedWord(many);
 }
 
 const QVector<TKind>& Kinds::All()
@@ -200,7 +200,7 @@ QString Kinds::Counted(int count, const TKind* kind)
 {
     const char* one = kind ? kind->one : QT_TRANSLATE_NOOP("Kinds", "item");
     const char* many = kind ? kind->many : QT_TRANSLATE_NOOP("Kinds", "items");
-    return QStringLiteral("%1 %2").arg(QString::number(count), Translated(count == 1 ? one : many));
+    return QStringLiteral("%1 %2").arg(QString::number(count), TranslatedWord(count == 1 ? one : many));
 }
 
 const TKind* Kinds::OfFirst(const QList<TGraphicsItem*>& selection)

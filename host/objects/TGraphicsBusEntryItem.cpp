@@ -6,14 +6,14 @@
 
 namespace {
 
-constexpr float usualWidth = 2;
+constexpr float usualEntryWidth = 2;
 
 } // namespace
 
 TGraphicsBusEntryItem::TGraphicsBusEntryItem(QGraphicsItem* parent) : TGraphicsLineItem(parent)
 {
     SetLayer(Osmirel::SchematicNets);
-    SetPenWidth(usualWidth);
+    SetPenWidth(usualEntryWidth);
 }
 
 TGraphicsBusItem* TGraphicsBusEntryItem::BusLink() const

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr float usualWidth = 5;
+constexpr float usualBusWidth = 5;
 
 } // namespace
 
@@ -15,7 +15,7 @@ TGraphicsBusItem::TGraphicsBusItem(QGraphicsItem* parent) : TGraphicsSectionItem
 {
     LinkNode().SetRole(TLinkNode::Role::Divides);
     TGraphicsSectionItem::SetLayer(Osmirel::SchematicBuses);
-    SetPenWidth(usualWidth);
+    SetPenWidth(usualBusWidth);
 }
 
 void TGraphicsBusItem::AddLinkedBusEntry(TGraphicsBusEntryItem* entry)

@@ -4,14 +4,14 @@
 
 namespace {
 
-constexpr float usualWidth = 2;
+constexpr float usualNetWidth = 2;
 
 } // namespace
 
 TGraphicsNetItem::TGraphicsNetItem(QGraphicsItem* parent) : TGraphicsSectionItem(parent)
 {
     TGraphicsSectionItem::SetLayer(Osmirel::SchematicNets);
-    SetPenWidth(usualWidth);
+    SetPenWidth(usualNetWidth);
 }
 
 void TGraphicsNetItem::Draw(QPainter& painter, double) const

@@ -5,6 +5,7 @@
 #include <graphics/TStateText.h>
 #include <objects/TGraphicsComponentItem.h>
 #include <objects/TGraphicsSectionItem.h>
+#include <objects/TPinContacts.h>
 
 #include <QPainter>
 
@@ -16,14 +17,12 @@ namespace {
 
 /** In scene units, by `TypePinLength`: multiples of a twentieth of an inch. */
 constexpr std::array<double, 4> standardLengths = {0, 15, 30, 45};
-constexpr double lineWidth = 2;
-constexpr double nameHeight = 10;
+constexpr double pinLineWidth = 2;
+constexpr double pinNameHeight = 10;
 constexpr int numberHeight = 9;
 constexpr double gapBeforeName = 4;
 constexpr double inversionRadius = 4;
 constexpr double numberAboveLine = 2;
-/** How far from the pin's point a wire may end and still meet it: less than any drawing grid. */
-constexpr double tolerance = 0.5;
 
 double StandardLength(TGraphicsPinItem::TypePinLength length)
 {
@@ -146,21 +145,21 @@ bool TGraphicsPinItem::ReplaceLinkedItem(TGraphicsItem* from, TGraphicsItem* to)
 
 bool TGraphicsPinItem::TakesEnd(const QPointF& point, Osmirel::Layer ofLayer) const
 {
-    return ofLayer == Osmirel::SchematicNets && point.manhattanLength() < tolerance;
+    return ofLayer == Osmirel::SchematicNets && point.manhattanLength() < PinContacts::tolerance;
 }
 
 const QPainterPath& TGraphicsPinItem::NamePath() const
 {
     if (namePath.isEmpty() && nameVisible && !name.isEmpty()) {
         const QPointF start(LineLength() + gapBeforeName, 0);
-        namePath = Shapes::LabelFrom(start, nameHeight, name, Shapes::IsOnItsHead(rotation()));
+        namePath = Shapes::LabelFrom(start, pinNameHeight, name, Shapes::IsOnItsHead(rotation()));
     }
     return namePath;
 }
 
 QRectF TGraphicsPinItem::boundingRect() const
 {
-    const double margin = inversionRadius + lineWidth;
+    const double margin = inversionRadius + pinLineWidth;
     const QRectF line = QRectF(0, 0, LineLength(), 0).adjusted(-margin, -margin, margin, margin);
     return line | NamePath().boundingRect();
 }
@@ -172,7 +171,7 @@ QPainterPath TGraphicsPinItem::Outline() const
 
 void TGraphicsPinItem::Draw(QPainter& painter, double) const
 {
-    painter.setPen(QPen(Color(), lineWidth, Qt::SolidLine, Qt::FlatCap));
+    painter.setPen(QPen(Color(), pinLineWidth, Qt::SolidLine, Qt::FlatCap));
     painter.setBrush(Qt::NoBrush);
     const bool inverse = pinStyle == StyleInverse;
     const double end = LineLength() - (inverse ? 2 * inversionRadius : 0);

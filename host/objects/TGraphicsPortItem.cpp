@@ -13,9 +13,9 @@
 
 namespace {
 
-constexpr double lineWidth = 2;
-constexpr double nameHeight = 11;
-constexpr double halfHeight = 9;
+constexpr double portLineWidth = 2;
+constexpr double portNameHeight = 11;
+constexpr double portHalfHeight = 9;
 constexpr double pointLength = 9;
 constexpr double shownWithoutName = 12;
 constexpr double powerStem = 12;
@@ -183,48 +183,48 @@ QVector<TGraphicsItem*> TGraphicsPortItem::ConnectedItems() const
 const QPainterPath& TGraphicsPortItem::NamePath() const
 {
     if (namePath.isEmpty() && nameVisible && !name.isEmpty()) {
-        const double start = portShape == ShapePower ? powerStem + lineWidth : pointLength + lineWidth;
-        namePath = Shapes::LabelFrom({start, 0}, nameHeight, name, Shapes::IsOnItsHead(rotation()));
+        const double start = portShape == ShapePower ? powerStem + portLineWidth : pointLength + portLineWidth;
+        namePath = Shapes::LabelFrom({start, 0}, portNameHeight, name, Shapes::IsOnItsHead(rotation()));
     }
     return namePath;
 }
 
 QRectF TGraphicsPortItem::boundingRect() const
 {
-    return Outline().boundingRect().adjusted(-lineWidth, -lineWidth, lineWidth, lineWidth);
+    return Outline().boundingRect().adjusted(-portLineWidth, -portLineWidth, portLineWidth, portLineWidth);
 }
 
 QPainterPath TGraphicsPortItem::Outline() const
 {
-    const double textEnd = NamePath().isEmpty() ? shownWithoutName : NamePath().boundingRect().right() + lineWidth;
+    const double textEnd = NamePath().isEmpty() ? shownWithoutName : NamePath().boundingRect().right() + portLineWidth;
     QPainterPath path;
     if (portShape == ShapePower) {
-        path.addRect(0, -halfHeight, std::max(textEnd, powerStem), 2 * halfHeight);
+        path.addRect(0, -portHalfHeight, std::max(textEnd, powerStem), 2 * portHalfHeight);
         return path;
     }
     const bool pointsIn = portShape == ShapeInput || portShape == ShapeBidirectional || portShape == ShapeTriState;
     const bool pointsOut = portShape == ShapeOutput || portShape == ShapeBidirectional || portShape == ShapeTriState;
     const double left = pointsIn ? pointLength : 0;
     const double end = textEnd + (pointsOut ? pointLength : 0);
-    path.addPolygon(QPolygonF({{left, -halfHeight},
-                               {textEnd, -halfHeight},
-                               {end, pointsOut ? 0 : -halfHeight},
-                               {end, pointsOut ? 0 : halfHeight},
-                               {textEnd, halfHeight},
-                               {left, halfHeight},
-                               {0, pointsIn ? 0 : halfHeight},
-                               {0, pointsIn ? 0 : -halfHeight}}));
+    path.addPolygon(QPolygonF({{left, -portHalfHeight},
+                               {textEnd, -portHalfHeight},
+                               {end, pointsOut ? 0 : -portHalfHeight},
+                               {end, pointsOut ? 0 : portHalfHeight},
+                               {textEnd, portHalfHeight},
+                               {left, portHalfHeight},
+                               {0, pointsIn ? 0 : portHalfHeight},
+                               {0, pointsIn ? 0 : -portHalfHeight}}));
     path.closeSubpath();
     return path;
 }
 
 void TGraphicsPortItem::Draw(QPainter& painter, double) const
 {
-    painter.setPen(QPen(Color(), lineWidth));
+    painter.setPen(QPen(Color(), portLineWidth));
     painter.setBrush(Qt::NoBrush);
     if (portShape == ShapePower) {
         painter.drawLine(QPointF(), QPointF(powerStem, 0));
-        painter.drawLine(QPointF(powerStem, -halfHeight), QPointF(powerStem, halfHeight));
+        painter.drawLine(QPointF(powerStem, -portHalfHeight), QPointF(powerStem, portHalfHeight));
     } else {
         painter.drawPath(Outline());
     }

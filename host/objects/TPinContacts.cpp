@@ -7,15 +7,12 @@
 
 namespace {
 
-/** How far apart the points of two pins may lie that touch: less than any drawing grid. */
-constexpr double tolerance = 0.5;
-
 /** Pins have one end only. */
 constexpr TGraphicsItem::LinkEnd anyEnd = TGraphicsItem::LinkEnd::First;
 
 bool Touch(const TGraphicsPinItem& one, const TGraphicsPinItem& other)
 {
-    return (one.scenePos() - other.scenePos()).manhattanLength() < tolerance;
+    return (one.scenePos() - other.scenePos()).manhattanLength() < PinContacts::tolerance;
 }
 
 bool AreOfOneSymbol(const TGraphicsPinItem& one, const TGraphicsPinItem& other)
@@ -30,7 +27,7 @@ QVector<TGraphicsPinItem*> FreeNeighbours(const TGraphicsPinItem& pin)
     if (!pin.Owner()) {
         return found;
     }
-    const QPointF margin(tolerance, tolerance);
+    const QPointF margin(PinContacts::tolerance, PinContacts::tolerance);
     const QList<QGraphicsItem*> near = pin.Owner()->ItemsNear(QRectF(pin.scenePos() - margin, pin.scenePos() + margin));
     for (QGraphicsItem* item : near) {
         TGraphicsPinItem* other = PinContacts::AsPin(item);

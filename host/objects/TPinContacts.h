@@ -7,6 +7,9 @@ class TGraphicsPinItem;
 /** Where pins of a symbol meet pins of other symbols that lie on the same points. Places that are no pins meet none. */
 namespace PinContacts {
 
+/** How far from a pin's point, in scene units, a wire or another pin may lie that meets it: less than any grid. */
+constexpr double tolerance = 0.5;
+
 /** Null for an item that is no pin. */
 TGraphicsPinItem* AsPin(QGraphicsItem* item);
 

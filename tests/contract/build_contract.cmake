@@ -25,7 +25,7 @@ install(host)
 build(library ${SOURCE_DIR} "The library does not build against the contract host.
 If it uses an operation of the application's libraries that it did not use before: declare it in tests/contract/host, \
 let it store its value, and list it in docs/embedding.md."
-    -D PROPERTIES_HOST_PACKAGE=ContractHost)
+    -D PROPERTIES_HOST_PACKAGE=ContractHost -D CMAKE_UNITY_BUILD=ON)
 install(library)
 
 build(program ${SOURCE_DIR}/tests/contract/program "The program does not build with the installed library.")

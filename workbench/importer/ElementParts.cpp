@@ -39,9 +39,14 @@ QString ElementParts::WithoutWrittenOutCharacters(QString name)
     return name;
 }
 
+TGridPoint ElementParts::GridPoint(const TSexpression& list)
+{
+    return {list.Value(0).Millionths(), list.Value(1).Millionths()};
+}
+
 QPointF ElementParts::Position(const TSexpression& list)
 {
-    return {Measures::SceneLength(list.Value(0).Millionths()), Measures::SceneLength(list.Value(1).Millionths())};
+    return Measures::ScenePoint(GridPoint(list));
 }
 
 qint64 ElementParts::Angle(const TSexpression& at)

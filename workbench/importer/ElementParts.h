@@ -7,11 +7,15 @@
 
 class TSexpression;
 struct TBoardDraft;
+struct TGridPoint;
 
 /** What elements of many kinds have in common. */
 namespace ElementParts {
 
-/** The place that a list such as `(at x y ...)` names, in scene units. */
+/** The place that a list such as `(at x y ...)` names. */
+TGridPoint GridPoint(const TSexpression& list);
+
+/** The same in scene units. */
 QPointF Position(const TSexpression& list);
 
 /** The angle that ends `(at x y [angle])`, counterclockwise, in millionths of a degree; 0 if there is none. */

@@ -8,11 +8,6 @@
 
 namespace {
 
-TGridPoint GridPoint(const TSexpression& list)
-{
-    return {list.Value(0).Millionths(), list.Value(1).Millionths()};
-}
-
 /** The oldest files have a word of bits, one of which locks the track. */
 bool IsLockedByStatus(const TSexpression& element)
 {
@@ -26,8 +21,8 @@ TTrack Track(const TSexpression& element, const TBoardDraft& draft)
 {
     TTrack track;
     const TSexpression layer = element.Get("layer").Value(0);
-    track.start = GridPoint(element.Get("start"));
-    track.end = GridPoint(element.Get("end"));
+    track.start = ElementParts::GridPoint(element.Get("start"));
+    track.end = ElementParts::GridPoint(element.Get("end"));
     track.width = element.Get("width").Value(0).Extent();
     track.layer = draft.layers.Find(layer.Text());
     track.net = ElementParts::NetName(element, draft);
@@ -49,7 +44,8 @@ void ElementReaders::ReadTrackArc(const TSexpression& arc, TBoardDraft& draft)
 {
     TTrack track = Track(arc, draft);
     const TGridPoint end = track.end;
-    const std::vector<TGridPoint> corners = ArcPath::CornersThrough(track.start, GridPoint(arc.Get("mid")), track.end);
+    const std::vector<TGridPoint> corners =
+        ArcPath::CornersThrough(track.start, ElementParts::GridPoint(arc.Get("mid")), track.end);
     for (const TGridPoint& corner : corners) {
         track.end = corner;
         draft.tracks.push_back(track);

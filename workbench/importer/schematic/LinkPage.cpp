@@ -16,11 +16,6 @@ namespace {
 
 using LinkEnd = TGraphicsItem::LinkEnd;
 
-std::size_t Index(int number)
-{
-    return static_cast<std::size_t>(number);
-}
-
 /** A line of the file, or what was cut from one. */
 struct TPiece
 {

@@ -104,8 +104,6 @@ private:
         return hierarchy.files.front()->pageNumbers.value(PathBelowRoot(page));
     }
 
-    static std::size_t Index(int page) { return static_cast<std::size_t>(page); }
-
     static QString PathBelowRoot(const TSheetPage& page)
     {
         QString path;

@@ -150,7 +150,7 @@ private:
         const auto quarters = static_cast<int>(angle / (angle < 360 * degree ? 90 * degree : 900 * degree));
         const QString content = TextVariables::Resolved(element.Value(0).Text(), variables);
         std::unique_ptr<TGraphicsTextItem> text = PageItems::Text(element, content, quarters, placed.frame);
-        text->setPos(Measures::ScenePoint(placed.frame.Turned(GridPoint(at))));
+        text->setPos(Measures::ScenePoint(placed.frame.Turned(ElementParts::GridPoint(at))));
         text->SetLayer(Osmirel::SchematicSymbols);
         text->setVisible(!TextParts::IsHidden(element, 1));
         text.release()->setParentItem(part.get());
@@ -181,7 +181,7 @@ private:
     TGraphicsTextItem* FieldText(const TSymbolField& field, const TSexpression& at, const QString& content)
     {
         std::unique_ptr<TGraphicsTextItem> text = PageItems::Text(field.element, content, Quarters(at), placed.frame);
-        const TGridPoint place = GridPoint(at); // On the sheet, though the angle is the symbol's.
+        const TGridPoint place = ElementParts::GridPoint(at); // On the sheet, though the angle is the symbol's.
         text->setPos(Measures::ScenePoint({place.x - placed.frame.origin.x, place.y - placed.frame.origin.y}));
         text->setParentItem(part.get());
         return text.release();

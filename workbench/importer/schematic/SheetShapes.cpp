@@ -1,4 +1,5 @@
 #include "workbench/importer/ArcPath.h"
+#include "workbench/importer/ElementParts.h"
 #include "workbench/importer/Measures.h"
 #include "workbench/importer/schematic/PageItems.h"
 #include "workbench/importer/ShapeParts.h"
@@ -19,7 +20,7 @@ using PageItems::TMap;
 
 QPointF Point(const TSexpression& shape, std::string_view name, const TMap& map)
 {
-    return Measures::ScenePoint(map(GridPoint(shape.Get(name))));
+    return Measures::ScenePoint(map(ElementParts::GridPoint(shape.Get(name))));
 }
 
 /** Only what is filled in the colour of the lines: a background would hide what lies behind. */
@@ -34,7 +35,7 @@ QPolygonF Points(const TSexpression& shape, const TMap& map)
 {
     QPolygonF points;
     for (const TSexpression point : shape.Get("pts")) {
-        points.append(Measures::ScenePoint(map(GridPoint(point))));
+        points.append(Measures::ScenePoint(map(ElementParts::GridPoint(point))));
     }
     return points;
 }

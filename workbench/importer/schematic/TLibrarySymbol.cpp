@@ -15,7 +15,7 @@ TLibraryPin ReadPin(const TSexpression& element, int unit, int bodyStyle)
                     unit,
                     bodyStyle,
                     {element.Value(0).Text(), element.Value(1).Text()},
-                    GridPoint(at),
+                    ElementParts::GridPoint(at),
                     Quarters(at),
                     length ? length->Value(0).Extent() : 0,
                     element.HasFlag("hide", firstFlag),

@@ -12,7 +12,7 @@ void AddLines(const TSexpression& element, std::vector<TSheetLine>& lines)
 {
     std::optional<TGridPoint> last;
     for (const TSexpression point : element.Get("pts")) {
-        const TGridPoint place = GridPoint(point);
+        const TGridPoint place = ElementParts::GridPoint(point);
         if (last && *last != place) {
             lines.emplace_back(element, *last, place);
         }
@@ -23,7 +23,7 @@ void AddLines(const TSexpression& element, std::vector<TSheetLine>& lines)
 TSheetLabel Label(const TSexpression& element, LabelKind kind)
 {
     const TSexpression at = element.Get("at");
-    return {element, kind, ElementParts::UserName(element.Value(0)), GridPoint(at), Quarters(at)};
+    return {element, kind, ElementParts::UserName(element.Value(0)), ElementParts::GridPoint(at), Quarters(at)};
 }
 
 LabelKind KindOf(const TSexpression& label)
@@ -164,8 +164,8 @@ void TSheetFile::ReadBus(const TSexpression& element)
 
 void TSheetFile::ReadEntry(const TSexpression& element)
 {
-    const TGridPoint start = GridPoint(element.Get("at"));
-    const TGridPoint size = GridPoint(element.Get("size"));
+    const TGridPoint start = ElementParts::GridPoint(element.Get("at"));
+    const TGridPoint size = ElementParts::GridPoint(element.Get("size"));
     entries.emplace_back(element, start, TGridPoint{start.x + size.x, start.y + size.y});
 }
 

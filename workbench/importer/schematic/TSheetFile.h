@@ -1,5 +1,6 @@
 #pragma once
 
+#include "workbench/importer/ElementParts.h"
 #include "workbench/importer/schematic/TLibrarySymbol.h"
 
 #include <QByteArray>
@@ -25,7 +26,9 @@ struct TSheetLine
 /** A junction, or a mark that nothing is to be connected. */
 struct TSheetPoint
 {
-    explicit TSheetPoint(const TSexpression& ofElement) : element(ofElement), place(GridPoint(element.Get("at"))) {}
+    explicit TSheetPoint(const TSexpression& ofElement)
+        : element(ofElement), place(ElementParts::GridPoint(element.Get("at")))
+    {}
 
     TSexpression element;
     TGridPoint place;

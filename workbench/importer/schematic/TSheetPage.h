@@ -4,6 +4,12 @@
 
 #include <functional>
 
+/** Pages, nets, wires and lines know each other by their numbers in lists of these. */
+constexpr std::size_t Index(int number)
+{
+    return static_cast<std::size_t>(number);
+}
+
 /** A pin of a symbol on a page. */
 struct TPagePin
 {

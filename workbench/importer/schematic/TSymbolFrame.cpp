@@ -1,4 +1,5 @@
 #include "workbench/importer/schematic/TSymbolFrame.h"
+#include "workbench/importer/ElementParts.h"
 
 #include "workbench/importer/TSexpression.h"
 
@@ -20,7 +21,7 @@ TSymbolFrame TSymbolFrame::Read(const TSexpression& symbol)
 {
     const TSexpression at = symbol.Get("at");
     const std::optional<TSexpression> mirror = symbol.Find("mirror");
-    return {GridPoint(at), Quarters(at), mirror && mirror->HasFlag("x"), mirror && mirror->HasFlag("y")};
+    return {ElementParts::GridPoint(at), Quarters(at), mirror && mirror->HasFlag("x"), mirror && mirror->HasFlag("y")};
 }
 
 int Quarters(const TSexpression& at)
@@ -32,9 +33,4 @@ int Quarters(const TSexpression& at)
         angle->Fail(QStringLiteral("'%1' where only an angle of whole quarters can be").arg(angle->Text()));
     }
     return static_cast<int>((turned / quarter % 4 + 4) % 4);
-}
-
-TGridPoint GridPoint(const TSexpression& list)
-{
-    return {list.Value(0).Millionths(), list.Value(1).Millionths()};
 }

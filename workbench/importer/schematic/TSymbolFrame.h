@@ -33,6 +33,3 @@ TGridPoint UnitStep(int quarters);
 
 /** The angle that ends `(at x y [angle])` as a number of quarters, 0 to 3; any other angle is an error. */
 int Quarters(const TSexpression& at);
-
-/** The place that a list such as `(at x y ...)` names. */
-TGridPoint GridPoint(const TSexpression& list);

@@ -20,11 +20,6 @@ struct TCandidate
     }
 };
 
-std::size_t Index(int number)
-{
-    return static_cast<std::size_t>(number);
-}
-
 class TNetTracer
 {
 public:
