@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QPalette>
 
 #include <atomic>
 #include <cstdio>
@@ -30,6 +31,14 @@ void CountComplaints(QtMsgType type, const QMessageLogContext& context, const QS
     if (previousHandler) {
         previousHandler(type, context, message);
     }
+}
+
+/** What a desktop with a dark theme gives every application. */
+QPalette DarkPalette()
+{
+    QPalette palette(QColor(0x2d, 0x2d, 0x2d), QColor(0x20, 0x20, 0x20));
+    palette.setColor(QPalette::Highlight, QColor(0x3d, 0x6e, 0xa8));
+    return palette;
 }
 
 int Run(Test::MakeTest make, std::vector<char*> arguments)
@@ -77,6 +86,9 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     QApplication application(argc, argv);
+    if (qEnvironmentVariable("PROPERTIES_TEST_PALETTE") == QLatin1String("dark")) {
+        QApplication::setPalette(DarkPalette());
+    }
     previousHandler = qInstallMessageHandler(CountComplaints);
     const int failures = RunTests(argc, argv);
     qInstallMessageHandler(previousHandler);
