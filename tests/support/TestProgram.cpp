@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QLocale>
 #include <QPalette>
 
 #include <atomic>
@@ -86,6 +87,7 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     QApplication application(argc, argv);
+    QLocale::setDefault(QLocale::c()); // Panels show numbers as the user's locale does; tests expect a point.
     if (qEnvironmentVariable("PROPERTIES_TEST_PALETTE") == QLatin1String("dark")) {
         QApplication::setPalette(DarkPalette());
     }
