@@ -141,8 +141,12 @@ void TestProgram::theTourLeavesAPicture()
     const ProgramRun run = RunProgram({}, folder.path());
     QVERIFY2(run.code == 0, qPrintable(run.messages));
     QVERIFY(run.results.count("\n* ") >= 8);
-    QVERIFY(run.results.contains("screenshot: 1400 x 900 pixels to workbench-tour.png"));
-    QCOMPARE(QImage(folder.filePath("workbench-tour.png")).size(), QSize(1400, 900));
+    const QSize pixels = QSize(1400, 900) * qApp->devicePixelRatio();
+    QVERIFY2(run.results.contains(QStringLiteral("screenshot: %1 x %2 pixels to workbench-tour.png")
+                                      .arg(pixels.width())
+                                      .arg(pixels.height())),
+             qPrintable(run.results));
+    QCOMPARE(QImage(folder.filePath("workbench-tour.png")).size(), pixels);
 }
 
 void TestProgram::realDesignsComeBackAfterUndo_data()
