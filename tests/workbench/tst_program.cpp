@@ -3,6 +3,7 @@
 #include "tests/workbench/RealDesigns.h"
 #include "workbench/session/CommandLine.h"
 
+#include <QApplication>
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
