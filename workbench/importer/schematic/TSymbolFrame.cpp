@@ -1,6 +1,6 @@
 #include "workbench/importer/schematic/TSymbolFrame.h"
-#include "workbench/importer/ElementParts.h"
 
+#include "workbench/importer/ElementParts.h"
 #include "workbench/importer/TSexpression.h"
 
 TGridPoint UnitStep(int quarters)
