@@ -1,10 +1,9 @@
 #include "tests/commands/LawTable.h"
 #include "tests/commands/ProjectLawTable.h"
 #include "tests/support/Places.h"
+#include "tests/support/Symbols.h"
 #include "tests/support/TestProgram.h"
 
-#include <QFile>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QtTest>
 
@@ -57,12 +56,6 @@ QList<Id> IdsOfLaws()
     return ids;
 }
 
-QString Read(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
 } // namespace
 
 class TestExported : public QObject
@@ -72,11 +65,9 @@ class TestExported : public QObject
 private slots:
     void everyExportedCommandHasItsLaw()
     {
-        QProcess nm;
-        nm.start(PROPERTIES_NM, {"-DC", "--defined-only", PROPERTIES_LIBRARY});
-        QVERIFY2(nm.waitForFinished(), qPrintable(nm.errorString()));
-        QCOMPARE(nm.exitCode(), 0);
-        const QStringList exported = CommandsAmong(QString::fromUtf8(nm.readAllStandardOutput()));
+        const QString symbols = Test::DefinedSymbols(QStringLiteral(PROPERTIES_LIBRARY));
+        QVERIFY2(!symbols.isEmpty(), PROPERTIES_LIBRARY);
+        const QStringList exported = CommandsAmong(symbols);
 
         QStringList lawful;
         for (const Id& law : IdsOfLaws()) {
@@ -101,7 +92,7 @@ private slots:
 
     void idsAreUniqueAndAscending()
     {
-        QList<Id> ids = IdsIn(Read(Test::SourcePath("properties/commands/CommandIds.h")));
+        QList<Id> ids = IdsIn(Test::TextOf("properties/commands/CommandIds.h"));
         QVERIFY(ids.size() > 1);
         QCOMPARE(ids.takeFirst().number, -1); // that of a command without an id
         for (int i = 0; i < ids.size(); ++i) {
@@ -112,7 +103,7 @@ private slots:
 
     void everyIdBelongsToOneLaw()
     {
-        const QList<Id> ids = IdsIn(Read(Test::SourcePath("properties/commands/CommandIds.h")));
+        const QList<Id> ids = IdsIn(Test::TextOf("properties/commands/CommandIds.h"));
         const QList<Id> laws = IdsOfLaws();
         for (const Id& id : ids) {
             const auto owners = std::count_if(laws.begin(), laws.end(), [&id](const Id& law) {

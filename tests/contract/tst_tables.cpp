@@ -1,11 +1,11 @@
 #include "tests/contract/ContractPage.h"
 #include "tests/contract/HostHeaders.h"
 #include "tests/support/Places.h"
+#include "tests/support/Symbols.h"
 #include "tests/support/TestProgram.h"
 #include "tests/tree/TestSources.h"
 
 #include <QDirIterator>
-#include <QProcess>
 #include <QtTest>
 
 #include <algorithm>
@@ -285,10 +285,8 @@ private:
     /** The symbols that the library, built against the contract host, takes from others. */
     void ReadSymbols()
     {
-        QProcess nm;
-        nm.start(PROPERTIES_NM, {"-DC", "--undefined-only", PROPERTIES_CONTRACT_LIBRARY});
-        QVERIFY2(nm.waitForFinished() && nm.exitCode() == 0, "contract.build has not built the library");
-        const QString output = QString::fromUtf8(nm.readAllStandardOutput());
+        const QString output = Test::UndefinedSymbols(QStringLiteral(PROPERTIES_CONTRACT_LIBRARY));
+        QVERIFY2(!output.isEmpty(), "contract.build has not built the library");
         for (const QString& symbol : Captured(output, QStringLiteral(R"(^ +U ([A-Z]\w+::.+)$)"))) {
             symbols.append(HostHeaders::Symbol(symbol));
         }

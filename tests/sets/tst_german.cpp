@@ -2,21 +2,13 @@
 #include "tests/support/TestProgram.h"
 
 #include <QDir>
-#include <QFile>
 #include <QRegularExpression>
 #include <QSet>
 #include <QXmlStreamReader>
 
 namespace {
 
-QString TextOf(const QString& file)
-{
-    QFile text(Test::SourcePath(file));
-    if (!text.open(QIODevice::ReadOnly)) {
-        qFatal("%s cannot be read", qPrintable(file));
-    }
-    return QString::fromUtf8(text.readAll());
-}
+using Test::TextOf;
 
 /** The texts that a set asks to be translated, as its source spells them. */
 QStringList TextsOfSource(const QString& file)

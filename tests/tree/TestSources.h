@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/support/Places.h"
+
 #include <QDir>
 #include <QFile>
 #include <QString>
@@ -8,29 +9,27 @@
 
 namespace Test {
 
-/** The text of a file of the project, named from its root. */
-inline QString TextOf(const QString& file)
-{
-    QFile text(SourcePath(file));
-    if (!text.open(QIODevice::ReadOnly)) {
-        qFatal("%s cannot be read", qPrintable(file));
-    }
-    return QString::fromUtf8(text.readAll());
-}
-
-/** All that the sources of a test, "area.name", say: its own, and those that the tests of its area share. */
+/**
+ * All that the sources of a test, "area.name", say: its own, and those of its folder that belong to a header which it
+ * includes: `LawTable.h` has `LawTable.cpp` and `LawTableOfPads.cpp`. Empty when there is no such test.
+ */
 inline QString SourcesOf(const QString& test)
 {
     const QString folder = QStringLiteral("tests/%1/").arg(test.section(QLatin1Char('.'), 0, 0));
-    const QString own = QStringLiteral("tst_%1.cpp").arg(test.section(QLatin1Char('.'), 1));
-    if (!QFile::exists(SourcePath(folder + own))) {
+    const QString own = folder + QStringLiteral("tst_%1.cpp").arg(test.section(QLatin1Char('.'), 1));
+    if (!QFile::exists(SourcePath(own))) {
         return {};
     }
-    QString sources = TextOf(folder + own);
-    const QStringList files = QDir(SourcePath(folder)).entryList({QStringLiteral("*.cpp")}, QDir::Files);
-    for (const QString& file : files) {
-        if (!file.startsWith(QLatin1String("tst_"))) {
-            sources += TextOf(folder + file);
+    const QString text = TextOf(own);
+    QString sources = text;
+    const QDir dir(SourcePath(folder));
+    const QStringList headers = dir.entryList({QStringLiteral("*.h")});
+    for (const QString& header : headers) {
+        if (text.contains(QStringLiteral("#include \"%1%2\"").arg(folder, header))) {
+            const QStringList files = dir.entryList({header.chopped(2) + QLatin1Char('*')});
+            for (const QString& file : files) {
+                sources += TextOf(folder + file);
+            }
         }
     }
     return sources;

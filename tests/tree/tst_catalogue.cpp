@@ -1,8 +1,8 @@
+#include "tests/support/Symbols.h"
 #include "tests/support/TestProgram.h"
 #include "tests/tree/TestSources.h"
 
 #include <QHash>
-#include <QProcess>
 #include <QtTest>
 
 using Test::SourcesOf;
@@ -42,15 +42,10 @@ QVector<Row> Catalogue()
 /** The classes of that name whose constructors the library exports. */
 QStringList Exported(const QString& namePattern)
 {
-    QProcess nm;
-    nm.start(PROPERTIES_NM, {"-DC", "--defined-only", PROPERTIES_LIBRARY});
-    if (!nm.waitForFinished() || nm.exitCode() != 0) {
-        return {};
-    }
     const QRegularExpression constructor(QStringLiteral(R"(^[0-9a-f]+ [TW] (%1)::\1\()").arg(namePattern),
                                          QRegularExpression::MultilineOption);
     QStringList names;
-    auto matches = constructor.globalMatch(QString::fromUtf8(nm.readAllStandardOutput()));
+    auto matches = constructor.globalMatch(Test::DefinedSymbols(QStringLiteral(PROPERTIES_LIBRARY)));
     while (matches.hasNext()) {
         names.append(matches.next().captured(1));
     }

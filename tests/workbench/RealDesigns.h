@@ -1,56 +1,13 @@
 #pragma once
 
-#include <QDirIterator>
-#include <QFile>
-#include <QFileInfo>
-#include <QRegularExpression>
 #include <QStringList>
-
-#include <algorithm>
 
 namespace Test {
 
-/** Whether a board or schematic is of a version that can be opened; a project is if both of its files are. */
-inline bool CanBeOpened(const QString& path)
-{
-    const QFileInfo info(path);
-    if (info.suffix() == QLatin1String("kicad_pro")) {
-        const QString stem = info.path() + QLatin1Char('/') + info.completeBaseName();
-        return CanBeOpened(stem + QLatin1String(".kicad_pcb")) && CanBeOpened(stem + QLatin1String(".kicad_sch"));
-    }
-    static const QRegularExpression version(QStringLiteral("\\(version (\\d+)\\)"));
-    constexpr int newest = 20250114;
-    QFile file(path);
-    const bool isThere = file.open(QIODevice::ReadOnly);
-    return !isThere || version.match(QString::fromUtf8(file.read(200))).captured(1).toInt() <= newest;
-}
-
-/** The real designs of a pattern in a folder, sorted, but for those of versions that cannot be opened yet. */
-inline QStringList RealDesigns(const QString& folder, const QString& pattern)
-{
-    QStringList designs;
-    QDirIterator found(folder, {pattern}, QDir::Files, QDirIterator::Subdirectories);
-    while (!folder.isEmpty() && found.hasNext()) {
-        const QString file = found.next();
-        if (CanBeOpened(file)) {
-            designs.append(file);
-        } else {
-            qInfo("left out, being of a version that cannot be opened: %s", qPrintable(QFileInfo(file).fileName()));
-        }
-    }
-    designs.sort();
-#ifdef __SANITIZE_ADDRESS__
-    // Sanitized programs are slow: one version of each design, which other versions share the name of, is enough.
-    QStringList names;
-    const auto isKnown = [&names](const QString& design) {
-        const QString name = QFileInfo(design).fileName();
-        const bool known = names.contains(name);
-        names.append(name);
-        return known;
-    };
-    designs.erase(std::remove_if(designs.begin(), designs.end(), isKnown), designs.end());
-#endif
-    return designs;
-}
+/**
+ * The real designs whose file names match a pattern, sorted, but for those of versions that cannot be opened yet; none
+ * without a folder of them. Sanitized programs take one version of each design.
+ */
+QStringList RealDesigns(const QString& pattern);
 
 } // namespace Test

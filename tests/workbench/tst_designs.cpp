@@ -77,7 +77,7 @@ class TestDesigns : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { designs = Test::RealDesigns(Test::DesignsFolder(), "*.kicad_pcb"); }
+    void initTestCase() { designs = Test::RealDesigns("*.kicad_pcb"); }
 
     void holdsAllItems_data() { AddFiles(designs + sample); }
 

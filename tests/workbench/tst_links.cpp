@@ -129,7 +129,7 @@ class TestLinks : public QObject
 private slots:
     void initTestCase()
     {
-        designs = Test::RealDesigns(Test::DesignsFolder(), "*.kicad_pcb");
+        designs = Test::RealDesigns("*.kicad_pcb");
         designs.append(Test::SourcePath("workbench/samples/sample.kicad_pcb"));
     }
 

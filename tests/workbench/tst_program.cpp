@@ -49,7 +49,7 @@ void AddRealFiles(const QString& pattern)
     if (folder.isEmpty()) {
         QSKIP("There is no folder of real designs");
     }
-    const QStringList files = Test::RealDesigns(folder, pattern);
+    const QStringList files = Test::RealDesigns(pattern);
     for (const QString& file : files) {
         QTest::newRow(qPrintable(file.mid(folder.size() + 1))) << file;
     }

@@ -234,9 +234,8 @@ private:
     /** Projects, and boards without one. */
     static QStringList Files()
     {
-        const QString folder = Test::DesignsFolder();
-        QStringList files = Test::RealDesigns(folder, "*.kicad_pro");
-        const QStringList boards = Test::RealDesigns(folder, "*.kicad_pcb");
+        QStringList files = Test::RealDesigns("*.kicad_pro");
+        const QStringList boards = Test::RealDesigns("*.kicad_pcb");
         std::copy_if(boards.cbegin(), boards.cend(), std::back_inserter(files), [&files](const QString& board) {
             return !files.contains(QString(board).replace(QStringLiteral(".kicad_pcb"), QStringLiteral(".kicad_pro")));
         });

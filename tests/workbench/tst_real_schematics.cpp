@@ -1,4 +1,3 @@
-#include "tests/support/Places.h"
 #include "tests/support/TestProgram.h"
 #include "tests/workbench/RealDesigns.h"
 #include "tests/workbench/SheetFiles.h"
@@ -93,7 +92,7 @@ class TestRealSchematics : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { designs = Test::RealDesigns(Test::DesignsFolder(), "*.kicad_pro"); }
+    void initTestCase() { designs = Test::RealDesigns("*.kicad_pro"); }
 
     void holdsAllItems_data() { AddDesigns(); }
 

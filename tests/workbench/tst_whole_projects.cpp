@@ -73,7 +73,7 @@ private slots:
         QTest::addColumn<QString>("file");
         QTest::newRow("sample") << SampleProjectFile();
         const QString folder = Test::DesignsFolder();
-        const QStringList projects = Test::RealDesigns(folder, "*.kicad_pro");
+        const QStringList projects = Test::RealDesigns("*.kicad_pro");
         for (const QString& file : projects) {
             QTest::newRow(qPrintable(file.mid(folder.size() + 1))) << file;
         }
