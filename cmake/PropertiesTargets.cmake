@@ -24,7 +24,7 @@ target_compile_options(properties_warnings INTERFACE
 # all that they use: CI compiles them without, too (CMAKE_DISABLE_PRECOMPILE_HEADERS).
 function(properties_use_toolkit_headers target)
     if(NOT TARGET properties_toolkit_headers)
-        file(WRITE ${PROJECT_BINARY_DIR}/toolkit_headers.cpp "")
+        file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/toolkit_headers.cpp CONTENT "")
         add_library(properties_toolkit_headers OBJECT ${PROJECT_BINARY_DIR}/toolkit_headers.cpp)
         set_target_properties(properties_toolkit_headers PROPERTIES AUTOMOC OFF AUTORCC OFF)
         target_link_libraries(properties_toolkit_headers PRIVATE Qt5::Widgets properties_warnings)

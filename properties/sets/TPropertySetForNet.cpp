@@ -1,5 +1,6 @@
 #include "properties/sets/TPropertySetForNet.h"
 
+#include "properties/commands/ProjectParts.h"
 #include "properties/commands/TCmdNet.h"
 #include "properties/rows/TPropertyColor.h"
 #include "properties/sets/RowValues.h"
@@ -31,7 +32,7 @@ TPropertySetForNet::TPropertySetForNet(QList<TGraphicsItem*> selection, TSchemat
 
 void TPropertySetForNet::MakeRows(bool onOneNet)
 {
-    const TNetModel& model = *schematic->NetModel();
+    const TNetModel& model = *ProjectParts::NetModel(schematic);
 
     net = NewRow<TPropertyText>(tr("Net:"), netName, false);
     net->line->SetEditable(false);
@@ -55,7 +56,7 @@ void TPropertySetForNet::MakeRows(bool onOneNet)
 
 bool TPropertySetForNet::HasNet() const
 {
-    return schematic && !netName.isEmpty();
+    return ProjectParts::NetModel(schematic) && !netName.isEmpty();
 }
 
 void TPropertySetForNet::slotSetClass(QString newClass)

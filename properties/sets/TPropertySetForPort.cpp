@@ -1,10 +1,11 @@
 #include "properties/sets/TPropertySetForPort.h"
 
+#include "properties/commands/ProjectParts.h"
 #include "properties/commands/TCmdPort.h"
 #include "properties/sets/RowValues.h"
 #include "properties/sets/Selection.h"
 
-#include <application/TSchematic.h>
+#include <application/TNetModel.h>
 
 TPropertySetForPort::TPropertySetForPort(QList<TGraphicsItem*> selection, TSchematic* ofSchematic)
     : TPropertySet(Selection::IsSingle(selection) ? tr("Port") : tr("Ports")),
@@ -30,7 +31,7 @@ TPropertySetForPort::TPropertySetForPort(QList<TGraphicsItem*> selection, TSchem
 
 void TPropertySetForPort::SetName(QString newName)
 {
-    const TNetModel* model = schematic ? schematic->NetModel() : nullptr;
+    const TNetModel* model = ProjectParts::NetModel(schematic);
     const QColor color = model ? model->ColorSch(model->NetRow(newName)) : QColor();
     // Intended: the direct write leaves the net model and the board as they are.
     EditBy(

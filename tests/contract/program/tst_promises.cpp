@@ -11,7 +11,9 @@
 #include "properties/rows/TPropertyEnum.h"
 #include "properties/rows/TPropertySize.h"
 #include "properties/rows/TPropertyText.h"
+#include "properties/sets/TPropertySetForNet.h"
 #include "properties/sets/TPropertySetForPad.h"
+#include "properties/sets/TPropertySetForPort.h"
 #include "properties/sets/TPropertySetForWire.h"
 #include "properties/TPropertyWidget.h"
 
@@ -251,6 +253,34 @@ private slots:
         QCOMPARE(CallsOf<TCmdNetPrio>(QStringList(), "1", &design.project), 1);
         QCOMPARE(CallsOf<TCmdNetTieName>(pcbTies, "N", &design.project), 1);
         QCOMPARE(CallsOf<TCmdCmpValue>(QList<unsigned short>(), "1k", &design.project), 1);
+    }
+
+    void aSchematicMayLackItsModels()
+    {
+        TDesign design;
+        design.schematic.netModel = nullptr;
+        design.schematic.cmpModel = nullptr;
+        QVERIFY(TPropertySetForNet({design.netWire}, &design.schematic).Properties().isEmpty());
+        QVERIFY(!TPropertySetForWire({design.wire}, &design.project).Properties().isEmpty());
+        QVERIFY(!TPropertySetForPort({design.port}, &design.schematic).Properties().isEmpty());
+
+        QUndoStack stack;
+        stack.push(new TCmdNetClass("N1", "Power", &design.project));
+        stack.push(new TCmdNetPrio({"N1"}, "3", &design.project));
+        stack.push(new TCmdNetColorSch("N1", Qt::green, &design.schematic));
+        stack.push(new TCmdNetColorPcb("N1", Qt::green, &design.project));
+        stack.push(new TCmdCmpValue({1}, "22k", &design.project));
+        stack.setIndex(0);
+        design.schematic.netModel = &design.nets;
+        design.schematic.cmpModel = &design.components;
+        stack.setIndex(stack.count());
+        QCOMPARE(design.nets.NetClass("N1"), "Power");
+        QCOMPARE(design.nets.Priority("N1"), "3");
+        QCOMPARE(design.components.items[1].value, "22k");
+        stack.setIndex(0);
+        QCOMPARE(design.nets.NetClass("N1"), "Default");
+        QCOMPARE(design.nets.Priority("N1"), "0");
+        QCOMPARE(design.components.items[1].value, "10k");
     }
 
     void commandsTakeMillimetresOrSceneUnits()

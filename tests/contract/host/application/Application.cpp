@@ -104,7 +104,7 @@ bool TSchematic::IsExistNetClass(const QString& name) const { return name.isEmpt
 
 std::optional<QString> TSchematic::NetClass(const QString& net) const
 {
-    return netModel->HasNet(net) ? std::optional<QString>(netModel->NetClass(net)) : std::nullopt;
+    return netModel && netModel->HasNet(net) ? std::optional<QString>(netModel->NetClass(net)) : std::nullopt;
 }
 
 QList<TGraphicsItem*> TSchematic::ItemsOfPages() const
