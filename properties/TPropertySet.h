@@ -8,6 +8,8 @@
 #include <QObject>
 #include <QPointer>
 
+#include <optional>
+
 class QKeyEvent;
 class TAbstractProperty;
 class TPropertyWidget;
@@ -74,8 +76,11 @@ protected:
     void Edit(const QList<Item*>& items, const Value& value)
     {
         using Attribute = typename Command::Attribute;
-        Edit<Command>(items, value, [converted = Attribute::FromEditor(value)](Item& item) {
-            Attribute::Write(static_cast<typename Attribute::Item&>(item), converted);
+        const std::optional<typename Attribute::Value> converted = Attribute::FromEditor(value);
+        Edit<Command>(items, value, [converted](Item& item) {
+            if (converted) {
+                Attribute::Write(static_cast<typename Attribute::Item&>(item), *converted);
+            }
         });
     }
 

@@ -43,10 +43,15 @@ void TPropertyWidget::SetPropertySet(TPropertySet* set)
 {
     const QPointer<TPropertyWidget> self(this);
     const QPointer<TPropertySet> next(set);
-    delete std::exchange(current, next).data();
-    if (!self || current != next) {
+    const int call = ++calls;
+    delete std::exchange(current, {}).data();
+    if (!self || call != calls) {
+        if (!self || current != next) {
+            delete next;
+        }
         return;
     }
+    current = next;
     SetTitle(QString());
     if (self && current && current == next) {
         current->AddToPropertyWidget(this);

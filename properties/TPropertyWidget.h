@@ -57,4 +57,5 @@ private:
 
     QPointer<TTreeWidget> tree;
     QPointer<TPropertySet> current;
+    int calls = 0; ///< Of `SetPropertySet`, to tell whether one has come in another.
 };

@@ -138,7 +138,9 @@ void AddAttribute(Shelf& shelf, const char* name, Kind kind, Arguments... argume
 
     const auto makeEdit = [&shelf, kind, packed = std::tuple(arguments...)](int size) {
         const auto newValue = std::apply(
-            [](const Arguments&... each) { return typename Attribute::Value(Attribute::FromEditor({each...})); },
+            [](const Arguments&... each) {
+                return std::optional<typename Attribute::Value>(Attribute::FromEditor({each...})).value();
+            },
             packed);
         return std::make_unique<AttributeEdit<Attribute, Given>>(
             BoardOf(shelf, kind, std::max(size, itemsInAStretch)), size, newValue,

@@ -6,11 +6,8 @@ template <class Attribute, CommandId::Id commandId>
 template <class GivenItem>
 TAttributeCommand<Attribute, commandId>::TAttributeCommand(const QList<GivenItem*>& given,
                                                            const std::optional<Value>& value)
-    : newValue(value.value_or(Value()))
+    : newValue(value)
 {
-    if (!value) {
-        return;
-    }
     items.reserve(given.size());
     oldValues.reserve(given.size());
     for (GivenItem* candidate : given) {
@@ -34,8 +31,11 @@ int TAttributeCommand<Attribute, commandId>::id() const
 template <class Attribute, CommandId::Id commandId>
 bool TAttributeCommand<Attribute, commandId>::Do()
 {
+    if (!newValue) {
+        return false;
+    }
     for (Item* item : qAsConst(items)) {
-        Attribute::Write(*item, newValue);
+        Attribute::Write(*item, *newValue);
     }
     return true;
 }
@@ -57,7 +57,7 @@ template <class Attribute, CommandId::Id commandId, MergeRule rule>
 bool TMergingCommand<Attribute, commandId, rule>::mergeWith(const TUndoCommand* other)
 {
     const auto* later = dynamic_cast<const TMergingCommand*>(other);
-    if (!later || later->items != this->items) {
+    if (!later || later->items != this->items || !later->newValue || !this->newValue) {
         return false;
     }
     if constexpr (rule == MergeRule::EqualValue) {

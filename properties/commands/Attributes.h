@@ -46,11 +46,9 @@ struct Choice
 {
     using Item = ItemClass;
     using Value = Enumeration;
-    static Value FromEditor(int value) { return static_cast<Enumeration>(value); }
-    /** Nothing for a number that is no choice: a command with such a number changes nothing. */
-    static std::optional<Value> Chosen(int value)
+    static std::optional<Value> FromEditor(int value)
     {
-        return first <= value && value <= last ? std::make_optional(FromEditor(value)) : std::nullopt;
+        return first <= value && value <= last ? std::make_optional(static_cast<Enumeration>(value)) : std::nullopt;
     }
 };
 

@@ -18,7 +18,8 @@
  *         using Item = …;                             // the class whose attribute it is
  *         using Value = …;                            // as an item holds it
  *         static bool Accepts(const TGraphicsItem&);  // which items the command keeps
- *         static Value FromEditor(…);                 // converts what the user edited; identity unless it is a length
+ *         static Value FromEditor(…);                 // converts what the user edited; an optional where a number may
+                                                    // be no value
  *         static Value Read(const Item&);             // the old value
  *         static void Write(Item&, const Value&);     // writes, and does the refresh that belongs to the write
  *     };
@@ -43,18 +44,18 @@ public:
 
 protected:
     /** Keeps the accepted ones of @p given with their current values; @p value is as an item holds it. Without a value
-     *  none is kept. */
+     *  the command changes nothing. */
     template <class GivenItem>
     TAttributeCommand(const QList<GivenItem*>& given, const std::optional<Value>& value);
 
-    /** Writes the new value to every kept item, in order. */
+    /** Writes the new value to every kept item, in order. False without a value. */
     bool Do() override;
     /** Writes back to every kept item its own old value, in order. */
     bool Undo() override;
 
     QList<Item*> items;
-    QVector<Value> oldValues; ///< Parallel to `items`.
-    Value newValue;
+    QVector<Value> oldValues;      ///< Parallel to `items`.
+    std::optional<Value> newValue; ///< None for what is no value of the attribute.
 };
 
 /** The rules by which `mergeWith` accepts another command of the same class over the same items in the same order. */
@@ -73,7 +74,8 @@ public:
 
     /**
      * Merges with a later command: true when it is one of the same class over the same items in the same order and
-     * the rule accepts its new value. Anything else, null too, is refused and changes nothing.
+     * the rule accepts its new value. Anything else is refused and changes nothing: null, and commands without a
+     * value.
      *
      * Intended: this does not override the toolkit's function of the same name, so that the undo stack never merges
      * and every edit stays its own undo step.

@@ -88,6 +88,9 @@ template <class Attribute>
 template <class ValueAt>
 bool TNetTieCommand<Attribute>::WriteAll(ValueAt valueAt)
 {
+    if (oldValues.isEmpty()) { // The list of all ties would have the schematic save its pages.
+        return false;
+    }
     const bool inStep = ProjectParts::IsInStep(project);
     bool isThere = false;
     if constexpr (Attribute::sides != TieSides::Board) {

@@ -51,7 +51,7 @@ TCommandKind TCmdPadName::Kind() const
 template class TAttributeCommand<Attributes::PadShape>;
 
 TCmdPadShape::TCmdPadShape(const QList<TGraphicsItem*>& selection, int shape)
-    : TAttributeCommand(selection, Attribute::Chosen(shape))
+    : TAttributeCommand(selection, Attribute::FromEditor(shape))
 {}
 
 TCommandKind TCmdPadShape::Kind() const

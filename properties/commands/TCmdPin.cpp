@@ -51,7 +51,7 @@ TCommandKind TCmdPinNumberVis::Kind() const
 template class TMergingCommand<Attributes::PinType, CommandId::PinType, MergeRule::EqualValue>;
 
 TCmdPinType::TCmdPinType(const QList<TGraphicsItem*>& selection, int type)
-    : TMergingCommand(selection, Attribute::Chosen(type))
+    : TMergingCommand(selection, Attribute::FromEditor(type))
 {}
 
 TCommandKind TCmdPinType::Kind() const
@@ -63,7 +63,7 @@ TCommandKind TCmdPinType::Kind() const
 template class TMergingCommand<Attributes::PinStyle, CommandId::PinStyle, MergeRule::EqualValue>;
 
 TCmdPinStyle::TCmdPinStyle(const QList<TGraphicsItem*>& selection, int style)
-    : TMergingCommand(selection, Attribute::Chosen(style))
+    : TMergingCommand(selection, Attribute::FromEditor(style))
 {}
 
 TCommandKind TCmdPinStyle::Kind() const
@@ -75,7 +75,7 @@ TCommandKind TCmdPinStyle::Kind() const
 template class TMergingCommand<Attributes::PinLength, CommandId::PinLength, MergeRule::EqualValue>;
 
 TCmdPinLength::TCmdPinLength(const QList<TGraphicsItem*>& selection, int length)
-    : TMergingCommand(selection, Attribute::Chosen(length))
+    : TMergingCommand(selection, Attribute::FromEditor(length))
 {}
 
 TCommandKind TCmdPinLength::Kind() const
@@ -87,7 +87,7 @@ TCommandKind TCmdPinLength::Kind() const
 template class TMergingCommand<Attributes::PinSwap, CommandId::PinSwap, MergeRule::EqualValue>;
 
 TCmdPinSwap::TCmdPinSwap(const QList<TGraphicsItem*>& selection, int group)
-    : TMergingCommand(selection, Attribute::Chosen(group))
+    : TMergingCommand(selection, Attribute::FromEditor(group))
 {}
 
 TCommandKind TCmdPinSwap::Kind() const

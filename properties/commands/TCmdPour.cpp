@@ -110,7 +110,7 @@ TCommandKind TCmdPourNet::Kind() const
 template class TAttributeCommand<Attributes::PourFillType>;
 
 TCmdPourFillType::TCmdPourFillType(QList<TGraphicsPourItem*> pours, int brushStyle)
-    : TAttributeCommand(pours, Attribute::Chosen(brushStyle))
+    : TAttributeCommand(pours, Attribute::FromEditor(brushStyle))
 {}
 
 TCommandKind TCmdPourFillType::Kind() const

@@ -45,7 +45,7 @@ struct PourPrio : FilledValue<quint8, &TGraphicsPourItem::Priority, &TGraphicsPo
 {};
 struct PourFillType : FilledValue<int, &TGraphicsPourItem::FillType, &TGraphicsPourItem::SetFillType>
 {
-    static std::optional<int> Chosen(int style)
+    static std::optional<int> FromEditor(int style)
     {
         return IsBrushStyle(style) ? std::make_optional(style) : std::nullopt;
     }

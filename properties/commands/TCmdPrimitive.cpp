@@ -58,7 +58,7 @@ TCommandKind TCmdPenStyle::Kind() const
 template class TAttributeCommand<Attributes::BrushStyle>;
 
 TCmdBrushStyle::TCmdBrushStyle(const QList<TGraphicsItem*>& selection, int style)
-    : TAttributeCommand(selection, Attribute::Chosen(style))
+    : TAttributeCommand(selection, Attribute::FromEditor(style))
 {}
 
 TCommandKind TCmdBrushStyle::Kind() const

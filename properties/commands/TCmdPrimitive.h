@@ -50,10 +50,9 @@ struct PenStyle : Plain<TGraphicsPenItem, Qt::PenStyle>, WithoutParent<AnyPrimit
 /** How a closed shape is filled; polygons keep their brush in another place than the other shapes. */
 struct BrushStyle : Plain<TGraphicsItem, Qt::BrushStyle>, WithoutParent<FilledPrimitive>
 {
-    static Qt::BrushStyle FromEditor(int style) { return static_cast<Qt::BrushStyle>(style); }
-    static std::optional<Qt::BrushStyle> Chosen(int style)
+    static std::optional<Qt::BrushStyle> FromEditor(int style)
     {
-        return IsBrushStyle(style) ? std::make_optional(FromEditor(style)) : std::nullopt;
+        return IsBrushStyle(style) ? std::make_optional(static_cast<Qt::BrushStyle>(style)) : std::nullopt;
     }
     static Qt::BrushStyle Read(const TGraphicsItem& item);
     static void Write(TGraphicsItem& item, Qt::BrushStyle style);

@@ -41,7 +41,7 @@ TCommandKind TCmdViaGroup::Kind() const
 template class TAttributeCommand<Attributes::ViaThermal>;
 
 TCmdViaTherm::TCmdViaTherm(const QList<TGraphicsItem*>& selection, int thermal)
-    : TAttributeCommand(selection, Attribute::Chosen(thermal))
+    : TAttributeCommand(selection, Attribute::FromEditor(thermal))
 {}
 
 TCommandKind TCmdViaTherm::Kind() const

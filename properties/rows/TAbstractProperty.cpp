@@ -28,6 +28,7 @@ TAbstractProperty::~TAbstractProperty()
 void TAbstractProperty::KeepEditorIn(QWidget* holder)
 {
     if (editor) {
+        editor->hide(); // Or a holder that is not yet visible would show it with itself.
         editor->setParent(holder);
         editorHolder = holder;
     }

@@ -64,7 +64,7 @@ void TLineEdit::SetBackgroundColor(const QColor& color)
     SetStyleSheetOnce(label, QStringLiteral("background-color: ") + color.name());
 }
 
-void TLineEdit::Close(int reports)
+void TLineEdit::Close(int reports, bool takesText)
 {
     // Hiding the editor moves the focus: that tells the application, which may do anything, and can finish the edit
     // once more. Receivers hear of that when the toolkit is done with the focus.
@@ -78,6 +78,9 @@ void TLineEdit::Close(int reports)
     }
     closing = false;
     const QString text = edit->text();
+    if (takesText) {
+        setText(text);
+    }
     for (reports += std::exchange(ends, 0); reports > 0 && self; --reports) {
         emit textChanged(text);
     }
@@ -134,8 +137,7 @@ void TLineEdit::mousePressEvent(QMouseEvent* event)
         return;
     }
     qDebug("mouse press");
-    setText(edit->text());
-    Close(0);
+    Close(0, true);
 }
 
 void TLineEdit::focusOutEvent(QFocusEvent*)

@@ -55,7 +55,7 @@ private Q_SLOTS:
 
 private:
     /** Hides the editor and then reports its text so many times. */
-    void Close(int reports);
+    void Close(int reports, bool takesText = false);
 
     QCheckBox* const check; ///< Never shown: its style is the label's when nothing is marked.
     bool markEmpty;

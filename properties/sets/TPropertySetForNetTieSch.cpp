@@ -49,5 +49,9 @@ void TPropertySetForNetTieSch::SetSymbol(int newSymbol)
 {
     EditBy(
         ties, [&] { return new TCmdNetTieSchSymbol(ties, newSymbol, project); },
-        [newSymbol](TGraphicsNetTieSchItem& tie) { Attributes::NetTieSymbol::Write(tie, newSymbol); });
+        [newSymbol](TGraphicsNetTieSchItem& tie) {
+            if (Attributes::NetTieSymbol::Has(newSymbol)) {
+                Attributes::NetTieSymbol::Write(tie, newSymbol);
+            }
+        });
 }

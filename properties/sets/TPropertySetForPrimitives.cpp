@@ -136,9 +136,9 @@ void TPropertySetForPrimitives::slotSetColor(const QColor& newColor)
 
 void TPropertySetForPrimitives::slotSetFillStyle(int style)
 {
-    Edit<TCmdBrushStyle>(items, style, [style](TGraphicsItem& item) {
-        if (Attributes::FilledPrimitive::Accepts(item)) {
-            Attributes::BrushStyle::Write(item, Attributes::BrushStyle::FromEditor(style));
+    Edit<TCmdBrushStyle>(items, style, [converted = Attributes::BrushStyle::FromEditor(style)](TGraphicsItem& item) {
+        if (converted && Attributes::FilledPrimitive::Accepts(item)) {
+            Attributes::BrushStyle::Write(item, *converted);
         }
     });
 }

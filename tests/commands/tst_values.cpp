@@ -117,7 +117,16 @@ private slots:
         }
     }
 
-    // It holds no items, so that nothing is taken over from it either.
+    void refusedValuesAreNotMerged()
+    {
+        Design design;
+        const QList<TGraphicsItem*> pins{design.pin};
+        const TCmdPinSwap refused(pins, 300);
+        QVERIFY(!TCmdPinSwap(pins, 256).mergeWith(&refused));
+        QVERIFY(!TCmdPinSwap(pins, 300).mergeWith(&refused));
+        QVERIFY(!TCmdPinType({}, -1).mergeWith(std::make_unique<TCmdPinType>(pins, 99).get()));
+    }
+
     void aRefusedValueIsNotMerged()
     {
         Design design;

@@ -109,6 +109,19 @@ private slots:
         QCOMPARE(LineEdits(), before);
     }
 
+    void noSetIsShownWhileTheFormerOneGoes()
+    {
+        Test::PanelWindow place;
+        auto* former = new Test::PlainSet;
+        place.Show(former);
+        QList<TPropertySet*> shown;
+        connect(former, &QObject::destroyed, [&] { shown.append(place.panel->PropertySet()); });
+        auto* next = new Test::PlainSet;
+        place.panel->SetPropertySet(next);
+        QCOMPARE(shown, QList<TPropertySet*>{nullptr});
+        QCOMPARE(place.panel->PropertySet(), next);
+    }
+
     void panelTakesItsSetAlong()
     {
         auto parent = std::make_unique<QWidget>();

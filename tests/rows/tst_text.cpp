@@ -329,6 +329,22 @@ private slots:
         QVERIFY(edited.IsClosed());
     }
 
+    void mousePressHidesTheEditorBeforeTheLabelHasTheText()
+    {
+        const EditedLine edited;
+        const QSignalBlocker editorEndsNothing(edited.line->edit);
+        QString seen;
+        const auto connection = connect(qApp, &QApplication::focusChanged, edited.line, [&] {
+            seen += edited.line->label->text();
+            edited.line->setText("of a handler");
+        });
+        QTest::ignoreMessage(QtDebugMsg, "mouse press");
+        QTest::mousePress(edited.line, Qt::LeftButton);
+        disconnect(connection);
+        QCOMPARE(seen, QString("old"));
+        QCOMPARE(edited.line->label->text(), QString("new"));
+    }
+
     void mousePressMeansNothingWhileTheLabelShows()
     {
         TLineEdit line("old", false, nullptr);

@@ -206,6 +206,24 @@ private slots:
         }
     }
 
+    void unshownEditorsStayHiddenInAPanelThatIsShownLater_data() { leavesTheItemsAlone_data(); }
+
+    void unshownEditorsStayHiddenInAPanelThatIsShownLater()
+    {
+        QFETCH(MakeSet, makeSet);
+        QFETCH(bool, bypass);
+        WatchfulBoard board;
+        board.SetBypass(bypass);
+        Test::PanelWindow place;
+        place.panel->SetPropertySet(makeSet(board.AllItems(), board));
+        place.window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&place.window));
+        QVERIFY(place.Tree()->isVisible());
+        for (const QWidget* child : place.panel->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+            QVERIFY2(child == place.Tree() || !child->isVisible(), child->metaObject()->className());
+        }
+    }
+
     void readsTheItemsOnce_data() { leavesTheItemsAlone_data(); }
 
     void readsTheItemsOnce()

@@ -46,6 +46,8 @@ const Test::SlotCase<Symbols> slotCases[] = {
     {"name hidden", [](Set& set) { set.SetNameVis(false); },
      [](Set& set) { Test::RowOf<TPropertyText>(&set, "Name:")->visible->click(); }, "TCmdNetTieNameVis",
      [](Item& tie) { tie.SetNameVisible(false); }, nullptr, nullptr},
+    {"symbol that there is not", [](Set& set) { set.SetSymbol(3); }, nullptr, "TCmdNetTieSchSymbol", [](Item&) {},
+     nullptr, nullptr},
     {"symbol", [](Set& set) { set.SetSymbol(2); },
      [](Set& set) { Test::RowOf<TPropertyEnum>(&set, "Symbol:")->Box()->setCurrentText("Symbol 3"); },
      "TCmdNetTieSchSymbol", [](Item& tie) { tie.SetSymbol(2); }, nullptr, nullptr},

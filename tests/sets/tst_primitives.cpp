@@ -97,6 +97,8 @@ const Test::SlotCase<Drawings> slotCases[] = {
     {"line style", [](Set& set) { set.slotSetLineStyle(Qt::DotLine); },
      [](Set& set) { BoxOf(set, "Line style:")->setCurrentText("Dot"); }, "TCmdPenStyle",
      [](Item& item) { item.Pen().setStyle(Qt::DotLine); }, nullptr, nullptr},
+    {"fill style that there is not", [](Set& set) { set.slotSetFillStyle(99); }, nullptr, "TCmdBrushStyle",
+     [](Item&) {}, nullptr, nullptr},
     {"fill style, of closed shapes", [](Set& set) { set.slotSetFillStyle(8); },
      [](Set& set) { BoxOf(set, "Fill style:")->setCurrentText("Points"); }, "TCmdBrushStyle",
      [](Item& item) { SetBrush(item, Qt::Dense7Pattern); }, nullptr, nullptr},

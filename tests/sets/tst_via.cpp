@@ -67,6 +67,8 @@ const Test::SlotCase<Vias> slotCases[] = {
     {"drill", [](TPropertySetForVia& set) { set.SetDrill(1.7); },
      [](TPropertySetForVia& set) { SpinOf(set, "Drill:")->setValue(1.7); }, "TCmdViaDrill",
      [](TGraphicsViaItem& via) { via.SetDrill(SceneF(1.7)); }, nullptr, nullptr},
+    {"thermal that there is not", [](TPropertySetForVia& set) { set.SetThermal(9); }, nullptr, "TCmdViaTherm",
+     [](TGraphicsViaItem&) {}, nullptr, nullptr},
     {"thermal", [](TPropertySetForVia& set) { set.SetThermal(2); },
      [](TPropertySetForVia& set) { BoxOf(set, "Thermal:")->setCurrentText("No"); }, "TCmdViaTherm",
      [](TGraphicsViaItem& via) { via.SetThermal(TGraphicsViaItem::ThermalNo); }, nullptr, nullptr},

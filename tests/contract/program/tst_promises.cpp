@@ -251,7 +251,7 @@ private slots:
         QCOMPARE(CallsOf<TCmdPartConnect>(QList<TGraphicsItem*>(), &design.project), 1);
         QCOMPARE(CallsOf<TCmdPartDisconnect>(QList<TGraphicsItem*>(), &design.project), 1);
         QCOMPARE(CallsOf<TCmdNetPrio>(QStringList(), "1", &design.project), 1);
-        QCOMPARE(CallsOf<TCmdNetTieName>(pcbTies, "N", &design.project), 1);
+        QCOMPARE(CallsOf<TCmdNetTieName>(pcbTies, "N", &design.project), 0);
         QCOMPARE(CallsOf<TCmdCmpValue>(QList<unsigned short>(), "1k", &design.project), 1);
     }
 
