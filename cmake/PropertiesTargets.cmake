@@ -36,6 +36,15 @@ function(properties_use_toolkit_headers target)
     target_precompile_headers(${target} REUSE_FROM properties_toolkit_headers)
 endfunction()
 
+# properties_sources(target folder...): all sources and headers of these folders, also those that are added later.
+function(properties_sources target)
+    list(TRANSFORM ARGN APPEND "/*.cpp" OUTPUT_VARIABLE patterns)
+    list(TRANSFORM ARGN APPEND "/*.h" OUTPUT_VARIABLE headers)
+    file(GLOB sources CONFIGURE_DEPENDS ${patterns} ${headers})
+    target_sources(${target} PRIVATE ${sources})
+    file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/timestamp) # Or moc does not notice a new source.
+endfunction()
+
 # While the major version is 0 every minor version may break what was built against the one before.
 set(PROPERTIES_SOVERSION ${PROJECT_VERSION_MAJOR})
 if(PROJECT_VERSION_MAJOR EQUAL 0)

@@ -1,13 +1,13 @@
 #include "workbench/RunWorkbench.h"
 
+#include "workbench/design/LoadDesign.h"
 #include "workbench/importer/ProjectImporter.h"
-#include "workbench/LoadDesign.h"
 #include "workbench/session/RunSteps.h"
 #include "workbench/session/Tour.h"
 #include "workbench/session/TSession.h"
 #include "workbench/session/TSessionError.h"
-#include "workbench/Theme.h"
-#include "workbench/TMainWindow.h"
+#include "workbench/window/Theme.h"
+#include "workbench/window/TMainWindow.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

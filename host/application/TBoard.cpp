@@ -1,13 +1,13 @@
 #include <application/TBoard.h>
 
-#include <application/TRatNest.h>
+#include <application/engine/TRatsnest.h>
 #include <application/TSchematic.h>
 #include <objects/TGraphicsPackageItem.h>
 #include <objects/TGraphicsPadItem.h>
 
 #include <QGraphicsView>
 
-TBoard::TBoard() : scene(&workspace), rats(std::make_unique<TRatNest>(scene)) {}
+TBoard::TBoard() : scene(&workspace), rats(std::make_unique<TRatsnest>(scene)) {}
 
 TBoard::~TBoard() = default;
 

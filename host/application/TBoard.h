@@ -10,7 +10,7 @@
 #include <memory>
 
 class QGraphicsView;
-class TRatNest;
+class TRatsnest;
 class TSchematic;
 
 /**
@@ -83,7 +83,7 @@ public:
 private:
     TWorkspace workspace; // Outlives the scene with its items, which point to it.
     TItemScene scene;
-    std::unique_ptr<TRatNest> rats; // Its lines belong to the scene.
+    std::unique_ptr<TRatsnest> rats; // Its lines belong to the scene.
     QPointer<QObject> view;
     TSchematic* schematic = nullptr;
     bool refDesVisible = true;

@@ -1,6 +1,6 @@
 #include <application/TCmpModel.h>
 
-#include <graphics/TStateText.h>
+#include <graphics/engine/TStateText.h>
 
 #include <QPair>
 

@@ -1,6 +1,6 @@
 #include <application/TNetModel.h>
 
-#include <graphics/TStateText.h>
+#include <graphics/engine/TStateText.h>
 
 void TNetModel::AddNet(const QString& net, const QString& netClass, const QColor& colorSch, const QColor& colorPcb,
                        int priority)

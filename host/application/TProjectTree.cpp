@@ -1,6 +1,6 @@
 #include <application/TProjectTree.h>
 
-#include <graphics/TStateText.h>
+#include <graphics/engine/TStateText.h>
 
 #include <QHeaderView>
 

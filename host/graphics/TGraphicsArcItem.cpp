@@ -1,6 +1,6 @@
 #include <graphics/TGraphicsArcItem.h>
 
-#include <graphics/TStateText.h>
+#include <graphics/engine/TStateText.h>
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 #include <graphics/TGraphicsItem.h>
 
+#include <graphics/engine/TStateText.h>
 #include <graphics/TItemScene.h>
-#include <graphics/TStateText.h>
 #include <workspace/TWorkspace.h>
 
 #include <QPainter>

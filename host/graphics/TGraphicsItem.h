@@ -1,7 +1,7 @@
 #pragma once
 
+#include <graphics/engine/TLinkNode.h>
 #include <graphics/ItemTypes.h>
-#include <graphics/TLinkNode.h>
 #include <workspace/Osmirel.h>
 
 #include <QColor>

@@ -1,6 +1,6 @@
 #include <graphics/TGraphicsTextItem.h>
 
-#include <graphics/TStateText.h>
+#include <graphics/engine/TStateText.h>
 
 #include <QFontMetricsF>
 #include <QPainter>

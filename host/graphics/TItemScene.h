@@ -1,6 +1,6 @@
 #pragma once
 
-#include <graphics/TLinkNode.h>
+#include <graphics/engine/TLinkNode.h>
 
 #include <QGraphicsScene>
 #include <QList>

@@ -1,6 +1,6 @@
 #include <objects/TGraphicsBusEntryItem.h>
 
-#include <graphics/TStateText.h>
+#include <graphics/engine/TStateText.h>
 #include <objects/TGraphicsBusItem.h>
 #include <objects/TGraphicsNetItem.h>
 

@@ -1,6 +1,6 @@
 #include <objects/TGraphicsBusItem.h>
 
-#include <graphics/TStateText.h>
+#include <graphics/engine/TStateText.h>
 #include <objects/TGraphicsBusEntryItem.h>
 
 #include <QPainter>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <objects/engine/TLinkList.h>
 #include <objects/TGraphicsSectionItem.h>
-#include <objects/TLinkList.h>
 
 class TGraphicsBusEntryItem;
 

@@ -1,7 +1,7 @@
 #include <objects/TGraphicsComponentItem.h>
 
+#include <graphics/engine/TStateText.h>
 #include <graphics/TGraphicsTextItem.h>
-#include <graphics/TStateText.h>
 
 namespace {
 

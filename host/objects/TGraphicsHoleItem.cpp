@@ -1,6 +1,6 @@
 #include <objects/TGraphicsHoleItem.h>
 
-#include <objects/DrawingStyle.h>
+#include <objects/engine/DrawingStyle.h>
 
 #include <QPainter>
 

@@ -1,6 +1,6 @@
 #include <objects/TGraphicsJunctionItem.h>
 
-#include <graphics/TStateText.h>
+#include <graphics/engine/TStateText.h>
 #include <objects/TGraphicsSectionItem.h>
 
 #include <QPainter>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <graphics/TGraphicsRectItem.h>
-#include <objects/TLinkList.h>
+#include <objects/engine/TLinkList.h>
 
 /** A node at which several sections of one layer meet, drawn as a dot as large as its size. */
 class TGraphicsJunctionItem : public TGraphicsRectItem

@@ -1,8 +1,8 @@
 #include <objects/TGraphicsNetTiePcbItem.h>
 
-#include <graphics/Shapes.h>
-#include <graphics/TStateText.h>
-#include <objects/DrawingStyle.h>
+#include <graphics/engine/Shapes.h>
+#include <graphics/engine/TStateText.h>
+#include <objects/engine/DrawingStyle.h>
 #include <objects/TGraphicsSectionItem.h>
 
 #include <QPainter>
@@ -56,12 +56,12 @@ void TGraphicsNetTiePcbItem::RemoveLinkedWire(TGraphicsSectionItem* wire)
 
 QVector<TGraphicsItem*> TGraphicsNetTiePcbItem::Connect(const QVector<TGraphicsItem*>& items)
 {
-    return landing.Connect({this}, items);
+    return connector.Connect({this}, items);
 }
 
 QVector<TGraphicsItem*> TGraphicsNetTiePcbItem::Disconnect(const QVector<TGraphicsItem*>& items)
 {
-    return landing.Disconnect({this}, items);
+    return connector.Disconnect({this}, items);
 }
 
 QRectF TGraphicsNetTiePcbItem::boundingRect() const

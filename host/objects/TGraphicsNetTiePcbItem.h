@@ -1,8 +1,8 @@
 #pragma once
 
 #include <graphics/TGraphicsItem.h>
-#include <objects/TLanding.h>
-#include <objects/TLinkList.h>
+#include <objects/engine/TLinkList.h>
+#include <objects/engine/TWireConnector.h>
 
 #include <QPen>
 
@@ -46,7 +46,7 @@ public:
     void AddLinkedWire(TGraphicsSectionItem* wire);
     void RemoveLinkedWire(TGraphicsSectionItem* wire);
 
-    /** Links the given wires, or with none given all that end on a pad, and returns them. See `TLanding`. */
+    /** Links the given wires, or with none given all that end on a pad, and returns them. See `TWireConnector`. */
     QVector<TGraphicsItem*> Connect(const QVector<TGraphicsItem*>& items);
     /** Cuts the given wires, or with none given all, and returns them. */
     QVector<TGraphicsItem*> Disconnect(const QVector<TGraphicsItem*>& items);
@@ -77,5 +77,5 @@ private:
     double padDistance = 0;
     QPen pen;
     TLinkList linked{LinkNode()};
-    TLanding landing;
+    TWireConnector connector;
 };

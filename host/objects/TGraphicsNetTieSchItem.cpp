@@ -1,7 +1,7 @@
 #include <objects/TGraphicsNetTieSchItem.h>
 
-#include <graphics/Shapes.h>
-#include <graphics/TStateText.h>
+#include <graphics/engine/Shapes.h>
+#include <graphics/engine/TStateText.h>
 
 #include <QPainter>
 

@@ -1,8 +1,8 @@
 #include <objects/TGraphicsOutlineItem.h>
 
-#include <graphics/Shapes.h>
-#include <graphics/TStateText.h>
-#include <objects/DrawingStyle.h>
+#include <graphics/engine/Shapes.h>
+#include <graphics/engine/TStateText.h>
+#include <objects/engine/DrawingStyle.h>
 
 #include <QPainter>
 

@@ -22,12 +22,12 @@ QVector<TGraphicsItem*> TGraphicsPackageItem::Pads() const
 
 QVector<TGraphicsItem*> TGraphicsPackageItem::Connect(const QVector<TGraphicsItem*>& items)
 {
-    return landing.Connect(Pads(), items);
+    return connector.Connect(Pads(), items);
 }
 
 QVector<TGraphicsItem*> TGraphicsPackageItem::Disconnect(const QVector<TGraphicsItem*>& items)
 {
-    return landing.Disconnect(Pads(), items);
+    return connector.Disconnect(Pads(), items);
 }
 
 void TGraphicsPackageItem::SetLayer(Osmirel::Layer newLayer)

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <objects/engine/TWireConnector.h>
 #include <objects/TGraphicsComponentItem.h>
-#include <objects/TLanding.h>
 
 /** A component's footprint on the board: the parent of its pads, drawings and texts. */
 class TGraphicsPackageItem : public TGraphicsComponentItem
@@ -34,5 +34,5 @@ protected:
     std::unique_ptr<TGraphicsItem> CreateEmpty() const override;
 
 private:
-    TLanding landing;
+    TWireConnector connector;
 };

@@ -1,6 +1,6 @@
 #include <objects/TGraphicsPartItem.h>
 
-#include <graphics/TStateText.h>
+#include <graphics/engine/TStateText.h>
 
 TGraphicsPartItem::TGraphicsPartItem(QGraphicsItem* parent) : TGraphicsComponentItem(parent)
 {
@@ -9,12 +9,12 @@ TGraphicsPartItem::TGraphicsPartItem(QGraphicsItem* parent) : TGraphicsComponent
 
 QVector<TGraphicsItem*> TGraphicsPartItem::Connect(const QVector<TGraphicsItem*>& items)
 {
-    return landing.Connect(Pins(), items);
+    return connector.Connect(Pins(), items);
 }
 
 QVector<TGraphicsItem*> TGraphicsPartItem::Disconnect(const QVector<TGraphicsItem*>& items)
 {
-    return landing.Disconnect(Pins(), items);
+    return connector.Disconnect(Pins(), items);
 }
 
 void TGraphicsPartItem::Describe(TStateText& state) const

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <objects/engine/TWireConnector.h>
 #include <objects/TGraphicsComponentItem.h>
-#include <objects/TLanding.h>
 
 /** A component's symbol, or one of its units, on a schematic page: the parent of its pins, drawings and texts. */
 class TGraphicsPartItem : public TGraphicsComponentItem
@@ -44,5 +44,5 @@ private:
     QString name;
     quint8 swapNumber = 0;
     bool symbolOpen = false;
-    TLanding landing;
+    TWireConnector connector;
 };

@@ -1,11 +1,11 @@
 #include <objects/TGraphicsPinItem.h>
 
-#include <graphics/Shapes.h>
+#include <graphics/engine/Shapes.h>
+#include <graphics/engine/TStateText.h>
 #include <graphics/TGraphicsTextItem.h>
-#include <graphics/TStateText.h>
+#include <objects/engine/TPinContacts.h>
 #include <objects/TGraphicsComponentItem.h>
 #include <objects/TGraphicsSectionItem.h>
-#include <objects/TPinContacts.h>
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <graphics/TGraphicsItem.h>
-#include <objects/TLinkList.h>
+#include <objects/engine/TLinkList.h>
 
 class TGraphicsTextItem;
 

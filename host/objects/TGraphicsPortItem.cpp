@@ -1,7 +1,7 @@
 #include <objects/TGraphicsPortItem.h>
 
-#include <graphics/Shapes.h>
-#include <graphics/TStateText.h>
+#include <graphics/engine/Shapes.h>
+#include <graphics/engine/TStateText.h>
 #include <objects/TGraphicsJunctionItem.h>
 #include <objects/TGraphicsPinItem.h>
 #include <objects/TGraphicsSectionItem.h>

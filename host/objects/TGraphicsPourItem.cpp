@@ -1,9 +1,9 @@
 #include <objects/TGraphicsPourItem.h>
 
-#include <graphics/Shapes.h>
-#include <graphics/TStateText.h>
-#include <objects/DrawingStyle.h>
-#include <objects/TPourFill.h>
+#include <graphics/engine/Shapes.h>
+#include <graphics/engine/TStateText.h>
+#include <objects/engine/DrawingStyle.h>
+#include <objects/engine/TPourFill.h>
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 #include <objects/TGraphicsRatLineItem.h>
 
-#include <graphics/TStateText.h>
-#include <objects/DrawingStyle.h>
+#include <graphics/engine/TStateText.h>
+#include <objects/engine/DrawingStyle.h>
 
 #include <QPainter>
 

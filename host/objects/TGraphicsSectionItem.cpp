@@ -1,8 +1,8 @@
 #include <objects/TGraphicsSectionItem.h>
 
-#include <graphics/Shapes.h>
+#include <graphics/engine/Shapes.h>
+#include <graphics/engine/TStateText.h>
 #include <graphics/TItemScene.h>
-#include <graphics/TStateText.h>
 
 #include <algorithm>
 

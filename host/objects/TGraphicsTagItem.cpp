@@ -1,6 +1,6 @@
 #include <objects/TGraphicsTagItem.h>
 
-#include <graphics/TStateText.h>
+#include <graphics/engine/TStateText.h>
 
 TGraphicsTagItem::TGraphicsTagItem(QGraphicsItem* parent) : TGraphicsTextItem(parent)
 {

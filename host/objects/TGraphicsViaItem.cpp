@@ -1,7 +1,7 @@
 #include <objects/TGraphicsViaItem.h>
 
-#include <graphics/TStateText.h>
-#include <objects/DrawingStyle.h>
+#include <graphics/engine/TStateText.h>
+#include <objects/engine/DrawingStyle.h>
 #include <objects/TGraphicsSectionItem.h>
 #include <workspace/TWorkspace.h>
 

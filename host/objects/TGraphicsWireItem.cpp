@@ -1,6 +1,6 @@
 #include <objects/TGraphicsWireItem.h>
 
-#include <graphics/TStateText.h>
+#include <graphics/engine/TStateText.h>
 
 #include <QPainter>
 

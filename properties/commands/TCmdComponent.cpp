@@ -1,7 +1,7 @@
 #include "properties/commands/TCmdComponent.h"
 
 #include "properties/commands/ItemsOfView.h"
-#include "properties/commands/ProjectParts.h"
+#include "properties/commands/ProjectContext.h"
 
 #include <application/TBoard.h>
 #include <application/TSchematic.h>
@@ -29,7 +29,7 @@ void AddParts(TSchematic& schematic, TItemsByNumber& items)
 /** The packages of the board that belong to a component, if the board follows the schematic. */
 void AddPackages(const TProject* project, TItemsByNumber& items)
 {
-    TBoard* board = ProjectParts::IsInStep(project) ? ProjectParts::Board(project) : nullptr;
+    TBoard* board = ProjectContext::IsInSync(project) ? ProjectContext::Board(project) : nullptr;
     if (!board || !board->ConnectivityEnabled()) {
         return;
     }
@@ -73,8 +73,8 @@ void TCmdCmpValue::SetValue(const QStringList& values)
 
 bool TCmdCmpValue::SetValueOfAll(const QStringList& values)
 {
-    TSchematic* schematic = ProjectParts::Schematic(project);
-    TCmpModel* model = ProjectParts::CmpModel(schematic);
+    TSchematic* schematic = ProjectContext::Schematic(project);
+    TCmpModel* model = ProjectContext::CmpModel(schematic);
     if (!model) {
         return false;
     }

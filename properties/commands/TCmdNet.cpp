@@ -1,7 +1,7 @@
 #include "properties/commands/TCmdNet.h"
 
 #include "properties/commands/ItemsOfView.h"
-#include "properties/commands/ProjectParts.h"
+#include "properties/commands/ProjectContext.h"
 
 #include <application/TBoard.h>
 #include <application/TNetModel.h>
@@ -22,7 +22,7 @@ TCmdNetClass::TCmdNetClass(const QString& ofNet, const QString& netClass, TProje
 
 bool TCmdNetClass::KeepOldClass()
 {
-    const TNetModel* model = ProjectParts::NetModel(project);
+    const TNetModel* model = ProjectContext::NetModel(project);
     if (model && !oldClass) {
         oldClass = model->NetClass(net);
     }
@@ -55,8 +55,8 @@ bool TCmdNetClass::Undo()
 
 void TCmdNetClass::SetClass(const QString& ofNet, const QString& netClass)
 {
-    TNetModel* model = ProjectParts::NetModel(project);
-    if (model && ProjectParts::Schematic(project)->IsExistNetClass(netClass)) {
+    TNetModel* model = ProjectContext::NetModel(project);
+    if (model && ProjectContext::Schematic(project)->IsExistNetClass(netClass)) {
         model->SetNetClass(ofNet, netClass);
     }
 }
@@ -69,7 +69,7 @@ TCmdNetColorSch::TCmdNetColorSch(const QString& ofNet, const QColor& color, TSch
 
 bool TCmdNetColorSch::KeepOldColor()
 {
-    const TNetModel* model = ProjectParts::NetModel(schematic);
+    const TNetModel* model = ProjectContext::NetModel(schematic);
     if (model && !oldColor) {
         oldColor = model->ColorSch(model->NetRow(net));
     }
@@ -108,7 +108,7 @@ TCmdNetColorPcb::TCmdNetColorPcb(const QString& ofNet, const QColor& color, TPro
 
 bool TCmdNetColorPcb::KeepOldColor()
 {
-    const TNetModel* model = ProjectParts::NetModel(project);
+    const TNetModel* model = ProjectContext::NetModel(project);
     if (model && !oldColor) {
         oldColor = model->ColorPcb(model->NetRow(net));
     }
@@ -141,12 +141,12 @@ bool TCmdNetColorPcb::Undo()
 
 void TCmdNetColorPcb::SetColor(const QString& ofNet, const QColor& color)
 {
-    TNetModel* model = ProjectParts::NetModel(project);
+    TNetModel* model = ProjectContext::NetModel(project);
     if (!model || ofNet.isEmpty()) { // The empty name is no net.
         return;
     }
     model->SetColorPcb(ofNet, color);
-    for (TGraphicsItem* item : ItemsOfView(ProjectParts::BoardView(project))) {
+    for (TGraphicsItem* item : ItemsOfView(ProjectContext::BoardView(project))) {
         if (item->Net() == ofNet) {
             item->SetAltColor(color);
         }
@@ -162,7 +162,7 @@ TCmdNetPrio::TCmdNetPrio(const QStringList& ofNets, const QString& level, TProje
 
 bool TCmdNetPrio::KeepOldLevels()
 {
-    const TNetModel* model = ProjectParts::NetModel(project);
+    const TNetModel* model = ProjectContext::NetModel(project);
     if (model && oldLevels.isEmpty()) {
         for (const QString& net : qAsConst(nets)) {
             oldLevels.append(model->Priority(net));
@@ -204,17 +204,17 @@ void TCmdNetPrio::SetLevels(const QStringList& levels)
     for (int i = nets.size() - 1; i >= 0; --i) { // Backwards: of a net that is listed twice the first entry counts.
         levelOfNet.insert(nets.at(i), levels.at(i));
     }
-    TNetModel* model = ProjectParts::NetModel(project);
+    TNetModel* model = ProjectContext::NetModel(project);
     for (const QString& net : qAsConst(nets)) {
         model->SetPriority(net, levelOfNet.value(net));
     }
-    for (TGraphicsItem* item : ItemsOfView(ProjectParts::BoardView(project), {ItemType::RatLine})) {
+    for (TGraphicsItem* item : ItemsOfView(ProjectContext::BoardView(project), {ItemType::RatLine})) {
         const auto level = levelOfNet.constFind(item->Net());
         if (level != levelOfNet.constEnd()) {
             static_cast<TGraphicsRatLineItem*>(item)->SetPriority(*level);
         }
     }
-    if (TBoard* board = ProjectParts::Board(project)) {
+    if (TBoard* board = ProjectContext::Board(project)) {
         constexpr int allLevels = -1;
         board->RatPriority(allLevels);
     }

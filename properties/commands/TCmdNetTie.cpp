@@ -1,7 +1,7 @@
 #include "properties/commands/TCmdNetTie.h"
 
 #include "properties/commands/ItemsOfView.h"
-#include "properties/commands/ProjectParts.h"
+#include "properties/commands/ProjectContext.h"
 
 #include <application/TSchematic.h>
 
@@ -25,18 +25,18 @@ bool TCmdNetTieBase::Undo()
 
 bool TCmdNetTieBase::HasSchematic() const
 {
-    return ProjectParts::Schematic(project) != nullptr;
+    return ProjectContext::Schematic(project) != nullptr;
 }
 
 bool TCmdNetTieBase::HasBoardView() const
 {
-    return ProjectParts::BoardView(project) != nullptr;
+    return ProjectContext::BoardView(project) != nullptr;
 }
 
 QList<TGraphicsNetTieSchItem*> TCmdNetTieBase::GetNetTiesOnSch() const
 {
     QList<TGraphicsNetTieSchItem*> ties;
-    if (TSchematic* schematic = ProjectParts::Schematic(project)) {
+    if (TSchematic* schematic = ProjectContext::Schematic(project)) {
         schematic->SaveTopItemsFromWorkspace();
         for (TGraphicsItem* item : schematic->Items()) {
             if (item->type() == ItemType::NetTieSch) {
@@ -50,7 +50,7 @@ QList<TGraphicsNetTieSchItem*> TCmdNetTieBase::GetNetTiesOnSch() const
 QList<TGraphicsNetTiePcbItem*> TCmdNetTieBase::GetNetTiesOnPcb() const
 {
     QList<TGraphicsNetTiePcbItem*> ties;
-    for (TGraphicsItem* item : ItemsOfView(ProjectParts::BoardView(project), {ItemType::NetTiePcb})) {
+    for (TGraphicsItem* item : ItemsOfView(ProjectContext::BoardView(project), {ItemType::NetTiePcb})) {
         ties.append(static_cast<TGraphicsNetTiePcbItem*>(item));
     }
     return ties;
@@ -91,16 +91,16 @@ bool TNetTieCommand<Attribute>::WriteAll(ValueAt valueAt)
     if (oldValues.isEmpty()) { // The list of all ties would have the schematic save its pages.
         return false;
     }
-    const bool inStep = ProjectParts::IsInStep(project);
+    const bool inSync = ProjectContext::IsInSync(project);
     bool isThere = false;
     if constexpr (Attribute::sides != TieSides::Board) {
-        if ((madeOnSchematic || inStep) && HasSchematic()) {
+        if ((madeOnSchematic || inSync) && HasSchematic()) {
             Write(GetNetTiesOnSch(), valueAt);
             isThere = true;
         }
     }
     if constexpr (Attribute::sides != TieSides::Schematic) {
-        if ((!madeOnSchematic || inStep) && HasBoardView()) {
+        if ((!madeOnSchematic || inSync) && HasBoardView()) {
             Write(GetNetTiesOnPcb(), valueAt);
             isThere = true;
         }

@@ -1,7 +1,7 @@
 #include "properties/commands/TCmdPackage.h"
 
 #include "properties/commands/EachOnce.h"
-#include "properties/commands/ProjectParts.h"
+#include "properties/commands/ProjectContext.h"
 #include "properties/commands/TExistingItems.h"
 #include "properties/commands/TUniqueNumbers.h"
 
@@ -110,7 +110,7 @@ bool TCmdPkgSide::Undo()
 
 TCmdPackageRefDes::TCmdPackageRefDes(const QString& text, TProject* ofProject) : newText(text), project(ofProject)
 {
-    for (TGraphicsItem* item : ItemsOfView(ProjectParts::BoardView(project), {ItemType::Package})) {
+    for (TGraphicsItem* item : ItemsOfView(ProjectContext::BoardView(project), {ItemType::Package})) {
         auto* package = static_cast<TGraphicsPackageItem*>(item);
         if (package->HasTFlag(TGraphicsItem::Selected) && !BelongsToSchematic(*package)) {
             items.append(package);
@@ -127,12 +127,12 @@ TCommandKind TCmdPackageRefDes::Kind() const
 
 bool TCmdPackageRefDes::BelongsToSchematic(const TGraphicsPackageItem& package) const
 {
-    return ProjectParts::IsInStep(project) && package.ComponentNumber() != 0;
+    return ProjectContext::IsInSync(project) && package.ComponentNumber() != 0;
 }
 
 void TCmdPackageRefDes::ExistItems()
 {
-    const TExistingItems existing(ProjectParts::BoardView(project));
+    const TExistingItems existing(ProjectContext::BoardView(project));
     existing.KeepOnlyExisting({ItemType::Package}, items, oldTexts);
 }
 
@@ -143,7 +143,7 @@ void TCmdPackageRefDes::Write(TGraphicsPackageItem& package, const QString& text
 
 bool TCmdPackageRefDes::Do()
 {
-    if (!ProjectParts::BoardView(project)) {
+    if (!ProjectContext::BoardView(project)) {
         return false;
     }
     ExistItems();
@@ -157,7 +157,7 @@ bool TCmdPackageRefDes::Do()
 
 bool TCmdPackageRefDes::Undo()
 {
-    if (!ProjectParts::BoardView(project)) {
+    if (!ProjectContext::BoardView(project)) {
         return false;
     }
     ExistItems();

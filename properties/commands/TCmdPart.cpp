@@ -1,7 +1,7 @@
 #include "properties/commands/TCmdPart.h"
 
 #include "properties/commands/EachOnce.h"
-#include "properties/commands/ProjectParts.h"
+#include "properties/commands/ProjectContext.h"
 #include "properties/commands/TUniqueNumbers.h"
 
 #include <application/TBoard.h>
@@ -28,7 +28,7 @@ TCommandKind TCmdPartConnect::Kind() const
 void TCmdPartConnect::UpdatePCB()
 {
     // Intended: the board is asked even when there are no parts.
-    TBoard* board = ProjectParts::IsInStep(project) ? ProjectParts::Board(project) : nullptr;
+    TBoard* board = ProjectContext::IsInSync(project) ? ProjectContext::Board(project) : nullptr;
     if (board && board->ConnectivityEnabled()) {
         board->UpdatePadNets(components);
     }

@@ -2,7 +2,7 @@
 
 #include "properties/commands/AttributeCommandEngine.h"
 
-#include "properties/commands/ProjectParts.h"
+#include "properties/commands/ProjectContext.h"
 #include "properties/commands/TUniqueNumbers.h"
 
 #include <application/TBoard.h>
@@ -52,7 +52,7 @@ TCommandKind TCmdPortName::Kind() const
 
 bool TCmdPortName::Do()
 {
-    TNetModel* model = ProjectParts::NetModel(schematic);
+    TNetModel* model = ProjectContext::NetModel(schematic);
     if (!model) {
         return false;
     }
@@ -111,7 +111,7 @@ void TCmdPortName::DeleteUnused(const QStringList& nets, TNetModel& model)
 
 bool TCmdPortName::Undo()
 {
-    TNetModel* model = ProjectParts::NetModel(schematic);
+    TNetModel* model = ProjectContext::NetModel(schematic);
     if (!model) {
         return false;
     }
@@ -146,14 +146,14 @@ void TCmdPortName::GiveOldNames(const TNetModel& model)
 
 void TCmdPortName::UpdateBoardInStep()
 {
-    if (ProjectParts::IsInStep(schematic->Project())) {
+    if (ProjectContext::IsInSync(schematic->Project())) {
         UpdatePCB();
     }
 }
 
 void TCmdPortName::UpdatePCB()
 {
-    TBoard* board = schematic ? ProjectParts::Board(schematic->Project()) : nullptr;
+    TBoard* board = schematic ? ProjectContext::Board(schematic->Project()) : nullptr;
     if (board && board->ConnectivityEnabled()) {
         board->UpdatePadNets(ConnectedNumbers());
     }

@@ -2,7 +2,7 @@
 
 #include "properties/commands/AttributeCommandEngine.h"
 #include "properties/commands/TDetachedItem.h"
-#include "properties/commands/TMadeItems.h"
+#include "properties/commands/TRecreatedItems.h"
 
 #include <objects/TGraphicsJunctionItem.h>
 
@@ -54,7 +54,7 @@ void TCmdWireWidth::SetWireWidth(TGraphicsWireItem* wire, double width)
 }
 
 TCmdWireAddNode::TCmdWireAddNode(TGraphicsWireItem* ofWire, const QPointF& point)
-    : wire(ofWire), made(std::make_unique<TMadeItems<TGraphicsWireItem>>())
+    : wire(ofWire), made(std::make_unique<TRecreatedItems<TGraphicsWireItem>>())
 {
     if (!wire) {
         return;

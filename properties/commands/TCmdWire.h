@@ -13,7 +13,7 @@
 template <class Item>
 class TDetachedItem;
 template <class Item>
-class TMadeItems;
+class TRecreatedItems;
 
 namespace Attributes PROPERTIES_EXPORT {
 
@@ -60,7 +60,7 @@ protected:
 private:
     TGraphicsWireItem* wire;
     TGraphicsWireItem* newWire = nullptr; ///< Null until redo and after undo.
-    std::unique_ptr<TMadeItems<TGraphicsWireItem>> made;
+    std::unique_ptr<TRecreatedItems<TGraphicsWireItem>> made;
     QPointF node;
 };
 

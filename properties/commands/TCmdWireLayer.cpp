@@ -1,8 +1,8 @@
 #include "properties/commands/TCmdWireLayer.h"
 
-#include "properties/commands/ProjectParts.h"
+#include "properties/commands/ProjectContext.h"
 #include "properties/commands/TDetachedItem.h"
-#include "properties/commands/TMadeItems.h"
+#include "properties/commands/TRecreatedItems.h"
 #include "properties/commands/Units.h"
 
 #include <application/TBoard.h>
@@ -30,9 +30,9 @@ struct TCmdWireLayer::ReplacedJunction
 };
 
 TCmdWireLayer::TCmdWireLayer(TProject* ofProject, const QList<TGraphicsWireItem*>& given, Osmirel::Layer layer)
-    : project(ofProject), newLayer(layer), madeVias(std::make_unique<TMadeItems<TGraphicsViaItem>>())
+    : project(ofProject), newLayer(layer), madeVias(std::make_unique<TRecreatedItems<TGraphicsViaItem>>())
 {
-    TBoard* board = ProjectParts::Board(project);
+    TBoard* board = ProjectContext::Board(project);
     if (!board) {
         return;
     }
@@ -56,7 +56,7 @@ TCmdWireLayer::~TCmdWireLayer() = default;
 
 bool TCmdWireLayer::Do()
 {
-    if (!ProjectParts::Board(project)) {
+    if (!ProjectContext::Board(project)) {
         return false;
     }
     madeVias->StartOver();
@@ -71,7 +71,7 @@ bool TCmdWireLayer::Do()
 
 bool TCmdWireLayer::Undo()
 {
-    if (!ProjectParts::Board(project)) {
+    if (!ProjectContext::Board(project)) {
         return false;
     }
     for (int i = 0; i < wires.size(); ++i) {
@@ -81,7 +81,7 @@ bool TCmdWireLayer::Undo()
     MoveJunctionsBack();
     RelinkCutWires();
     PutJunctionsBack();
-    if (ProjectParts::IsInStep(project) && !netsToRefresh.isEmpty()) {
+    if (ProjectContext::IsInSync(project) && !netsToRefresh.isEmpty()) {
         UpdateRats();
     }
     while (!replacedJunctions.empty()) {
@@ -220,7 +220,7 @@ void TCmdWireLayer::CutFromCopperWithoutLayer(TGraphicsWireItem& wire, bool atFi
     }
     cutWires.append({&wire, atFirst, &copper});
     wire.Unlink(End(atFirst)); // This end and no other: both may be linked here.
-    if (!ProjectParts::IsInStep(project)) {
+    if (!ProjectContext::IsInSync(project)) {
         return;
     }
     NoteNet(wire);
@@ -250,7 +250,7 @@ void TCmdWireLayer::NoteNet(TGraphicsSectionItem& section)
 
 void TCmdWireLayer::UpdateRats()
 {
-    if (TBoard* board = ProjectParts::Board(project)) {
+    if (TBoard* board = ProjectContext::Board(project)) {
         board->UpdateRats(netsToRefresh);
     }
 }

@@ -16,7 +16,7 @@
 #include <vector>
 
 template <class Item>
-class TMadeItems;
+class TRecreatedItems;
 class QSettings;
 class TGraphicsJunctionItem;
 class TGraphicsSectionItem;
@@ -92,7 +92,7 @@ private:
     QSet<const TGraphicsItem*> moving; ///< The wires, to be found quickly.
     Osmirel::Layer newLayer;
 
-    std::unique_ptr<TMadeItems<TGraphicsViaItem>> madeVias;
+    std::unique_ptr<TRecreatedItems<TGraphicsViaItem>> madeVias;
 
     // What redo did; empty before redo and after undo.
     QList<TGraphicsViaItem*> insertedVias;

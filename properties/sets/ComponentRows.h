@@ -15,7 +15,7 @@ inline QString NameWithoutQualifier(const QString& packageName)
 }
 
 /** Shows a text that all components share, and does not open for editing. */
-inline void ShowReadOnly(TPropertyText& row, const TGathered<QString>& values)
+inline void ShowReadOnly(TPropertyText& row, const TCommonValue<QString>& values)
 {
     RowValues::Show(row, values);
     row.line->SetEditable(false);
@@ -24,12 +24,12 @@ inline void ShowReadOnly(TPropertyText& row, const TGathered<QString>& values)
 /** What the sets show of the components of their items. */
 struct Values
 {
-    TGathered<QString> refDes;
-    TGathered<QString> value;
-    TGathered<QString> package;
-    TGathered<QString> id;
-    TGathered<bool> lockRefDes;
-    TGathered<bool> lockValue;
+    TCommonValue<QString> refDes;
+    TCommonValue<QString> value;
+    TCommonValue<QString> package;
+    TCommonValue<QString> id;
+    TCommonValue<bool> lockRefDes;
+    TCommonValue<bool> lockValue;
 
     void Add(const TGraphicsComponentItem& item)
     {

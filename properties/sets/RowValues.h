@@ -9,7 +9,7 @@
 #include "properties/rows/TPropertyPenStyle.h"
 #include "properties/rows/TPropertySize.h"
 #include "properties/rows/TPropertyText.h"
-#include "properties/sets/TGathered.h"
+#include "properties/sets/TCommonValue.h"
 
 #include <workspace/TDoubleSpinBox.h>
 
@@ -54,37 +54,37 @@ void ShowIfShared(Row& row, bool allEqual, Show show, TAbstractProperty::Value v
 }
 
 template <class Value>
-void Show(TPropertyEnum& row, const TGathered<Value>& values)
+void Show(TPropertyEnum& row, const TCommonValue<Value>& values)
 {
     ShowIfShared(row, values.AllEqual(), [&] { row.SetCurrentEnum(static_cast<int>(values.First())); });
 }
 
-inline void Show(TPropertyEnum& row, const TGathered<QString>& values)
+inline void Show(TPropertyEnum& row, const TCommonValue<QString>& values)
 {
     ShowIfShared(row, values.AllEqual(), [&] { row.SetCurrentText(values.First()); });
 }
 
-inline void Show(TPropertyLayer& row, const TGathered<Osmirel::Layer>& values)
+inline void Show(TPropertyLayer& row, const TCommonValue<Osmirel::Layer>& values)
 {
     ShowIfShared(row, values.AllEqual(), [&] { row.SetCurrentLayer(values.First()); });
 }
 
-inline void Show(TPropertyText& row, const TGathered<QString>& values)
+inline void Show(TPropertyText& row, const TCommonValue<QString>& values)
 {
     ShowIfShared(row, values.AllEqual(), [&] { row.line->setText(values.First()); });
 }
 
-inline void Show(TPropertyPenStyle& row, const TGathered<Qt::PenStyle>& values)
+inline void Show(TPropertyPenStyle& row, const TCommonValue<Qt::PenStyle>& values)
 {
     ShowIfShared(row, values.AllEqual(), [&] { row.SetCurrentPenStyle(values.First()); });
 }
 
-inline void Show(TPropertyCheck& row, const TGathered<bool>& values)
+inline void Show(TPropertyCheck& row, const TCommonValue<bool>& values)
 {
     ShowIfShared(row, values.AllEqual(), [&] { row.SetCurrentState(values.First()); });
 }
 
-inline void Show(TPropertyCheck2& row, const TGathered<bool>& first, const TGathered<bool>& second)
+inline void Show(TPropertyCheck2& row, const TCommonValue<bool>& first, const TCommonValue<bool>& second)
 {
     ShowIfShared(row, first.AllEqual(), [&] { row.SetChecked1(first.First()); });
     ShowIfShared(
@@ -92,14 +92,14 @@ inline void Show(TPropertyCheck2& row, const TGathered<bool>& first, const TGath
 }
 
 /** The "Show" box of a text row. */
-inline void ShowVisible(TPropertyText& row, const TGathered<bool>& values)
+inline void ShowVisible(TPropertyText& row, const TCommonValue<bool>& values)
 {
     row.visible->show();
     row.visible->setChecked(values.AllEqual() && values.First());
 }
 
 /** The enable box of a number row. */
-inline void ShowCheck(TPropertyFloatSpin& row, const TGathered<bool>& values)
+inline void ShowCheck(TPropertyFloatSpin& row, const TCommonValue<bool>& values)
 {
     row.check->show();
     ShowIfShared(

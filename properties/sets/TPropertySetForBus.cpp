@@ -21,7 +21,7 @@ struct Buses
 TPropertySetForBus::TPropertySetForBus(QList<TGraphicsItem*> selection)
     : TPropertySet(tr("Bus")), buses(Selection::Pick<Buses, TGraphicsBusItem>(selection))
 {
-    TGathered<QString> names;
+    TCommonValue<QString> names;
     for (const TGraphicsBusItem* bus : qAsConst(buses)) {
         names.Add(bus->Name());
     }

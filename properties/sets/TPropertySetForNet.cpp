@@ -1,6 +1,6 @@
 #include "properties/sets/TPropertySetForNet.h"
 
-#include "properties/commands/ProjectParts.h"
+#include "properties/commands/ProjectContext.h"
 #include "properties/commands/TCmdNet.h"
 #include "properties/rows/TPropertyColor.h"
 #include "properties/sets/RowValues.h"
@@ -13,7 +13,7 @@
 TPropertySetForNet::TPropertySetForNet(QList<TGraphicsItem*> selection, TSchematic* ofSchematic)
     : TPropertySet(Selection::IsSingle(selection) ? tr("Net") : tr("Nets")), schematic(ofSchematic)
 {
-    TGathered<QString> names;
+    TCommonValue<QString> names;
     QSet<QString> known;
     const QList<TGraphicsItem*> wires = Selection::Pick<Attributes::OfKind<ItemType::NetWire>>(selection);
     for (const TGraphicsItem* wire : wires) {
@@ -32,7 +32,7 @@ TPropertySetForNet::TPropertySetForNet(QList<TGraphicsItem*> selection, TSchemat
 
 void TPropertySetForNet::MakeRows(bool onOneNet)
 {
-    const TNetModel& model = *ProjectParts::NetModel(schematic);
+    const TNetModel& model = *ProjectContext::NetModel(schematic);
 
     net = NewRow<TPropertyText>(tr("Net:"), netName, false);
     net->line->SetEditable(false);
@@ -56,7 +56,7 @@ void TPropertySetForNet::MakeRows(bool onOneNet)
 
 bool TPropertySetForNet::HasNet() const
 {
-    return ProjectParts::NetModel(schematic) && !netName.isEmpty();
+    return ProjectContext::NetModel(schematic) && !netName.isEmpty();
 }
 
 void TPropertySetForNet::slotSetClass(QString newClass)

@@ -10,7 +10,7 @@
 
 struct TPropertySetForPackage::Values : ComponentRows::Values
 {
-    TGathered<Osmirel::Layer> side;
+    TCommonValue<Osmirel::Layer> side;
 
     void Add(const TGraphicsPackageItem& item)
     {

@@ -16,14 +16,14 @@ struct TPropertySetForPad::Values
     double maskClearance;
     double pasteClearance;
     // Shown when all pads agree.
-    TGathered<QString> number;
-    TGathered<QString> name;
-    TGathered<Osmirel::Layer> side;
-    TGathered<bool> smd;
-    TGathered<TGraphicsPadItem::TypePadShape> shape;
-    TGathered<TGraphicsViaItem::TypeThermal> thermal;
-    TGathered<bool> maskEnable;
-    TGathered<bool> pasteEnable;
+    TCommonValue<QString> number;
+    TCommonValue<QString> name;
+    TCommonValue<Osmirel::Layer> side;
+    TCommonValue<bool> smd;
+    TCommonValue<TGraphicsPadItem::TypePadShape> shape;
+    TCommonValue<TGraphicsViaItem::TypeThermal> thermal;
+    TCommonValue<bool> maskEnable;
+    TCommonValue<bool> pasteEnable;
 
     explicit Values(const TGraphicsPadItem& first);
     void Add(const TGraphicsPadItem& pad);

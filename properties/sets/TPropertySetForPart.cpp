@@ -8,8 +8,8 @@
 
 struct TPropertySetForPart::Values : ComponentRows::Values
 {
-    TGathered<QString> name;
-    TGathered<quint8> swap; ///< Shown as the first part's.
+    TCommonValue<QString> name;
+    TCommonValue<quint8> swap; ///< Shown as the first part's.
 
     void Add(const TGraphicsPartItem& item)
     {
@@ -32,7 +32,7 @@ TPropertySetForPart::TPropertySetForPart(QList<TGraphicsItem*> selection)
     }
 }
 
-TPropertyText* TPropertySetForPart::NewDisplay(const QString& label, const TGathered<QString>& values)
+TPropertyText* TPropertySetForPart::NewDisplay(const QString& label, const TCommonValue<QString>& values)
 {
     auto* row = NewRow<TPropertyText>(label, QString(), false);
     ComponentRows::ShowReadOnly(*row, values);

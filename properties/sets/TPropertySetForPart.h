@@ -3,7 +3,7 @@
 #include "properties/TPropertySet.h"
 
 template <class Value>
-class TGathered;
+class TCommonValue;
 class TGraphicsPartItem;
 class TPropertyCheck2;
 class TPropertyIntSpin;
@@ -27,7 +27,7 @@ private:
     struct Values;
     void MakeRows(const Values& values);
     /** A row that shows what all parts share and cannot be edited. */
-    TPropertyText* NewDisplay(const QString& label, const TGathered<QString>& values);
+    TPropertyText* NewDisplay(const QString& label, const TCommonValue<QString>& values);
 
     QList<TGraphicsPartItem*> parts;
     QPointer<TPropertyText> refDes;

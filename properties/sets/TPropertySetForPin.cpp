@@ -9,14 +9,14 @@
 
 struct TPropertySetForPin::Values
 {
-    TGathered<QString> name;
-    TGathered<bool> nameVisible;
-    TGathered<QString> number;
-    TGathered<bool> numberVisible;
-    TGathered<int> type;
-    TGathered<int> style;
-    TGathered<int> length;
-    TGathered<int> swap;
+    TCommonValue<QString> name;
+    TCommonValue<bool> nameVisible;
+    TCommonValue<QString> number;
+    TCommonValue<bool> numberVisible;
+    TCommonValue<int> type;
+    TCommonValue<int> style;
+    TCommonValue<int> length;
+    TCommonValue<int> swap;
 
     void Add(const TGraphicsPinItem& pin);
 };

@@ -1,6 +1,6 @@
 #include "properties/sets/TPropertySetForPort.h"
 
-#include "properties/commands/ProjectParts.h"
+#include "properties/commands/ProjectContext.h"
 #include "properties/commands/TCmdPort.h"
 #include "properties/sets/RowValues.h"
 #include "properties/sets/Selection.h"
@@ -12,8 +12,8 @@ TPropertySetForPort::TPropertySetForPort(QList<TGraphicsItem*> selection, TSchem
       ports(Selection::Pick<Attributes::OfKind<ItemType::Port>, TGraphicsPortItem>(selection)),
       schematic(ofSchematic)
 {
-    TGathered<QString> names;
-    TGathered<bool> visible;
+    TCommonValue<QString> names;
+    TCommonValue<bool> visible;
     for (const TGraphicsPortItem* port : qAsConst(ports)) {
         names.Add(port->Name());
         visible.Add(port->NameVisible());
@@ -31,7 +31,7 @@ TPropertySetForPort::TPropertySetForPort(QList<TGraphicsItem*> selection, TSchem
 
 void TPropertySetForPort::SetName(QString newName)
 {
-    const TNetModel* model = ProjectParts::NetModel(schematic);
+    const TNetModel* model = ProjectContext::NetModel(schematic);
     const QColor color = model ? model->ColorSch(model->NetRow(newName)) : QColor();
     // Intended: the direct write leaves the net model and the board as they are.
     EditBy(

@@ -26,10 +26,10 @@ struct EditedPrimitives
 struct TPropertySetForPrimitives::Values
 {
     double lineWidth = 0; ///< The first item's.
-    TGathered<Qt::PenStyle> lineStyle;
-    TGathered<Osmirel::Layer> layer;
-    TGathered<QColor> color;
-    TGathered<Qt::BrushStyle> fillStyle; ///< Of the closed shapes only.
+    TCommonValue<Qt::PenStyle> lineStyle;
+    TCommonValue<Osmirel::Layer> layer;
+    TCommonValue<QColor> color;
+    TCommonValue<Qt::BrushStyle> fillStyle; ///< Of the closed shapes only.
     bool hasFilled = false;
 
     void Add(const TGraphicsPenItem& item);

@@ -17,16 +17,16 @@ struct TPropertySetForText::Values
     bool outlines = false; ///< The first text's.
     double lineWidth = 0;  ///< The last text's, and that is intended.
     bool onlyAngleAndLine = false;
-    TGathered<QString> family;
-    TGathered<int> size;
-    TGathered<bool> bold;
-    TGathered<bool> italic;
-    TGathered<Qt::AlignmentFlag> alignment;
-    TGathered<int> angle;
-    TGathered<bool> mirrorH;
-    TGathered<bool> mirrorV;
-    TGathered<Osmirel::Layer> layer;
-    TGathered<QColor> color;
+    TCommonValue<QString> family;
+    TCommonValue<int> size;
+    TCommonValue<bool> bold;
+    TCommonValue<bool> italic;
+    TCommonValue<Qt::AlignmentFlag> alignment;
+    TCommonValue<int> angle;
+    TCommonValue<bool> mirrorH;
+    TCommonValue<bool> mirrorV;
+    TCommonValue<Osmirel::Layer> layer;
+    TCommonValue<QColor> color;
 
     void Add(const TGraphicsTextItem& text);
 };

@@ -14,8 +14,8 @@ struct TPropertySetForVia::Values
     double maskClearance;
     TGraphicsViaItem::TypeThermal thermal;
     // Shown when all vias agree.
-    TGathered<QString> group;
-    TGathered<bool> maskEnable;
+    TCommonValue<QString> group;
+    TCommonValue<bool> maskEnable;
 
     explicit Values(const TGraphicsViaItem& first);
     void Add(const TGraphicsViaItem& via);

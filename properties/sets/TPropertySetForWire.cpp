@@ -1,6 +1,6 @@
 #include "properties/sets/TPropertySetForWire.h"
 
-#include "properties/commands/ProjectParts.h"
+#include "properties/commands/ProjectContext.h"
 #include "properties/commands/TCmdNet.h"
 #include "properties/commands/TCmdWire.h"
 #include "properties/commands/TCmdWireLayer.h"
@@ -80,12 +80,12 @@ void TPropertySetForWire::MakeNetRows()
     net = NewRow<TPropertyText>(tr("Net:"), onOneNet ? netName : QString(), false);
     net->line->SetEditable(false);
     net->SetMixed(!onOneNet);
-    if (!ProjectParts::Schematic(project)) {
+    if (!ProjectContext::Schematic(project)) {
         return;
     }
     MakeNetClassRow(onOneNet);
 
-    const TNetModel* model = ProjectParts::NetModel(project);
+    const TNetModel* model = ProjectContext::NetModel(project);
     color = NewRow<TPropertyColor>(tr("Color:"), model ? model->ColorPcb(model->NetRow(netName)) : QColor());
     color->SetEnabled(onOneNet);
     connect(color, SIGNAL(sigColorChanged(QColor)), this, SLOT(SetColor(QColor)));
@@ -93,7 +93,7 @@ void TPropertySetForWire::MakeNetRows()
 
 void TPropertySetForWire::MakeNetClassRow(bool onOneNet)
 {
-    const TSchematic* schematic = ProjectParts::Schematic(project);
+    const TSchematic* schematic = ProjectContext::Schematic(project);
     netClass = NewRow<TPropertyEnum>(tr("Net class:"), schematic->NetClassNames());
     const std::optional<QString> className = schematic->NetClass(netName);
     if (className) {
@@ -105,7 +105,7 @@ void TPropertySetForWire::MakeNetClassRow(bool onOneNet)
 
 bool TPropertySetForWire::ShowsNetRows() const
 {
-    return ProjectParts::IsInStep(project) && !netName.isEmpty();
+    return ProjectContext::IsInSync(project) && !netName.isEmpty();
 }
 
 bool TPropertySetForWire::IsOnOneNet() const

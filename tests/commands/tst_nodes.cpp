@@ -170,22 +170,22 @@ private slots:
         QFETCH(QByteArray, kind);
         Test::Network board;
         auto* wire = board.Wire({0, 0}, {100, 0});
-        TGraphicsItem* meeting = wire;
+        TGraphicsItem* point = wire;
         if (kind == "another wire") {
-            meeting = board.Wire({100, 0}, {0, 0});
+            point = board.Wire({100, 0}, {0, 0});
         } else if (kind != "itself") {
-            meeting = kind == "via" ? static_cast<TGraphicsItem*>(board.Via({0, 0})) : board.Junction({0, 0});
+            point = kind == "via" ? static_cast<TGraphicsItem*>(board.Via({0, 0})) : board.Junction({0, 0});
         }
-        wire->LinkToFirst(meeting);
-        wire->LinkToLast(meeting);
+        wire->LinkToFirst(point);
+        wire->LinkToLast(point);
         QCOMPARE(wire->Links().size(), 2);
         TCmdWireAddNode command(wire, {40, 0});
         Test::CheckBothWays(command, board);
         command.redo();
         TGraphicsWireItem* added = NextOf(wire);
         QVERIFY(added && added != wire);
-        QCOMPARE(wire->FirstLink(), kind == "itself" ? added : meeting);
-        QCOMPARE(added->LastLink(), meeting);
+        QCOMPARE(wire->FirstLink(), kind == "itself" ? added : point);
+        QCOMPARE(added->LastLink(), point);
     }
 
     void severalNodesOnOneWire()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <graphics/TStateText.h>
+#include <graphics/engine/TStateText.h>
 
 #include <QList>
 #include <QPair>

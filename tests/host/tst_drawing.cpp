@@ -2,7 +2,7 @@
 #include "tests/support/TestProgram.h"
 
 #include <graphics/TGraphicsTextItem.h>
-#include <objects/DrawingStyle.h>
+#include <objects/engine/DrawingStyle.h>
 
 #include <QImage>
 #include <QPainter>

@@ -2,8 +2,8 @@
 #include "tests/support/TestProgram.h"
 
 #include <graphics/TGraphicsTextItem.h>
+#include <objects/engine/TWireConnector.h>
 #include <objects/TGraphicsRatLineItem.h>
-#include <objects/TLanding.h>
 
 namespace {
 
@@ -170,20 +170,20 @@ private slots:
         Test::Network board;
         const Part part(board);
         board.Wire({-100, 0}, {100, 0});
-        TLanding landing;
+        TWireConnector connector;
         const Items pads = part.package->Pads();
         QVector<Items> held;
         for (int round = 0; round < 100; ++round) {
-            landing.Connect(pads, {});
-            held.append(landing.Disconnect(pads, {}));
-            landing.Connect(pads, Items(held.last())); // A copy is as good.
-            landing.Disconnect(pads, {});
+            connector.Connect(pads, {});
+            held.append(connector.Disconnect(pads, {}));
+            connector.Connect(pads, Items(held.last())); // A copy is as good.
+            connector.Disconnect(pads, {});
         }
-        QVERIFY(landing.Remembered() >= 100);
-        QVERIFY(landing.Remembered() <= 102);
+        QVERIFY(connector.Remembered() >= 100);
+        QVERIFY(connector.Remembered() <= 102);
         held.clear();
-        landing.Connect(pads, {});
-        QVERIFY(landing.Remembered() < 10); // Whoever has shortened a list may still come with it.
+        connector.Connect(pads, {});
+        QVERIFY(connector.Remembered() < 10); // Whoever has shortened a list may still come with it.
     }
 
     void changingTheSideMirrorsThePadsAndComesBack()

@@ -2,9 +2,9 @@
 #include "tests/support/TestProgram.h"
 
 #include <graphics/TGraphicsTextItem.h>
+#include <objects/engine/TPourFill.h>
 #include <objects/TGraphicsKeepoutItem.h>
 #include <objects/TGraphicsOutlineItem.h>
-#include <objects/TPourFill.h>
 
 #include <QImage>
 #include <QPainter>

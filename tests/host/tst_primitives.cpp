@@ -1,7 +1,7 @@
 #include "tests/host/Network.h"
 #include "tests/support/TestProgram.h"
 
-#include <graphics/Shapes.h>
+#include <graphics/engine/Shapes.h>
 #include <graphics/TGraphicsArcItem.h>
 #include <graphics/TGraphicsEllipseItem.h>
 #include <graphics/TGraphicsLineItem.h>

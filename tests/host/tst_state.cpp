@@ -3,13 +3,13 @@
 #include "tests/support/TestBoard.h"
 #include "tests/support/TestProgram.h"
 
+#include <graphics/engine/TStateText.h>
 #include <graphics/TGraphicsArcItem.h>
 #include <graphics/TGraphicsEllipseItem.h>
 #include <graphics/TGraphicsLineItem.h>
 #include <graphics/TGraphicsPolygonItem.h>
 #include <graphics/TGraphicsPolylineItem.h>
 #include <graphics/TGraphicsTextItem.h>
-#include <graphics/TStateText.h>
 #include <objects/TGraphicsJunctionItem.h>
 #include <objects/TGraphicsKeepoutItem.h>
 #include <objects/TGraphicsNetTiePcbItem.h>

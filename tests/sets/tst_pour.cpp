@@ -82,7 +82,7 @@ const Test::SlotCase<Pours> commandCases[] = {
     {"clearance to pour", [](Set& set) { set.SetClearanceToPour(1.5); },
      [](Set& set) { SpinOf(set, "Clearance to pour:")->setValue(1.5); }, "TCmdPourClPour",
      [](Item& pour) { pour.SetClearanceToPour(Scene(1.5)); }, nullptr, nullptr},
-    {"fill type that there is not", [](Set& set) { set.SetFillType(99); }, nullptr, "TCmdPourFillType", [](Item&) {},
+    {"fill type that there is not", [](Set& set) { set.SetFillType(99); }, nullptr, "TCmdPourFillType", nullptr,
      nullptr, nullptr},
     {"fill type", [](Set& set) { set.SetFillType(9); },
      [](Set& set) { Test::RowOf<TPropertyEnum>(&set, "Fill type:")->Box()->setCurrentText("H-Lines"); },

@@ -24,9 +24,9 @@ struct SlotCase
 
     const char* name;
     void (*callSlot)(Set& set);
-    void (*editRow)(Set& set); ///< The same by the row's editor; null where a user has no way to do it.
-    const char* command;       ///< Class of the command; null for none.
-    void (*redone)(Item& item);
+    void (*editRow)(Set& set);   ///< The same by the row's editor; null where a user has no way to do it.
+    const char* command;         ///< Class of the command; null for none.
+    void (*redone)(Item& item);  ///< Null for a value that is refused.
     void (*written)(Item& item); ///< Null where it is what the command does.
     void (*undone)(Item& item);  ///< Null where undo restores all; otherwise what it does to an item after redo.
 };
@@ -67,7 +67,7 @@ public:
         const QString after = expected.board.Dump();
         log->Redo();
         QCOMPARE(actual.board.Dump(), after);
-        QVERIFY(after != before);
+        QCOMPARE(after != before, tested.redone != nullptr);
 
         log->Undo();
         if (tested.undone) {
@@ -86,14 +86,16 @@ public:
         QCOMPARE(log->Names(), QStringList{});
         Apply(tested.written ? tested.written : tested.redone);
         QCOMPARE(actual.board.Dump(), expected.board.Dump());
-        QCOMPARE(actual.board.Dump() == before, tested.command == nullptr);
+        QCOMPARE(actual.board.Dump() == before, !tested.command || !tested.redone);
     }
 
 private:
     void Apply(void (*write)(typename Design::Item&))
     {
         for (auto* item : expected.items) {
-            write(*item);
+            if (write) {
+                write(*item);
+            }
         }
     }
 

@@ -15,7 +15,10 @@ namespace Test {
  */
 inline QString SourcesOf(const QString& test)
 {
-    const QString folder = QStringLiteral("tests/%1/").arg(test.section(QLatin1Char('.'), 0, 0));
+    const QString area = test.section(QLatin1Char('.'), 0, 0);
+    const bool isOfWorkbench = QDir(SourcePath(QStringLiteral("tests/workbench/%1").arg(area))).exists();
+    const QString folder =
+        (isOfWorkbench ? QStringLiteral("tests/workbench/%1/") : QStringLiteral("tests/%1/")).arg(area);
     const QString own = folder + QStringLiteral("tst_%1.cpp").arg(test.section(QLatin1Char('.'), 1));
     if (!QFile::exists(SourcePath(own))) {
         return {};

@@ -1,9 +1,9 @@
 #include "workbench/importer/BoardImporter.h"
 
+#include "workbench/importer/board/ReadBoard.h"
+#include "workbench/importer/board/TBoardDraft.h"
+#include "workbench/importer/format/TImportError.h"
 #include "workbench/importer/ImportFiles.h"
-#include "workbench/importer/ReadBoard.h"
-#include "workbench/importer/TBoardDraft.h"
-#include "workbench/importer/TImportError.h"
 
 #include <QDir>
 #include <QFileInfo>

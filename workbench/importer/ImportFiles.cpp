@@ -1,6 +1,6 @@
 #include "workbench/importer/ImportFiles.h"
 
-#include "workbench/importer/TImportError.h"
+#include "workbench/importer/format/TImportError.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "workbench/importer/MatchBoard.h"
 
+#include "workbench/importer/board/TBoardDraft.h"
 #include "workbench/importer/schematic/PageItems.h"
-#include "workbench/importer/TBoardDraft.h"
 
 #include <objects/TGraphicsNetTiePcbItem.h>
 #include <objects/TGraphicsPackageItem.h>

@@ -1,11 +1,11 @@
 #include "workbench/importer/ProjectImporter.h"
 
+#include "workbench/importer/board/ReadBoard.h"
+#include "workbench/importer/board/TBoardDraft.h"
+#include "workbench/importer/format/TImportError.h"
 #include "workbench/importer/ImportFiles.h"
 #include "workbench/importer/MatchBoard.h"
-#include "workbench/importer/ReadBoard.h"
 #include "workbench/importer/schematic/BuildSchematic.h"
-#include "workbench/importer/TBoardDraft.h"
-#include "workbench/importer/TImportError.h"
 
 #include <QDir>
 #include <QFileInfo>

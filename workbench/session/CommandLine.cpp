@@ -1,6 +1,6 @@
 #include "workbench/session/CommandLine.h"
 
-#include "workbench/DesignActions.h"
+#include "workbench/editing/DesignActions.h"
 #include "workbench/session/TItemQuery.h"
 #include "workbench/session/TSession.h"
 #include "workbench/session/TSessionError.h"

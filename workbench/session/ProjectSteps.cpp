@@ -1,10 +1,10 @@
 #include "workbench/session/TSession.h"
 
+#include "workbench/design/TDesign.h"
 #include "workbench/session/TSessionError.h"
-#include "workbench/TDesign.h"
-#include "workbench/TDocumentTabs.h"
-#include "workbench/TMainWindow.h"
-#include "workbench/TNavigation.h"
+#include "workbench/window/TDocumentTabs.h"
+#include "workbench/window/TMainWindow.h"
+#include "workbench/window/TNavigation.h"
 
 #include <QUndoStack>
 

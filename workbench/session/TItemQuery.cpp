@@ -1,7 +1,7 @@
 #include "workbench/session/TItemQuery.h"
 
-#include "workbench/Kinds.h"
-#include "workbench/Picking.h"
+#include "workbench/design/Picking.h"
+#include "workbench/editing/Kinds.h"
 #include "workbench/session/TSessionError.h"
 
 #include <QRegularExpression>
@@ -53,7 +53,7 @@ TItemQuery TItemQuery::Parse(const QString& text)
             throw TSessionError(
                 QStringLiteral("\"%1\" is no selection: a kind such as via, or all, with [i] or [i..j]").arg(partText));
         }
-        TPart part;
+        TTerm part;
         part.kind = match.captured(1) == QLatin1String("all") ? QString() : match.captured(1);
         if (match.capturedLength(2) > 0) {
             part.first = match.captured(2).toInt();
@@ -62,7 +62,7 @@ TItemQuery TItemQuery::Parse(const QString& text)
                 throw TSessionError(QStringLiteral("\"%1\" ends before it begins").arg(partText));
             }
         }
-        query.parts.append(part);
+        query.terms.append(part);
     }
     return query;
 }
@@ -72,7 +72,7 @@ QList<TGraphicsItem*> TItemQuery::Find(const QList<TGraphicsItem*>& items, const
     const QList<TGraphicsItem*> all = Picking::Selectable(items);
     QList<TGraphicsItem*> found;
     QSet<TGraphicsItem*> seen;
-    for (const TPart& part : parts) {
+    for (const TTerm& part : terms) {
         const QList<TGraphicsItem*> ofKind = OfKind(part.kind, all, place);
         const int last = part.last < 0 ? ofKind.size() - 1 : part.last;
         if (last >= ofKind.size()) {

@@ -17,19 +17,19 @@ public:
     static TItemQuery Parse(const QString& text);
 
     /**
-     * Those of the items of a document that are meant, in the order of the query's parts, each once. Throws
+     * Those of the items of a document that are meant, in the order of the query's terms, each once. Throws
      * `TSessionError`, with @p place for the document, for a kind that it has no item of, and for a position beyond the
      * last.
      */
     QList<TGraphicsItem*> Find(const QList<TGraphicsItem*>& items, const QString& place) const;
 
 private:
-    struct TPart
+    struct TTerm
     {
         QString kind; ///< Empty for all kinds.
         int first = 0;
         int last = -1; ///< -1 for the last one there is.
     };
 
-    QVector<TPart> parts;
+    QVector<TTerm> terms;
 };

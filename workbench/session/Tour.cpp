@@ -1,9 +1,9 @@
 #include "workbench/session/Tour.h"
 
-#include "workbench/Picking.h"
+#include "workbench/design/Picking.h"
+#include "workbench/design/TDesign.h"
 #include "workbench/session/TSession.h"
-#include "workbench/TDesign.h"
-#include "workbench/TMainWindow.h"
+#include "workbench/window/TMainWindow.h"
 
 #include <QSet>
 

@@ -1,8 +1,8 @@
 #include "workbench/importer/schematic/BuildSchematic.h"
 
-#include "workbench/importer/ElementParts.h"
+#include "workbench/importer/format/ElementValues.h"
+#include "workbench/importer/format/TImportError.h"
 #include "workbench/importer/schematic/PageItems.h"
-#include "workbench/importer/TImportError.h"
 
 #include <QFileInfo>
 
@@ -82,7 +82,7 @@ void AddComponents(TSchematicDraft& draft)
             const quint16 number = draft.numbers.value(PageItems::ComponentKey(symbol));
             if (number != 0 && !PageItems::IsNetTie(symbol) && !draft.schematic.CmpModel()->CmpModelItem(number)) {
                 draft.schematic.CmpModel()->Add(
-                    number, {symbol.reference, symbol.value, ElementParts::PackageName(symbol.footprint), 0});
+                    number, {symbol.reference, symbol.value, ElementValues::PackageName(symbol.footprint), 0});
             }
         }
     }

@@ -1,7 +1,7 @@
-#include "workbench/importer/Measures.h"
+#include "workbench/importer/format/Measures.h"
+#include "workbench/importer/format/ShapeValues.h"
 #include "workbench/importer/schematic/PageItems.h"
 #include "workbench/importer/schematic/TLineFinder.h"
-#include "workbench/importer/ShapeParts.h"
 
 #include <objects/TGraphicsBusEntryItem.h>
 #include <objects/TGraphicsBusItem.h>
@@ -26,15 +26,15 @@ struct TPiece
 };
 
 /** Cuts lines where others meet them, and notes where the pieces end. */
-std::vector<TPiece> Cut(const std::vector<TSheetLine>& lines, TMeetings& meetings)
+std::vector<TPiece> Cut(const std::vector<TSheetLine>& lines, TConnectionPoints& connectionPoints)
 {
     const TLineFinder finder(lines);
     std::vector<QVector<TGridPoint>> cuts(lines.size());
-    for (const TMeeting& meeting : meetings.All()) {
-        if (meeting.CutsLines()) {
-            const QVector<int> over = finder.LinesOver(meeting.place);
+    for (const TConnectionPoint& point : connectionPoints.All()) {
+        if (point.CutsLines()) {
+            const QVector<int> over = finder.LinesOver(point.place);
             for (const int line : over) {
-                cuts[Index(line)].append(meeting.place);
+                cuts[Index(line)].append(point.place);
             }
         }
     }
@@ -51,8 +51,8 @@ std::vector<TPiece> Cut(const std::vector<TSheetLine>& lines, TMeetings& meeting
             if (places[k - 1] != places[k]) {
                 const auto number = static_cast<int>(pieces.size());
                 pieces.push_back({{places[k - 1], places[k]}, static_cast<int>(i), false, nullptr});
-                meetings.At(places[k - 1]).ends.append({number, 0});
-                meetings.At(places[k]).ends.append({number, 1});
+                connectionPoints.At(places[k - 1]).ends.append({number, 0});
+                connectionPoints.At(places[k]).ends.append({number, 1});
             }
         }
     }
@@ -60,14 +60,14 @@ std::vector<TPiece> Cut(const std::vector<TSheetLine>& lines, TMeetings& meeting
 }
 
 /** Turns pieces so that wherever two meet the one ends and the other begins. */
-void TurnHeadToTail(std::vector<TPiece>& pieces, TMeetings& meetings)
+void TurnHeadToTail(std::vector<TPiece>& pieces, TConnectionPoints& connectionPoints)
 {
-    const auto next = [&](const TMeeting::TEnd& leaving) -> std::optional<TMeeting::TEnd> {
-        const TMeeting& meeting = meetings.At(pieces[Index(leaving.line)].places[leaving.end]);
-        if (!meeting.IsBend()) {
+    const auto next = [&](const TConnectionPoint::TEnd& leaving) -> std::optional<TConnectionPoint::TEnd> {
+        const TConnectionPoint& point = connectionPoints.At(pieces[Index(leaving.line)].places[leaving.end]);
+        if (!point.IsBend()) {
             return std::nullopt;
         }
-        return meeting.ends[0].line == leaving.line ? meeting.ends[1] : meeting.ends[0];
+        return point.ends[0].line == leaving.line ? point.ends[1] : point.ends[0];
     };
     std::vector<bool> isDone(pieces.size(), false);
     for (std::size_t i = 0; i < pieces.size(); ++i) {
@@ -75,11 +75,11 @@ void TurnHeadToTail(std::vector<TPiece>& pieces, TMeetings& meetings)
             continue;
         }
         const auto first = static_cast<int>(i);
-        TMeeting::TEnd begin{first, 0};
+        TConnectionPoint::TEnd begin{first, 0};
         for (auto before = next(begin); before && before->line != first; before = next(begin)) {
             begin = {before->line, 1 - before->end};
         }
-        for (std::optional<TMeeting::TEnd> at = begin; at && !isDone[Index(at->line)];
+        for (std::optional<TConnectionPoint::TEnd> at = begin; at && !isDone[Index(at->line)];
              at = next({at->line, 1 - at->end})) {
             isDone[Index(at->line)] = true;
             pieces[Index(at->line)].isTurned = at->end == 1;
@@ -121,8 +121,8 @@ private:
             bus->SetName(page.page.busNames.value(piece.source));
             Place(std::move(bus), piece, file.buses[Index(piece.source)].element, {});
         }
-        for (TMeeting& meeting : page.busMeetings.All()) {
-            LinkEnds(meeting, buses, Osmirel::SchematicBuses, {});
+        for (TConnectionPoint& point : page.busMeetings.All()) {
+            LinkEnds(point, buses, Osmirel::SchematicBuses, {});
         }
     }
 
@@ -136,7 +136,7 @@ private:
             const bool startsOnBus = !finder.LinesOver(entry.start).isEmpty();
             auto item = std::make_unique<TGraphicsBusEntryItem>();
             item->SetLine({Measures::ScenePoint(entry.start), Measures::ScenePoint(entry.end)});
-            if (const double width = ShapeParts::StrokeWidth(entry.element); width > 0) {
+            if (const double width = ShapeValues::StrokeWidth(entry.element); width > 0) {
                 item->SetPenWidth(static_cast<float>(width));
             }
             item->SetAltColor(draft.NetColor(draft.NetName(page.page.entryNets[i])));
@@ -144,7 +144,7 @@ private:
                 item->LinkToBus(BusAt(startsOnBus ? entry.start : entry.end));
             }
             if (!startsOnBus || !endsOnBus) {
-                page.meetings.At(endsOnBus ? entry.start : entry.end).entries.append(item.get());
+                page.connectionPoints.At(endsOnBus ? entry.start : entry.end).entries.append(item.get());
             } else {
                 draft.notShown.Count("further ends of entries between two buses");
             }
@@ -167,18 +167,18 @@ private:
         for (std::size_t i = 0; i < file.junctions.size(); ++i) {
             const TGridPoint place = file.junctions[i].place;
             if (page.page.junctionNets[i] >= 0 || busFinder.LinesOver(place).isEmpty()) {
-                page.meetings.At(place).hasJunction = true;
+                page.connectionPoints.At(place).hasJunction = true;
                 junctionNet.insert(place, draft.NetName(page.page.junctionNets[i]));
             }
         }
-        wires = Cut(file.wires, page.meetings);
-        TurnHeadToTail(wires, page.meetings);
+        wires = Cut(file.wires, page.connectionPoints);
+        TurnHeadToTail(wires, page.connectionPoints);
         for (TPiece& piece : wires) {
             Place(std::make_unique<TGraphicsNetItem>(), piece, file.wires[Index(piece.source)].element,
                   draft.NetName(page.page.wireNets[Index(piece.source)]));
         }
-        for (TMeeting& meeting : page.meetings.All()) {
-            LinkMeeting(meeting);
+        for (TConnectionPoint& point : page.connectionPoints.All()) {
+            LinkMeeting(point);
         }
     }
 
@@ -187,13 +187,13 @@ private:
     {
         item->SetPoint1(Measures::ScenePoint(piece.places[piece.isTurned ? 1 : 0]));
         item->SetPoint2(Measures::ScenePoint(piece.places[piece.isTurned ? 0 : 1]));
-        if (const double width = ShapeParts::StrokeWidth(element); width > 0) {
+        if (const double width = ShapeValues::StrokeWidth(element); width > 0) {
             item->SetPenWidth(static_cast<float>(width));
         }
-        item->Pen().setStyle(ShapeParts::StrokeStyle(element));
+        item->Pen().setStyle(ShapeValues::StrokeStyle(element));
         item->SetNet(net);
         const QColor color = draft.NetColor(net);
-        item->SetAltColor(color.isValid() ? color : ShapeParts::StrokeColor(element));
+        item->SetAltColor(color.isValid() ? color : ShapeValues::StrokeColor(element));
         piece.item = item.get();
         page.target.Attach(std::move(item));
     }
@@ -213,60 +213,60 @@ private:
     }
 
     /** Links ends with each other, over a junction if there is one or if they are more than two. */
-    void LinkEnds(const TMeeting& meeting, std::vector<TPiece>& pieces, Osmirel::Layer layer, const QString& net)
+    void LinkEnds(const TConnectionPoint& point, std::vector<TPiece>& pieces, Osmirel::Layer layer, const QString& net)
     {
-        if (meeting.IsBend()) {
-            const TMeeting::TEnd& one = meeting.ends[0];
-            const TMeeting::TEnd& other = meeting.ends[1];
+        if (point.IsBend()) {
+            const TConnectionPoint::TEnd& one = point.ends[0];
+            const TConnectionPoint::TEnd& other = point.ends[1];
             pieces[Index(one.line)].item->LinkTo(EndOf(pieces[Index(one.line)], one.end),
                                                  pieces[Index(other.line)].item);
-        } else if (meeting.hasJunction || meeting.ends.size() > 1) {
-            LinkEndsTo(AddJunction(meeting.place, layer, net), meeting, pieces);
+        } else if (point.hasJunction || point.ends.size() > 1) {
+            LinkEndsTo(AddJunction(point.place, layer, net), point, pieces);
         }
     }
 
-    static void LinkEndsTo(TGraphicsItem* target, const TMeeting& meeting, std::vector<TPiece>& pieces)
+    static void LinkEndsTo(TGraphicsItem* target, const TConnectionPoint& point, std::vector<TPiece>& pieces)
     {
-        for (const TMeeting::TEnd& end : meeting.ends) {
+        for (const TConnectionPoint::TEnd& end : point.ends) {
             pieces[Index(end.line)].item->LinkTo(EndOf(pieces[Index(end.line)], end.end), target);
         }
     }
 
-    QString NetAt(const TMeeting& meeting) const
+    QString NetAt(const TConnectionPoint& point) const
     {
-        if (!meeting.ends.isEmpty()) {
-            return draft.NetName(page.page.wireNets[Index(wires[Index(meeting.ends.first().line)].source)]);
+        if (!point.ends.isEmpty()) {
+            return draft.NetName(page.page.wireNets[Index(wires[Index(point.ends.first().line)].source)]);
         }
-        return meeting.pins.isEmpty() ? junctionNet.value(meeting.place) : meeting.pins.first().net;
+        return point.pins.isEmpty() ? junctionNet.value(point.place) : point.pins.first().net;
     }
 
-    void LinkMeeting(const TMeeting& meeting)
+    void LinkMeeting(const TConnectionPoint& point)
     {
-        const QString net = NetAt(meeting);
-        LinkPins(meeting);
-        const bool hasEntryOnly = meeting.pins.isEmpty() && !meeting.hasJunction && meeting.entries.size() == 1;
-        if (hasEntryOnly && meeting.ends.size() < 2) {
-            LinkEndsTo(meeting.entries.first(), meeting, wires);
+        const QString net = NetAt(point);
+        LinkPins(point);
+        const bool hasEntryOnly = point.pins.isEmpty() && !point.hasJunction && point.entries.size() == 1;
+        if (hasEntryOnly && point.ends.size() < 2) {
+            LinkEndsTo(point.entries.first(), point, wires);
             return;
         }
-        TGraphicsItem* node = meeting.pins.isEmpty() ? nullptr : meeting.pins.first().item;
-        if (meeting.hasJunction || !node) {
-            const bool needsNode = meeting.hasJunction || !meeting.entries.isEmpty();
-            TGraphicsItem* junction = needsNode ? AddJunction(meeting.place, Osmirel::SchematicNets, net) : nullptr;
+        TGraphicsItem* node = point.pins.isEmpty() ? nullptr : point.pins.first().item;
+        if (point.hasJunction || !node) {
+            const bool needsNode = point.hasJunction || !point.entries.isEmpty();
+            TGraphicsItem* junction = needsNode ? AddJunction(point.place, Osmirel::SchematicNets, net) : nullptr;
             if (junction) {
-                LinkEndsTo(junction, meeting, wires);
+                LinkEndsTo(junction, point, wires);
             } else {
-                LinkEnds(meeting, wires, Osmirel::SchematicNets, net);
+                LinkEnds(point, wires, Osmirel::SchematicNets, net);
             }
             if (junction && node) {
-                AddLink(junction, node, meeting.place, net);
+                AddLink(junction, node, point.place, net);
             }
             node = junction;
         } else {
-            LinkEndsTo(node, meeting, wires);
+            LinkEndsTo(node, point, wires);
         }
-        for (TGraphicsBusEntryItem* entry : meeting.entries) {
-            AddLink(node, entry, meeting.place, net);
+        for (TGraphicsBusEntryItem* entry : point.entries) {
+            AddLink(node, entry, point.place, net);
         }
     }
 
@@ -286,19 +286,19 @@ private:
 
     /** Pins on one place are linked: those of a symbol with the first one, and others each with each. Those that get no
      *  net from a wire or a port know it themselves. */
-    static void LinkPins(const TMeeting& meeting)
+    static void LinkPins(const TConnectionPoint& point)
     {
-        const bool hasPort = std::any_of(meeting.pins.begin(), meeting.pins.end(),
-                                         [](const TMeeting::TPin& pin) { return pin.isOfPort; });
-        for (int i = 0; i < meeting.pins.size(); ++i) {
-            TGraphicsPinItem* pin = meeting.pins[i].item;
+        const bool hasPort = std::any_of(point.pins.begin(), point.pins.end(),
+                                         [](const TConnectionPoint::TPin& pin) { return pin.isOfPort; });
+        for (int i = 0; i < point.pins.size(); ++i) {
+            TGraphicsPinItem* pin = point.pins[i].item;
             for (int k = 0; k < i; ++k) {
-                if (k == 0 || meeting.pins[k].item->parentItem() != pin->parentItem()) {
-                    meeting.pins[k].item->LinkToPin(pin);
+                if (k == 0 || point.pins[k].item->parentItem() != pin->parentItem()) {
+                    point.pins[k].item->LinkToPin(pin);
                 }
             }
-            if (!hasPort && meeting.ends.isEmpty()) {
-                pin->NameNet(meeting.pins[i].net);
+            if (!hasPort && point.ends.isEmpty()) {
+                pin->NameNet(point.pins[i].net);
             }
         }
     }

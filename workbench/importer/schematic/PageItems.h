@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/importer/schematic/TMeetings.h"
+#include "workbench/importer/schematic/TConnectionPoints.h"
 #include "workbench/importer/schematic/TSchematicDraft.h"
 
 #include <functional>
@@ -15,9 +15,9 @@ struct TPageDraft
 {
     const TSheetPage& page;
     TSchematicPage& target;
-    TextVariables::TValues variables; ///< With those of the project.
-    TMeetings meetings;               ///< Where wires, pins and ports can meet,
-    TMeetings busMeetings;            ///< and where buses can.
+    TextVariables::TValues variables;   ///< With those of the project.
+    TConnectionPoints connectionPoints; ///< Where wires, pins and ports can meet,
+    TConnectionPoints busMeetings;      ///< and where buses can.
 };
 
 /** The items of a page, one function for each kind. What can be linked is noted at its place. */

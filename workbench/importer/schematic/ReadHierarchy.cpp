@@ -1,7 +1,7 @@
 #include "workbench/importer/schematic/TSheetPage.h"
 
-#include "workbench/importer/ElementParts.h"
-#include "workbench/importer/TImportError.h"
+#include "workbench/importer/format/ElementValues.h"
+#include "workbench/importer/format/TImportError.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -208,7 +208,7 @@ private:
     {
         const auto text = [&said](std::string_view name, QString& target) {
             if (const std::optional<TSexpression> value = said.Find(name)) {
-                target = ElementParts::UserName(value->Value(0));
+                target = ElementValues::UserName(value->Value(0));
             }
         };
         text("reference", symbol.reference);

@@ -1,7 +1,7 @@
-#include "workbench/importer/ElementParts.h"
-#include "workbench/importer/Measures.h"
+#include "workbench/importer/format/ElementValues.h"
+#include "workbench/importer/format/Measures.h"
+#include "workbench/importer/format/TextEffects.h"
 #include "workbench/importer/schematic/PageItems.h"
-#include "workbench/importer/TextParts.h"
 
 #include <graphics/TGraphicsPenItem.h>
 #include <graphics/TGraphicsTextItem.h>
@@ -76,7 +76,7 @@ TGraphicsPinItem* AddPin(const TPagePin& pin, const TLibrarySymbol& library, TGr
 
 void NotePin(const TPagePin& pin, TGraphicsPinItem& item, TPageDraft& page, const TSchematicDraft& draft)
 {
-    page.meetings.At(pin.place).pins.append({&item, draft.NetName(pin.net), false});
+    page.connectionPoints.At(pin.place).pins.append({&item, draft.NetName(pin.net), false});
 }
 
 TextVariables::TValues VariablesOf(const TPageSymbol& symbol, const TPageDraft& page)
@@ -109,7 +109,7 @@ public:
         part->setPos(Measures::ScenePoint(placed.frame.origin));
         part->SetComponentNumber(draft.numbers.value(PageItems::ComponentKey(symbol)));
         part->SetName(placed.libraryName.section(QLatin1Char(':'), -1));
-        part->SetPackageName(ElementParts::PackageName(symbol.footprint));
+        part->SetPackageName(ElementValues::PackageName(symbol.footprint));
         if (placed.element.HasFlag("dnp")) {
             draft.notShown.Count("marks of parts that are not to be placed");
         }
@@ -146,13 +146,13 @@ private:
         const TSexpression at = element.Get("at");
         // Here, and only here, most files have an angle in tenths of degrees.
         constexpr qint64 degree = 1'000'000;
-        const qint64 angle = ElementParts::Angle(at);
+        const qint64 angle = ElementValues::Angle(at);
         const auto quarters = static_cast<int>(angle / (angle < 360 * degree ? 90 * degree : 900 * degree));
         const QString content = TextVariables::Resolved(element.Value(0).Text(), variables);
         std::unique_ptr<TGraphicsTextItem> text = PageItems::Text(element, content, quarters, placed.frame);
-        text->setPos(Measures::ScenePoint(placed.frame.Turned(ElementParts::GridPoint(at))));
+        text->setPos(Measures::ScenePoint(placed.frame.Turned(ElementValues::GridPoint(at))));
         text->SetLayer(Osmirel::SchematicSymbols);
-        text->setVisible(!TextParts::IsHidden(element, 1));
+        text->setVisible(!TextEffects::IsHidden(element, 1));
         text.release()->setParentItem(part.get());
     }
 
@@ -161,7 +161,7 @@ private:
         for (const TSymbolField& field : placed.fields) {
             const bool isReference = field.key == QLatin1String("Reference");
             const bool isValue = field.key == QLatin1String("Value");
-            const bool isHidden = TextParts::IsHidden(field.element, 2);
+            const bool isHidden = TextEffects::IsHidden(field.element, 2);
             const std::optional<TSexpression> at = field.element.Find("at");
             if (at && (!isHidden || isReference || isValue)) {
                 const QString content = isReference ? symbol.reference : isValue ? symbol.value : field.value;
@@ -181,7 +181,7 @@ private:
     TGraphicsTextItem* FieldText(const TSymbolField& field, const TSexpression& at, const QString& content)
     {
         std::unique_ptr<TGraphicsTextItem> text = PageItems::Text(field.element, content, Quarters(at), placed.frame);
-        const TGridPoint place = ElementParts::GridPoint(at); // On the sheet, though the angle is the symbol's.
+        const TGridPoint place = ElementValues::GridPoint(at); // On the sheet, though the angle is the symbol's.
         text->setPos(Measures::ScenePoint({place.x - placed.frame.origin.x, place.y - placed.frame.origin.y}));
         text->setParentItem(part.get());
         return text.release();
@@ -220,7 +220,7 @@ void AddNetTie(const TPageSymbol& symbol, TPageDraft& page, TSchematicDraft& dra
     auto tie = std::make_unique<TGraphicsNetTieSchItem>();
     tie->SetNumber(draft.numbers.value(PageItems::ComponentKey(symbol)));
     tie->SetName(symbol.reference);
-    tie->SetNameVisible(reference != symbol.symbol->fields.end() && !TextParts::IsHidden(reference->element, 2));
+    tie->SetNameVisible(reference != symbol.symbol->fields.end() && !TextEffects::IsHidden(reference->element, 2));
     tie->setPos(between.center());
     tie->setRotation(-between.angle());
     for (const TPagePin& pin : symbol.pins) {

@@ -1,6 +1,6 @@
-#include "workbench/importer/Measures.h"
+#include "workbench/importer/format/Measures.h"
+#include "workbench/importer/format/TextEffects.h"
 #include "workbench/importer/schematic/PageItems.h"
-#include "workbench/importer/TextParts.h"
 
 #include <objects/TGraphicsPinItem.h>
 #include <objects/TGraphicsPortItem.h>
@@ -42,7 +42,7 @@ void AddPort(const TPortPlace& at, const QString& name, bool isOnNet, TPageDraft
     port->SetName(name, draft.NetColor(name));
     port->SetNameVisible(at.showsName);
     if (isOnNet) {
-        page.meetings.At(at.place).pins.append({port->Pin(), name, true});
+        page.connectionPoints.At(at.place).pins.append({port->Pin(), name, true});
     }
     page.target.Attach(std::move(port));
 }
@@ -52,7 +52,8 @@ void AddLabelPort(const TSheetLabel& label, const QString& shape, int turns, int
                   TSchematicDraft& draft)
 {
     const TGridPoint upwards = UnitStep(label.quarters + turns);
-    const TPortPlace at{label.place, {upwards.x, -upwards.y}, PortShape(shape), !TextParts::IsHidden(label.element, 1)};
+    const TPortPlace at{
+        label.place, {upwards.x, -upwards.y}, PortShape(shape), !TextEffects::IsHidden(label.element, 1)};
     AddPort(at, net < 0 ? label.text : draft.NetName(net), net >= 0, page, draft);
 }
 
@@ -62,7 +63,7 @@ void PageItems::AddPowerPorts(const TPageSymbol& symbol, TPageDraft& page, TSche
 {
     const std::vector<TSymbolField>& fields = symbol.symbol->fields;
     const bool showsValue = std::any_of(fields.begin(), fields.end(), [](const TSymbolField& field) {
-        return field.key == QLatin1String("Value") && !TextParts::IsHidden(field.element, 2);
+        return field.key == QLatin1String("Value") && !TextEffects::IsHidden(field.element, 2);
     });
     for (const TPagePin& pin : symbol.pins) {
         const TGridPoint along = symbol.symbol->frame.Turned(UnitStep(pin.pin->quarters));

@@ -1,8 +1,8 @@
-#include "workbench/importer/ArcPath.h"
-#include "workbench/importer/ElementParts.h"
-#include "workbench/importer/Measures.h"
+#include "workbench/importer/format/ArcPath.h"
+#include "workbench/importer/format/ElementValues.h"
+#include "workbench/importer/format/Measures.h"
+#include "workbench/importer/format/ShapeValues.h"
 #include "workbench/importer/schematic/PageItems.h"
-#include "workbench/importer/ShapeParts.h"
 
 #include <graphics/TGraphicsArcItem.h>
 #include <graphics/TGraphicsEllipseItem.h>
@@ -20,7 +20,7 @@ using PageItems::TMap;
 
 QPointF Point(const TSexpression& shape, std::string_view name, const TMap& map)
 {
-    return Measures::ScenePoint(map(ElementParts::GridPoint(shape.Get(name))));
+    return Measures::ScenePoint(map(ElementValues::GridPoint(shape.Get(name))));
 }
 
 /** Only what is filled in the colour of the lines: a background would hide what lies behind. */
@@ -35,7 +35,7 @@ QPolygonF Points(const TSexpression& shape, const TMap& map)
 {
     QPolygonF points;
     for (const TSexpression point : shape.Get("pts")) {
-        points.append(Measures::ScenePoint(map(ElementParts::GridPoint(point))));
+        points.append(Measures::ScenePoint(map(ElementValues::GridPoint(point))));
     }
     return points;
 }
@@ -109,7 +109,7 @@ std::unique_ptr<TGraphicsPenItem> Curve(const TSexpression& shape, const TMap& m
     QPainterPath path(points[0]);
     path.cubicTo(points[1], points[2], points[3]);
     auto polyline = std::make_unique<TGraphicsPolylineItem>();
-    polyline->SetPoints(ShapeParts::Corners(path));
+    polyline->SetPoints(ShapeValues::Corners(path));
     return polyline;
 }
 
@@ -132,10 +132,10 @@ std::unique_ptr<TGraphicsPenItem> PageItems::Shape(const TSexpression& element, 
         return nullptr;
     }
     std::unique_ptr<TGraphicsPenItem> item = maker->make(element, map);
-    const double width = ShapeParts::StrokeWidth(element);
+    const double width = ShapeValues::StrokeWidth(element);
     item->SetPenWidth(static_cast<float>(width > 0 ? width : Measures::SceneLength(usualWidth)));
-    item->Pen().setStyle(ShapeParts::StrokeStyle(element));
+    item->Pen().setStyle(ShapeValues::StrokeStyle(element));
     item->SetLayer(Osmirel::SchematicSymbols);
-    item->SetAltColor(ShapeParts::StrokeColor(element));
+    item->SetAltColor(ShapeValues::StrokeColor(element));
     return item;
 }

@@ -1,8 +1,8 @@
-#include "workbench/importer/ElementParts.h"
-#include "workbench/importer/Measures.h"
+#include "workbench/importer/format/ElementValues.h"
+#include "workbench/importer/format/Measures.h"
+#include "workbench/importer/format/ShapeValues.h"
+#include "workbench/importer/format/TextEffects.h"
 #include "workbench/importer/schematic/PageItems.h"
-#include "workbench/importer/ShapeParts.h"
-#include "workbench/importer/TextParts.h"
 
 #include <graphics/TGraphicsPolylineItem.h>
 #include <graphics/TGraphicsRectItem.h>
@@ -57,9 +57,9 @@ void Place(std::unique_ptr<TGraphicsTextItem> text, const TSexpression& element,
     constexpr qint64 half = 180'000'000;
     const TSexpression at = element.Get("at");
     text->SetLayer(Osmirel::SchematicTexts);
-    TextParts::ApplyEffects(element, *text);
-    text->setPos(ElementParts::Position(at));
-    text->setRotation(Measures::SceneRotation((ElementParts::Angle(at) % half + half) % half));
+    TextEffects::Apply(element, *text);
+    text->setPos(ElementValues::Position(at));
+    text->setRotation(Measures::SceneRotation((ElementValues::Angle(at) % half + half) % half));
     page.target.Attach(std::move(text));
 }
 
@@ -73,15 +73,15 @@ void PlaceText(const QString& content, const TSexpression& element, TPageDraft& 
 std::unique_ptr<TGraphicsRectItem> Box(const TSexpression& element)
 {
     constexpr qint64 usualWidth = 152'400; // Nanometres.
-    const QPointF corner = ElementParts::Position(element.Get("at"));
-    const QPointF size = ElementParts::Position(element.Get("size"));
-    const double width = ShapeParts::StrokeWidth(element);
+    const QPointF corner = ElementValues::Position(element.Get("at"));
+    const QPointF size = ElementValues::Position(element.Get("size"));
+    const double width = ShapeValues::StrokeWidth(element);
     auto item = std::make_unique<TGraphicsRectItem>();
     item->SetLayer(Osmirel::SchematicSymbols);
     item->setPos(corner + size / 2);
     item->SetSize(static_cast<float>(size.x()), static_cast<float>(size.y()));
     item->SetPenWidth(static_cast<float>(width > 0 ? width : Measures::SceneLength(usualWidth)));
-    item->Pen().setStyle(ShapeParts::StrokeStyle(element));
+    item->Pen().setStyle(ShapeValues::StrokeStyle(element));
     return item;
 }
 
@@ -92,11 +92,11 @@ void AddTextBox(const TSexpression& element, TPageDraft& page, TSchematicDraft& 
     std::unique_ptr<TGraphicsRectItem> box = Box(element);
     std::unique_ptr<TGraphicsTextItem> text = TextOrTag(element, page, draft);
     text->SetLayer(Osmirel::SchematicTexts);
-    TextParts::ApplyEffects(element, *text);
-    const QPointF corner = ElementParts::Position(element.Get("at"));
-    const QPointF size = ElementParts::Position(element.Get("size"));
-    text->setPos(TextParts::AnchorIn(QRectF(corner, corner + size).normalized(), text->Alignment()));
-    text->setRotation(Measures::SceneRotation((ElementParts::Angle(element.Get("at")) % half + half) % half));
+    TextEffects::Apply(element, *text);
+    const QPointF corner = ElementValues::Position(element.Get("at"));
+    const QPointF size = ElementValues::Position(element.Get("size"));
+    text->setPos(TextEffects::AnchorIn(QRectF(corner, corner + size).normalized(), text->Alignment()));
+    text->setRotation(Measures::SceneRotation((ElementValues::Angle(element.Get("at")) % half + half) % half));
     page.target.Attach(std::move(box));
     page.target.Attach(std::move(text));
 }
@@ -114,7 +114,7 @@ std::unique_ptr<TGraphicsTextItem> PageItems::Text(const TSexpression& element, 
     auto text = std::make_unique<TGraphicsTextItem>();
     text->SetText(content);
     text->SetLayer(Osmirel::SchematicTexts);
-    TextParts::ApplyEffects(element, *text);
+    TextEffects::Apply(element, *text);
     // It is upright, or to be read from the right; where it would run the other way it changes sides.
     const TGridPoint along = frame.Turned(UnitStep(quarters));
     const TGridPoint up = frame.Turned(UnitStep(quarters + 1));
@@ -166,8 +166,9 @@ void PageItems::AddBoxes(TPageDraft& page)
     for (const TSheetBox& box : page.page.file->boxes) {
         page.target.Attach(Box(box.element));
         for (const TSexpression field : box.element) {
-            if (field.Name() == "property" && field.Find("at") && !TextParts::IsHidden(field, 2)) {
-                PlaceText(TextVariables::Resolved(ElementParts::UserName(field.Value(1)), page.variables), field, page);
+            if (field.Name() == "property" && field.Find("at") && !TextEffects::IsHidden(field, 2)) {
+                PlaceText(TextVariables::Resolved(ElementValues::UserName(field.Value(1)), page.variables), field,
+                          page);
             }
         }
     }

@@ -1,6 +1,6 @@
 #include "workbench/importer/schematic/TLibrarySymbol.h"
 
-#include "workbench/importer/ElementParts.h"
+#include "workbench/importer/format/ElementValues.h"
 
 namespace {
 
@@ -15,16 +15,16 @@ TLibraryPin ReadPin(const TSexpression& element, int unit, int bodyStyle)
                     unit,
                     bodyStyle,
                     {element.Value(0).Text(), element.Value(1).Text()},
-                    ElementParts::GridPoint(at),
+                    ElementValues::GridPoint(at),
                     Quarters(at),
                     length ? length->Value(0).Extent() : 0,
                     element.HasFlag("hide", firstFlag),
-                    ElementParts::UserName(element.Get("name").Value(0)),
-                    ElementParts::UserName(element.Get("number").Value(0)),
+                    ElementValues::UserName(element.Get("name").Value(0)),
+                    ElementValues::UserName(element.Get("number").Value(0)),
                     {}};
     for (const TSexpression part : element) {
         if (part.Name() == "alternate") {
-            pin.alternates.insert(ElementParts::UserName(part.Value(0)), {part.Value(1).Text(), part.Value(2).Text()});
+            pin.alternates.insert(ElementValues::UserName(part.Value(0)), {part.Value(1).Text(), part.Value(2).Text()});
         }
     }
     return pin;

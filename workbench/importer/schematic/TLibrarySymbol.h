@@ -1,7 +1,7 @@
 #pragma once
 
+#include "workbench/importer/format/TSexpression.h"
 #include "workbench/importer/schematic/TSymbolFrame.h"
-#include "workbench/importer/TSexpression.h"
 
 #include <QHash>
 #include <QString>

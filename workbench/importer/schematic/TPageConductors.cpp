@@ -1,6 +1,6 @@
 #include "workbench/importer/schematic/TPageConductors.h"
 
-TPageConductors::TPageConductors(const TSheetPage& ofPage, TJoinedSets& allSets) : page(ofPage), sets(allSets)
+TPageConductors::TPageConductors(const TSheetPage& ofPage, DisjointSets& allSets) : page(ofPage), sets(allSets)
 {
     const TSheetFile& file = *page.file;
     TKind wireKind{file.wires, TLineFinder(file.wires), {}, {}};

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "workbench/importer/schematic/BusNames.h"
-#include "workbench/importer/schematic/TJoinedSets.h"
 #include "workbench/importer/schematic/TLineFinder.h"
 #include "workbench/importer/schematic/TSheetPage.h"
+#include <graphics/engine/DisjointSets.h>
 
 /**
  * What conducts on a page, joined where it touches: ends of wires in one place; pins, labels, junctions and entries
@@ -13,7 +13,7 @@
 class TPageConductors
 {
 public:
-    TPageConductors(const TSheetPage& ofPage, TJoinedSets& allSets);
+    TPageConductors(const TSheetPage& ofPage, DisjointSets& allSets);
 
     /** A label or the pin of a sheet's box; it names one net, or the members of a bus. */
     struct TName
@@ -50,5 +50,5 @@ private:
     void JoinAt(const TGridPoint& place, int node, TKind& kind);
 
     const TSheetPage& page;
-    TJoinedSets& sets;
+    DisjointSets& sets;
 };

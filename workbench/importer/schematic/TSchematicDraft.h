@@ -1,8 +1,8 @@
 #pragma once
 
+#include "workbench/importer/format/TextVariables.h"
+#include "workbench/importer/format/TNotShown.h"
 #include "workbench/importer/schematic/TSheetPage.h"
-#include "workbench/importer/TextVariables.h"
-#include "workbench/importer/TNotShown.h"
 
 #include <application/TSchematic.h>
 

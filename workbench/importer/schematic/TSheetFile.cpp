@@ -1,6 +1,6 @@
 #include "workbench/importer/schematic/TSheetFile.h"
 
-#include "workbench/importer/ElementParts.h"
+#include "workbench/importer/format/ElementValues.h"
 
 #include <algorithm>
 #include <iterator>
@@ -12,7 +12,7 @@ void AddLines(const TSexpression& element, std::vector<TSheetLine>& lines)
 {
     std::optional<TGridPoint> last;
     for (const TSexpression point : element.Get("pts")) {
-        const TGridPoint place = ElementParts::GridPoint(point);
+        const TGridPoint place = ElementValues::GridPoint(point);
         if (last && *last != place) {
             lines.emplace_back(element, *last, place);
         }
@@ -23,7 +23,7 @@ void AddLines(const TSexpression& element, std::vector<TSheetLine>& lines)
 TSheetLabel Label(const TSexpression& element, LabelKind kind)
 {
     const TSexpression at = element.Get("at");
-    return {element, kind, ElementParts::UserName(element.Value(0)), ElementParts::GridPoint(at), Quarters(at)};
+    return {element, kind, ElementValues::UserName(element.Value(0)), ElementValues::GridPoint(at), Quarters(at)};
 }
 
 LabelKind KindOf(const TSexpression& label)
@@ -142,10 +142,11 @@ void TSheetFile::ReadSymbol(const TSexpression& element)
         } else if (part.Name() == "convert" || part.Name() == "body_style") {
             symbol.bodyStyle = part.Value(0).Integer();
         } else if (part.Name() == "property") {
-            symbol.fields.push_back({part, part.Value(0).Text(), ElementParts::UserName(part.Value(1))});
+            symbol.fields.push_back({part, part.Value(0).Text(), ElementValues::UserName(part.Value(1))});
         } else if (part.Name() == "pin") {
             if (const std::optional<TSexpression> use = part.Find("alternate")) {
-                symbol.alternates.insert(ElementParts::UserName(part.Value(0)), ElementParts::UserName(use->Value(0)));
+                symbol.alternates.insert(ElementValues::UserName(part.Value(0)),
+                                         ElementValues::UserName(use->Value(0)));
             }
         }
     }
@@ -164,8 +165,8 @@ void TSheetFile::ReadBus(const TSexpression& element)
 
 void TSheetFile::ReadEntry(const TSexpression& element)
 {
-    const TGridPoint start = ElementParts::GridPoint(element.Get("at"));
-    const TGridPoint size = ElementParts::GridPoint(element.Get("size"));
+    const TGridPoint start = ElementValues::GridPoint(element.Get("at"));
+    const TGridPoint size = ElementValues::GridPoint(element.Get("size"));
     entries.emplace_back(element, start, TGridPoint{start.x + size.x, start.y + size.y});
 }
 
@@ -193,7 +194,7 @@ void TSheetFile::ReadBox(const TSexpression& element)
         } else if (part.Name() == "property") {
             const QString key = part.Value(0).Text();
             if (key == QLatin1String("Sheetname") || key == QLatin1String("Sheet name")) {
-                box.name = ElementParts::UserName(part.Value(1));
+                box.name = ElementValues::UserName(part.Value(1));
             } else if (key == QLatin1String("Sheetfile") || key == QLatin1String("Sheet file")) {
                 box.fileName = part.Value(1).Text().replace(QLatin1Char('\\'), QLatin1Char('/'));
             }
@@ -206,9 +207,9 @@ void TSheetFile::ReadAlias(const TSexpression& element)
 {
     QStringList members;
     for (const TSexpression member : element.Get("members")) {
-        members.append(ElementParts::UserName(member));
+        members.append(ElementValues::UserName(member));
     }
-    aliases.insert(ElementParts::UserName(element.Value(0)), members);
+    aliases.insert(ElementValues::UserName(element.Value(0)), members);
 }
 
 void TSheetFile::ReadSymbolPaths(const TSexpression& element)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/importer/ElementParts.h"
+#include "workbench/importer/format/ElementValues.h"
 #include "workbench/importer/schematic/TLibrarySymbol.h"
 
 #include <QByteArray>
@@ -27,7 +27,7 @@ struct TSheetLine
 struct TSheetPoint
 {
     explicit TSheetPoint(const TSexpression& ofElement)
-        : element(ofElement), place(ElementParts::GridPoint(element.Get("at")))
+        : element(ofElement), place(ElementValues::GridPoint(element.Get("at")))
     {}
 
     TSexpression element;

@@ -1,7 +1,7 @@
 #include "workbench/importer/schematic/TSymbolFrame.h"
 
-#include "workbench/importer/ElementParts.h"
-#include "workbench/importer/TSexpression.h"
+#include "workbench/importer/format/ElementValues.h"
+#include "workbench/importer/format/TSexpression.h"
 
 TGridPoint UnitStep(int quarters)
 {
@@ -21,7 +21,7 @@ TSymbolFrame TSymbolFrame::Read(const TSexpression& symbol)
 {
     const TSexpression at = symbol.Get("at");
     const std::optional<TSexpression> mirror = symbol.Find("mirror");
-    return {ElementParts::GridPoint(at), Quarters(at), mirror && mirror->HasFlag("x"), mirror && mirror->HasFlag("y")};
+    return {ElementValues::GridPoint(at), Quarters(at), mirror && mirror->HasFlag("x"), mirror && mirror->HasFlag("y")};
 }
 
 int Quarters(const TSexpression& at)

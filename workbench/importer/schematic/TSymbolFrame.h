@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/importer/TTrack.h"
+#include "workbench/importer/format/TGridPoint.h"
 
 class TSexpression;
 

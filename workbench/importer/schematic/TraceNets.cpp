@@ -77,7 +77,7 @@ private:
     int MemberNode(int busNode, const QString& key)
     {
         // Buses do not grow any more: their labels and entries have been joined.
-        const QPair<int, QString> member(sets.Find(busNode), key);
+        const QPair<int, QString> member(sets.Root(busNode), key);
         if (!memberNodes.contains(member)) {
             memberNodes.insert(member, sets.Add());
         }
@@ -152,7 +152,7 @@ private:
     {
         QHash<int, TCandidate> bestOf;
         for (const auto& [node, candidate] : candidates) {
-            const int set = sets.Find(node);
+            const int set = sets.Root(node);
             const auto known = bestOf.constFind(set);
             if (known == bestOf.constEnd() || candidate.Beats(*known)) {
                 bestOf.insert(set, candidate);
@@ -160,7 +160,7 @@ private:
         }
         QHash<int, QVector<PinNames::TPinOnNet>> pinsOf;
         VisitConductors([&](int page, int node, int&, const TPageSymbol* symbol, const TPagePin* pin) {
-            QVector<PinNames::TPinOnNet>& pins = pinsOf[sets.Find(node)]; // There is a net even without pins.
+            QVector<PinNames::TPinOnNet>& pins = pinsOf[sets.Root(node)]; // There is a net even without pins.
             if (pin) {
                 pins.append({symbol, pin, Page(page).file->version});
             }
@@ -185,7 +185,7 @@ private:
             hierarchy.nets.push_back({name, bestOf.contains(set), PinNames::OtherNames(pinsOf.value(set), name)});
         }
         VisitConductors([&](int, int node, int& net, const TPageSymbol*, const TPagePin*) {
-            net = netOfSet.value(sets.Find(node), -1);
+            net = netOfSet.value(sets.Root(node), -1);
         });
         NameBuses();
     }
@@ -237,9 +237,9 @@ private:
             QHash<int, TCandidate> bestOf;
             const auto consider = [&](const TPageConductors::TName& name) {
                 const TCandidate candidate{name.label->kind, 0, name.label->text};
-                const auto known = bestOf.constFind(sets.Find(name.node));
+                const auto known = bestOf.constFind(sets.Root(name.node));
                 if (!name.members.isEmpty() && (known == bestOf.constEnd() || candidate.Beats(*known))) {
-                    bestOf.insert(sets.Find(name.node), candidate);
+                    bestOf.insert(sets.Root(name.node), candidate);
                 }
             };
             std::for_each(pages[i].labels.begin(), pages[i].labels.end(), consider);
@@ -247,13 +247,13 @@ private:
                 std::for_each(pins.begin(), pins.end(), consider);
             }
             for (const int bus : pages[i].buses) {
-                hierarchy.pages[i].busNames.append(bestOf.value(sets.Find(bus)).name);
+                hierarchy.pages[i].busNames.append(bestOf.value(sets.Root(bus)).name);
             }
         }
     }
 
     TSheetHierarchy& hierarchy;
-    TJoinedSets sets;
+    DisjointSets sets;
     std::vector<TPageConductors> pages;
     QHash<QString, int> globals;
     QHash<QPair<int, QString>, int> locals;

@@ -1,0 +1,226 @@
+#include <application/engine/SpanningTree.h>
+
+#include <nanoflann.hpp>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <map>
+#include <memory>
+#include <numeric>
+#include <tuple>
+
+namespace {
+
+using Indices = std::vector<int>;
+
+/** A line between two points by their numbers, in the order in which lines are preferred. */
+struct Edge
+{
+    double squareLength = 0;
+    int from = -1;
+    int to = -1;
+
+    bool operator<(const Edge& other) const
+    {
+        return std::tie(squareLength, from, to) < std::tie(other.squareLength, other.from, other.to);
+    }
+};
+
+/** Points by number, as the library asks for them. */
+struct Cloud
+{
+    const QVector<QPointF>& points;
+    const Indices& numbers;
+
+    size_t kdtree_get_point_count() const { return numbers.size(); }
+    double kdtree_get_pt(size_t index, size_t dimension) const
+    {
+        const QPointF& point = points[numbers[index]];
+        return dimension == 0 ? point.x() : point.y();
+    }
+    template <class Box>
+    bool kdtree_get_bbox(Box&) const
+    {
+        return false;
+    }
+};
+
+using Tree = nanoflann::KDTreeSingleIndexAdaptor<nanoflann::L2_Simple_Adaptor<double, Cloud>, Cloud, 2, size_t>;
+
+/** The best line from a point to one of another set, if it is better than what is known. What the library fills. */
+class NearestOfOthers
+{
+public:
+    NearestOfOthers(const Indices& numbersOfTree, const std::vector<int>& setOfPoint, int fromPoint, const Edge& known)
+        : numbers(numbersOfTree), setOf(setOfPoint), from(fromPoint), best(known)
+    {}
+
+    const Edge& Best() const { return best; }
+
+    size_t size() const { return best.from < 0 ? 0 : 1; }
+    bool full() const { return best.from >= 0; }
+    /** A little more than the best, so that points just as near are looked at, and the choice is always the same. */
+    double worstDist() const { return std::nextafter(best.squareLength, std::numeric_limits<double>::infinity()); }
+    bool addPoint(double squareDistance, size_t index)
+    {
+        const int to = numbers[index];
+        if (setOf[static_cast<size_t>(to)] != setOf[static_cast<size_t>(from)]) {
+            best = std::min(best, Edge{squareDistance, std::min(from, to), std::max(from, to)});
+        }
+        return true;
+    }
+
+private:
+    const Indices& numbers;
+    const std::vector<int>& setOf;
+    int from;
+    Edge best;
+};
+
+/** A search tree over some of the points. */
+class PointIndex
+{
+public:
+    PointIndex(const QVector<QPointF>& points, Indices ofThese)
+        : numbers(std::move(ofThese)), cloud{points, numbers}, tree(2, cloud)
+    {}
+
+    Edge Nearest(const std::vector<int>& setOf, int from, const Edge& known) const
+    {
+        NearestOfOthers nearest(numbers, setOf, from, known);
+        const QPointF& point = cloud.points[from];
+        const double place[] = {point.x(), point.y()};
+        tree.findNeighbors(nearest, place, nanoflann::SearchParams());
+        return nearest.Best();
+    }
+
+private:
+    Indices numbers;
+    Cloud cloud;
+    Tree tree;
+};
+
+/** Finds, round after round, the best line from each set of points to another one. */
+class BestLines
+{
+public:
+    explicit BestLines(const QVector<QPointF>& ofPoints) : points(ofPoints), all(ofPoints, Everything()), known(Count())
+    {}
+
+    /** The best line of every set but the largest, best first. Sets only ever grow from one call to the next. */
+    std::vector<Edge> Next(const std::vector<int>& setOf)
+    {
+        std::map<int, Indices> members;
+        for (int i = 0; i < points.size(); ++i) {
+            members[setOf[static_cast<size_t>(i)]].push_back(i);
+        }
+        const auto largest =
+            std::max_element(members.cbegin(), members.cend(), [](const auto& left, const auto& right) {
+                return left.second.size() < right.second.size();
+            });
+        std::vector<Edge> edges;
+        for (auto set = members.begin(); set != members.end(); ++set) {
+            if (set != largest) {
+                const bool isWorthATree = members.size() <= fewSets && set->second.size() > manyPoints;
+                edges.push_back(isWorthATree ? BestOf(set->second, setOf, TreeOfOthers(set->first, setOf))
+                                             : BestOf(set->second, setOf, all));
+            }
+        }
+        std::sort(edges.begin(), edges.end());
+        return edges;
+    }
+
+private:
+    /** Among few sets, one of many points gets a tree of all others, which are then found without passing its own. */
+    static constexpr size_t fewSets = 16;
+    static constexpr size_t manyPoints = 500;
+
+    size_t Count() const { return static_cast<size_t>(points.size()); }
+
+    Indices Everything() const
+    {
+        Indices numbers(Count());
+        std::iota(numbers.begin(), numbers.end(), 0);
+        return numbers;
+    }
+
+    PointIndex TreeOfOthers(int set, const std::vector<int>& setOf) const
+    {
+        Indices outside = Everything();
+        outside.erase(std::remove_if(outside.begin(), outside.end(),
+                                     [&](int number) { return setOf[static_cast<size_t>(number)] == set; }),
+                      outside.end());
+        return {points, std::move(outside)};
+    }
+
+    Edge BestOf(Indices& members, const std::vector<int>& setOf, const PointIndex& tree)
+    {
+        // What was the nearest other point of a point stays it until both are in one set; after that, none is nearer.
+        const auto knownOf = [this](int number) -> Edge& { return known[static_cast<size_t>(number)]; };
+        std::sort(members.begin(), members.end(),
+                  [&](int left, int right) { return knownOf(left).squareLength < knownOf(right).squareLength; });
+        Edge best{std::numeric_limits<double>::infinity(), -1, -1};
+        for (const int from : members) {
+            Edge& nearest = knownOf(from);
+            if (nearest.squareLength > best.squareLength) {
+                break;
+            }
+            const bool isStillOther =
+                nearest.from >= 0 && setOf[static_cast<size_t>(nearest.from)] != setOf[static_cast<size_t>(nearest.to)];
+            if (!isStillOther) {
+                const Edge found = tree.Nearest(setOf, from, best);
+                const bool isFromHere = found.from == from || found.to == from;
+                nearest = isFromHere ? found : Edge{best.squareLength, -1, -1};
+            }
+            if (nearest.from >= 0) {
+                best = std::min(best, nearest);
+            }
+        }
+        return best;
+    }
+
+    const QVector<QPointF>& points;
+    PointIndex all;
+    std::vector<Edge> known; ///< For each point the line to the nearest of another set, or only how near none is.
+};
+
+} // namespace
+
+void SpanningTree::AddPoint(const QPointF& point, int group)
+{
+    points.append(point);
+    groups.append(group);
+}
+
+QVector<QLineF> SpanningTree::MissingEdges()
+{
+    std::vector<int> setOf(static_cast<size_t>(points.size()));
+    const auto updateSets = [&] {
+        std::transform(groups.cbegin(), groups.cend(), setOf.begin(), [this](int group) { return sets.Root(group); });
+        return std::any_of(setOf.cbegin(), setOf.cend(), [&setOf](int set) { return set != setOf.front(); });
+    };
+    if (!updateSets()) {
+        return {};
+    }
+    BestLines lines(points);
+    std::vector<Edge> chosen;
+    do {
+        // Each round joins every set but the largest with another one, and so at least halves their number.
+        const std::vector<Edge> edges = lines.Next(setOf);
+        for (const Edge& edge : edges) {
+            if (sets.Join(groups[edge.from], groups[edge.to])) {
+                chosen.push_back(edge);
+            }
+        }
+    } while (updateSets());
+    std::sort(chosen.begin(), chosen.end(), [](const Edge& left, const Edge& right) {
+        return std::tie(left.from, left.to) < std::tie(right.from, right.to);
+    });
+    QVector<QLineF> missing;
+    missing.reserve(static_cast<int>(chosen.size()));
+    for (const Edge& edge : chosen) {
+        missing.append({points[edge.from], points[edge.to]});
+    }
+    return missing;
+}

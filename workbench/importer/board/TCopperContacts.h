@@ -1,0 +1,24 @@
+#pragma once
+
+#include "workbench/importer/format/TGridPoint.h"
+
+#include <QVector>
+
+class TGraphicsItem;
+
+/** The vias, pads and net ties that the tracks of one net can end on, on one layer. */
+class TCopperContacts
+{
+public:
+    explicit TCopperContacts(const QVector<TGraphicsItem*>& copper);
+
+    /** The item whose copper is there, the one with the nearest centre of several; null if there is none. */
+    TGraphicsItem* At(const TGridPoint& place) const;
+    /** Where the items' own positions are. */
+    const QVector<TGridPoint>& Centres() const { return centres; }
+
+private:
+    QHash<TGridPoint, QVector<TGraphicsItem*>> cells;
+    QVector<TGraphicsItem*> large; ///< What would fill too many cells.
+    QVector<TGridPoint> centres;
+};

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "workbench/design/TDesign.h"
+
+#include <QTabWidget>
+
+class TCanvas;
+
+/**
+ * A tab for each document of a design: the board and the pages of the schematic, each on a canvas of its own, which
+ * keeps its zoom. The tabs themselves are shown only if there are several.
+ */
+class TDocumentTabs : public QTabWidget
+{
+    Q_OBJECT
+
+public:
+    explicit TDocumentTabs(QWidget* parent = nullptr);
+
+    /** Makes the tabs of a design, which must outlive them; null for none. */
+    void SetDesign(TDesign* newDesign);
+
+    /** The canvas and the document of the tab that is shown; only with a design. */
+    TCanvas& Canvas() const;
+    const TDocument& Document() const;
+    /** All canvases, in the order of the tabs. */
+    QList<TCanvas*> Canvases() const;
+
+    /** Shows the tab of a page, of the board for 0. False if there is no such tab. */
+    bool ShowPage(int page);
+    /** The page that is shown, or was when the board came in front of it; 0 if there are no pages. */
+    int LastPage() const { return lastPage; }
+
+public slots:
+    /** Takes over the names of the pages. */
+    void UpdateNames();
+
+signals:
+    /** Another document is shown. Not sent while the tabs of a design are made. */
+    void sigShown();
+
+private slots:
+    void slotCurrentChanged(int index);
+
+private:
+    TDesign* design = nullptr;
+    QVector<TDocument> documents; ///< Parallel to the tabs.
+    int lastPage = 0;
+};
