@@ -114,7 +114,7 @@ int RunWorkbench(int argc, char** argv)
     try {
         line = TCommandLine::Parse(Arguments(argc, argv));
     } catch (const TSessionError& error) {
-        return Fail(error.Cause() + QStringLiteral(" (--help tells the options)"), messages);
+        return Fail(error.Cause() + QStringLiteral(" (see --help)"), messages);
     }
     if (line.help) {
         results << TCommandLine::Usage();

@@ -221,13 +221,13 @@ const QVector<TDesignAction>& DesignActions::All()
          RemoveNode},
         {"--priority", Asks::Level, QT_TRANSLATE_NOOP("DesignActions", "Change &priority of nets…"),
          QT_TRANSLATE_NOOP("DesignActions", "Level"), "P",
-         QT_TRANSLATE_NOOP("DesignActions", "something that is on a net"), MakePriority},
+         QT_TRANSLATE_NOOP("DesignActions", "an item that is on a net"), MakePriority},
         {"--tie-width", Asks::Length, QT_TRANSLATE_NOOP("DesignActions", "Change wire &width of net ties…"),
          QT_TRANSLATE_NOOP("DesignActions", "Width in millimetres"), "W",
          QT_TRANSLATE_NOOP("DesignActions", "net ties of the board"), MakeTieWidth},
         {"--resize", Asks::Size, QT_TRANSLATE_NOOP("DesignActions", "Change &size of rectangles…"),
          QT_TRANSLATE_NOOP("DesignActions", "Width,height in millimetres"), "S",
-         QT_TRANSLATE_NOOP("DesignActions", "rectangles of no package"), MakeSize},
+         QT_TRANSLATE_NOOP("DesignActions", "rectangles that are not part of a package"), MakeSize},
     };
     return actions;
 }

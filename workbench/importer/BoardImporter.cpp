@@ -51,8 +51,8 @@ TImportResult ImportBoardText(const TImportSource& source, const TImportProgress
             draft.textVariables = TextVariables::OfProject(source.projectText);
             const QString cause = draft.netSettings.ReadProject(source.projectText);
             if (!cause.isEmpty()) {
-                result.warnings.append(QStringLiteral("%1:%2; nets have no classes and colours from there")
-                                           .arg(source.projectName, cause));
+                result.warnings.append(
+                    QStringLiteral("%1:%2; its net classes and colours are not used").arg(source.projectName, cause));
             }
         }
         ReadBoard(tree.Root(), draft, ImportFiles::Part(50, 100, progress));

@@ -48,7 +48,7 @@ QByteArray ImportFiles::ReadProject(const QString& fileName, QString& problem)
     const bool isOpen = file.open(QIODevice::ReadOnly);
     if (!isOpen || file.size() > largestFile) {
         const QString cause = isOpen ? QStringLiteral("larger than 100 MB") : file.errorString();
-        problem = QStringLiteral("%1: %2; nets have no classes and colours from there")
+        problem = QStringLiteral("%1: %2; its net classes and colours are not used")
                       .arg(QDir::toNativeSeparators(fileName), cause);
         return {};
     }

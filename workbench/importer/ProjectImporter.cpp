@@ -71,7 +71,7 @@ private:
         }
         const QString cause = draft.netSettings.ReadProject(json);
         if (!cause.isEmpty()) {
-            result.warnings.append(QStringLiteral("%1:%2; nets have no classes and colours from there")
+            result.warnings.append(QStringLiteral("%1:%2; its net classes and colours are not used")
                                        .arg(QDir::toNativeSeparators(files.project), cause));
         }
         variables = TextVariables::OfProject(json);
@@ -181,8 +181,8 @@ TImportResult ImportDesign(const QString& fileName, const TImportProgress& progr
         }
     }
     if (missing.size() == 2) {
-        failed.error = QStringLiteral("%1: neither a board nor a schematic stands beside it")
-                           .arg(QDir::toNativeSeparators(fileName));
+        failed.error =
+            QStringLiteral("%1: there is no board or schematic beside it").arg(QDir::toNativeSeparators(fileName));
         return failed;
     }
     TImportResult result = TDesignImporter(files, progress).Import();

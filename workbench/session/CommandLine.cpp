@@ -46,7 +46,8 @@ TPerform ParseTree(const QString&)
 TPerform ParseSet(const QString& assignment)
 {
     if (!assignment.contains(QLatin1Char('='))) {
-        throw TSessionError(QStringLiteral("\"%1\" is no edit: Label=value or Label.part=value").arg(assignment));
+        throw TSessionError(
+            QStringLiteral("\"%1\" is not a valid edit: Label=value or Label.part=value").arg(assignment));
     }
     return [assignment](TSession& session) { return session.Set(assignment); };
 }
@@ -56,7 +57,7 @@ TPerform ParseKey(const QString& name)
     const auto key = QKeySequence::fromString(name, QKeySequence::PortableText);
     constexpr int unknown = Qt::Key_unknown;
     if (key.count() != 1 || (key[0] & unknown) == unknown) {
-        throw TSessionError(QStringLiteral("\"%1\" is no key: O, 5, Space, Ctrl+R and the like").arg(name));
+        throw TSessionError(QStringLiteral("\"%1\" is not a valid key, such as O, 5, Space or Ctrl+R").arg(name));
     }
     return [key](TSession& session) { return session.Press(key); };
 }
@@ -84,7 +85,7 @@ template <QString (TSession::*step)(const QString& renaming)>
 TPerform ParseRenaming(const QString& renaming)
 {
     if (renaming.indexOf(QLatin1Char('=')) < 1 || renaming.endsWith(QLatin1Char('='))) {
-        throw TSessionError(QStringLiteral("\"%1\" is no renaming: what=name").arg(renaming));
+        throw TSessionError(QStringLiteral("\"%1\" is not a valid renaming: what=name").arg(renaming));
     }
     return ParseText<step>(renaming);
 }
@@ -124,10 +125,10 @@ QPointF ParseAsked(const TDesignAction& action, const QString& given)
     }
     const std::optional<QPointF> numbers = DesignActions::ParseNumbers(action.asks, given);
     if (!numbers) {
-        const QString needed = action.asks == Asks::Point  ? QStringLiteral("place: x,y in millimetres")
+        const QString needed = action.asks == Asks::Point  ? QStringLiteral("position: x,y in millimetres")
                                : action.asks == Asks::Size ? QStringLiteral("size: width,height in millimetres")
                                                            : QStringLiteral("length in millimetres");
-        throw TSessionError(QStringLiteral("\"%1\" is no %2").arg(given, needed));
+        throw TSessionError(QStringLiteral("\"%1\" is not a valid %2").arg(given, needed));
     }
     return *numbers;
 }
@@ -193,8 +194,8 @@ std::vector<TStepOption> MakeStepOptions()
         {"--board", Argument::None, "", "show the board, and select there", ParseNothing<&TSession::ShowBoard>},
         {"--tree", Argument::None, "", "print the pages and parts of the project", ParseTree},
         {"--select", Argument::Required, "WHAT",
-         "select items: wire, via, pad, part, pin, netwire and the like, several with commas, or\n"
-         "all; with [i] or [i..j] for positions in the design's order among that kind, from 0",
+         "select items: comma-separated kinds (wire, via, pad, part, pin, netwire, ...) or all;\n"
+         "[i] or [i..j] after a kind: positions within it, from 0, in the design's order",
          ParseSelect},
         {"--panel", Argument::None, "", "print the panel: its title, then each row's label and value", ParsePanel},
         {"--set", Argument::Required, "LABEL=VALUE",
@@ -203,7 +204,7 @@ std::vector<TStepOption> MakeStepOptions()
          ParseSet},
         {"--key", Argument::Required, "KEY", "press a key on the canvas", ParseKey},
         {"--bypass", Argument::Required, "on|off",
-         "let edits of the selected items leave no undo step, or again leave one", ParseSwitch<&TSession::Bypass>},
+         "switch undo off for edits of the selected items (on), or back on (off)", ParseSwitch<&TSession::Bypass>},
     };
     for (const TDesignAction& action : DesignActions::All()) {
         options.push_back(OptionOf(action));
@@ -229,9 +230,9 @@ std::vector<TStepOption> MakeStepOptions()
         {"--history", Argument::None, "", "print the undo history", ParseHistory},
         {"--dump", Argument::Required, "FILE", "write every item of the design as one line of text; - prints it",
          ParseDump},
-        {"--show-layers", Argument::Required, "LAYERS", "show layers, several with commas, or all",
+        {"--show-layers", Argument::Required, "LAYERS", "show layers: comma-separated names, or all",
          ParseText<&TSession::ShowLayers>},
-        {"--hide-layers", Argument::Required, "LAYERS", "hide layers, several with commas, or all",
+        {"--hide-layers", Argument::Required, "LAYERS", "hide layers: comma-separated names, or all",
          ParseText<&TSession::HideLayers>},
         {"--zoom", Argument::Required, "EXTENT", "zoom to all or selection", ParseZoom},
         {"--screenshot", Argument::Required, "FILE", "write the window as a PNG picture", ParseScreenshot},
@@ -312,12 +313,13 @@ TCommandLine TCommandLine::Parse(const QStringList& arguments)
         } else if (const TStepOption* option = FindOption(argument)) {
             line.steps.append(ParseStep(*option, left));
         } else if (argument.startsWith(QLatin1Char('-')) && argument.size() > 1) {
-            throw TSessionError(QStringLiteral("there is no option %1").arg(argument));
+            throw TSessionError(QStringLiteral("unknown option %1").arg(argument));
         } else if (!line.file.isEmpty()) {
-            throw TSessionError(QStringLiteral("\"%1\" is too much: %2 is the file to open").arg(argument, line.file));
+            throw TSessionError(
+                QStringLiteral("unexpected argument \"%1\": %2 is the file to open").arg(argument, line.file));
         } else if (!line.steps.isEmpty()) {
             throw TSessionError(
-                QStringLiteral("\"%1\" is too late: the file to open stands before the steps").arg(argument));
+                QStringLiteral("unexpected argument \"%1\": the file must come before the steps").arg(argument));
         } else if (argument.isEmpty()) {
             throw TSessionError(QStringLiteral("the name of the file to open is empty"));
         } else {
@@ -337,14 +339,14 @@ QString TCommandLine::Usage()
     QString usage =
         QStringLiteral("workbench [FILE] [STEP...]\n\n"
                        "Opens a project (.kicad_pro) with its board and schematic, a schematic (.kicad_sch) or a\n"
-                       "board (.kicad_pcb); without FILE a sample.\n\n"
-                       "Steps are done in their order, without a screen:\n");
+                       "board (.kicad_pcb); without FILE, a sample project.\n\n"
+                       "Steps run in the order given, without a screen:\n");
     for (const TStepOption& option : StepOptions()) {
         usage +=
             entry(QStringLiteral("%1 %2").arg(QLatin1String(option.name), QLatin1String(option.argument)), option.help);
     }
     usage += entry(QStringLiteral("--timing"), QStringLiteral("print how many milliseconds each step takes"));
-    usage += entry(QStringLiteral("--help"), QStringLiteral("print this and end"));
+    usage += entry(QStringLiteral("--help"), QStringLiteral("print this help and exit"));
     usage += QStringLiteral("\nThe exit code is 0, or 2 after an error.\n");
     return usage;
 }

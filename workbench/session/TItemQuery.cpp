@@ -51,7 +51,8 @@ TItemQuery TItemQuery::Parse(const QString& text)
         const QRegularExpressionMatch match = pattern.match(partText.trimmed());
         if (!match.hasMatch()) {
             throw TSessionError(
-                QStringLiteral("\"%1\" is no selection: a kind such as via, or all, with [i] or [i..j]").arg(partText));
+                QStringLiteral("\"%1\" is not a valid selection: a kind such as via, or all, with [i] or [i..j]")
+                    .arg(partText));
         }
         TTerm part;
         part.kind = match.captured(1) == QLatin1String("all") ? QString() : match.captured(1);

@@ -40,7 +40,7 @@ TPropertySet& TSession::ShownSet() const
     }
     TPropertySet* set = window.Panel().PropertySet();
     if (!set) {
-        throw TSessionError(QStringLiteral("the panel is empty: there is nothing to edit about what is selected"));
+        throw TSessionError(QStringLiteral("the panel is empty: the selected items have no properties"));
     }
     return *set;
 }

@@ -238,7 +238,7 @@ bool TMainWindow::AskFor(const TDesignAction& action, QString& text, QPointF& po
     if (accepted && action.AsksForNumbers()) {
         const std::optional<QPointF> numbers = DesignActions::ParseNumbers(action.asks, text);
         if (!numbers) {
-            QMessageBox::warning(this, tr("Design"), tr("\"%1\" is not understood: %2").arg(text, action.Question()));
+            QMessageBox::warning(this, tr("Design"), tr("\"%1\" is not valid: %2").arg(text, action.Question()));
         }
         point = numbers.value_or(point);
         accepted = numbers.has_value();

@@ -247,18 +247,17 @@ private slots:
         file("no board", "(kicad_sch (version 20221018))", "1: not a board file: it does not begin with 'kicad_pcb'");
         file("a picture", "\x89PNG\r\n\x1a\n", "1: not a design file: it does not begin with a parenthesis");
         file("no version", "(kicad_pcb)", "1: 'kicad_pcb' without 'version'");
-        file("too old", "(kicad_pcb\n(version 4))",
-             "2: the file has format 4; those from 20171130 to 20241229 can be opened");
+        file("too old", "(kicad_pcb\n(version 4))", "2: unsupported file format 4; supported are 20171130 to 20241229");
         file("too new", "(kicad_pcb\n(version 20300101))",
-             "2: the file has format 20300101; those from 20171130 to 20241229 can be opened");
+             "2: unsupported file format 20300101; supported are 20171130 to 20241229");
         file("no layers", "(kicad_pcb (version 20221018))", "1: 'kicad_pcb' without 'layers'");
         file("no copper", "(kicad_pcb (version 20221018)\n(layers (39 F.Mask user)))",
              "2: the board has no copper layer");
         file("nine copper layers", BoardWithLayers(CopperLayers(9)),
-             "2: the board has 9 copper layers; at most 8 can be opened");
+             "2: the board has 9 copper layers; at most 8 are supported");
         file("32 copper layers", BoardWithLayers(CopperLayers(32)),
-             "2: the board has 32 copper layers; at most 8 can be opened");
-        file("layer without number", BoardWithLayers("(a Top signal)"), "3: layer 'Top' without a number");
+             "2: the board has 32 copper layers; at most 8 are supported");
+        file("layer without number", BoardWithLayers("(a Top signal)"), "3: layer 'Top' has no number");
         file("layer without type", BoardWithLayers("(0 Top)"), "3: '0' has fewer than 2 values");
         file("layer given twice", BoardWithLayers("(0 Top signal)\n(0 Two signal)"),
              "4: copper layer 'Two' is in the place of 'Top'");
@@ -268,20 +267,20 @@ private slots:
         element("via on an unknown net", "(via (at 0 0) (size 1) (net 9))", "net 9 is not in the board's list of nets");
         element("via without place", "(via (size 1))", "'via' without 'at'");
         element("via without size", "(via (at 0 0))", "'via' without 'size'");
-        element("via of negative size", "(via (at 0 0) (size -1))", "'-1' where no negative measure can be");
+        element("via of negative size", "(via (at 0 0) (size -1))", "'-1' must not be negative");
         element("half a place", "(via (at 0) (size 1))", "'at' has fewer than 2 values");
         element("no number", "(via (at 0 x) (size 1))", "'x' is not a number");
         element("number with exponent", "(via (at 0 1e3) (size 1))", "'1e3' is not a number");
         element("absurd number", "(via (at 0 123456789) (size 1))", "'123456789' is out of range");
-        element("list for a number", "(via (at 0 (0)) (size 1))", "a list '0' where a single value is due");
+        element("list for a number", "(via (at 0 (0)) (size 1))", "expected a single value, found list '0'");
         element("via on no copper", "(via (at 0 0) (size 1) (layers F.Cu F.Mask))",
-                "a via on layer 'F.Mask', which is no copper layer of the board");
+                "a via on layer 'F.Mask', which is not a copper layer of the board");
         element("footprint without place", "(footprint \"\" (layer F.Cu))", "'footprint' without 'at'");
         element("footprint without name", "(footprint (layer F.Cu) (at 0 0))",
-                "a list 'layer' where a single value is due");
+                "expected a single value, found list 'layer'");
         element("pad of unknown shape",
                 "(footprint \"\" (layer F.Cu) (at 0 0) (pad 1 smd star (at 0 0) (size 1 1) (layers F.Cu)))",
-                "'star' is no shape of a pad that can be read");
+                "unsupported pad shape 'star'");
         element("pad without size", "(footprint \"\" (layer F.Cu) (at 0 0) (pad 1 smd rect (at 0 0) (layers F.Cu)))",
                 "'pad' without 'size'");
         element("pad without layers", "(footprint \"\" (layer F.Cu) (at 0 0) (pad 1 smd rect (at 0 0) (size 1 1)))",
@@ -289,7 +288,7 @@ private slots:
         element("track without end", "(segment (start 0 0) (width 1) (layer F.Cu))", "'segment' without 'end'");
         element("track without width", "(segment (start 0 0) (end 1 0) (layer F.Cu))", "'segment' without 'width'");
         element("track on no copper", "(segment (start 0 0) (end 1 0) (width 1) (layer F.Mask))",
-                "a track on layer 'F.Mask', which is no copper layer of the board");
+                "a track on layer 'F.Mask', which is not a copper layer of the board");
         element("track on an unknown net", "(segment (start 0 0) (end 1 0) (width 1) (layer F.Cu) (net 9))",
                 "net 9 is not in the board's list of nets");
         element("track arc without middle", "(arc (start 0 0) (end 1 0) (width 1) (layer F.Cu))",
@@ -304,7 +303,7 @@ private slots:
         element("curve without points", "(gr_curve (pts (xy 0 0)) (layer F.SilkS))", "'pts' has fewer than 4 values");
         element("text without place", "(gr_text x (layer F.SilkS))", "'gr_text' without 'at'");
         element("text of negative height", "(gr_text x (at 0 0) (layer F.SilkS) (effects (font (size -1 1))))",
-                "'-1' where no negative measure can be");
+                "'-1' must not be negative");
         element("text of a footprint without place",
                 "(footprint A (layer F.Cu) (at 0 0) (fp_text user x (layer F.SilkS)))", "'fp_text' without 'at'");
         element("pad without anything", "(footprint \"\" (layer F.Cu) (at 0 0) (pad))", "'pad' without 'size'");

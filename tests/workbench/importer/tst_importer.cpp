@@ -342,7 +342,7 @@ private slots:
         const TImportResult imported = ImportPad("\"\" " + pad + " (layers *.Cu *.Mask)");
         QCOMPARE(All<TGraphicsHoleItem>(imported).size(), isHole ? 1 : 0);
         QCOMPARE(All<TGraphicsPadItem>(imported).size(), isHole ? 0 : 1);
-        QCOMPARE(NotShown(imported, "unplated slots and rings (taken as plated)"),
+        QCOMPARE(NotShown(imported, "unplated slots and rings (read as plated)"),
                  !isHole && pad.startsWith("np_thru_hole") ? 1 : 0);
         if (isHole) {
             QCOMPARE(float(Only<TGraphicsHoleItem>(imported)->Size().width()), float(3.2 * millimetre));
@@ -387,7 +387,7 @@ private slots:
         QCOMPARE(item->MaskClearance(), float(mask * millimetre));
         QCOMPARE(item->PasteClearance(), float(paste * millimetre));
         QTEST(int(item->Thermal()), "thermal");
-        QCOMPARE(NotShown(imported, "pads kept apart from zones"), ofPad.contains("connect 0") ? 1 : 0);
+        QCOMPARE(NotShown(imported, "pads without zone connections"), ofPad.contains("connect 0") ? 1 : 0);
     }
 
     void readsVias_data()

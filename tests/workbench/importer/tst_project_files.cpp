@@ -175,7 +175,7 @@ private slots:
         const TImportResult neither = ImportDesign(folder.Path("c.kicad_pro"));
         QVERIFY(!neither.board && !neither.schematic);
         QCOMPARE(neither.error,
-                 folder.Path("c.kicad_pro") + QStringLiteral(": neither a board nor a schematic stands beside it"));
+                 folder.Path("c.kicad_pro") + QStringLiteral(": there is no board or schematic beside it"));
         const TImportResult noProject = ImportDesign(folder.Path("d.kicad_sch"));
         QVERIFY(noProject.schematic && noProject.error.isEmpty());
         QCOMPARE(noProject.warnings.size(), 1);
@@ -188,8 +188,9 @@ private slots:
         QTest::addColumn<QByteArray>("sheet");
         QTest::addColumn<QByteArray>("board");
         QTest::addColumn<QString>("error"); // Behind the folder's name.
-        QTest::newRow("a broken sheet") << QByteArray("(kicad_sch (version 20230121)\n(wire)") << BoardText({})
-                                        << "d.kicad_sch:2: the file ends before the list of line 1 is closed";
+        QTest::newRow("a broken sheet")
+            << QByteArray("(kicad_sch (version 20230121)\n(wire)") << BoardText({})
+            << "d.kicad_sch:2: unexpected end of file: the list that begins in line 1 is not closed";
         QTest::newRow("a wire without places")
             << Sheet("(wire)") << BoardText({}) << "d.kicad_sch:12: 'wire' without 'pts'";
         QTest::newRow("a drawing without places")

@@ -108,20 +108,20 @@ private slots:
         row("nothing", "", "1: the file is empty");
         row("white space", " \n\n ", "3: the file is empty");
         row("other text", "\nGIF89a", "2: not a design file: it does not begin with a parenthesis");
-        row("never closed", "(a\n(b\n", "3: the file ends before the list of line 2 is closed");
-        row("not all closed", "\n(a (b)\n", "3: the file ends before the list of line 2 is closed");
-        row("closed twice", "(a)\n\n)", "3: a parenthesis is closed that was never opened");
+        row("never closed", "(a\n(b\n", "3: unexpected end of file: the list that begins in line 2 is not closed");
+        row("not all closed", "\n(a (b)\n", "3: unexpected end of file: the list that begins in line 2 is not closed");
+        row("closed twice", "(a)\n\n)", "3: unmatched closing parenthesis");
         row("text behind", "(a)\nb", "2: text after the closing parenthesis");
         row("a second list", "(a)\n(b)", "2: text after the closing parenthesis");
-        row("quote never closed", "(a\n \"b", "2: a quoted text does not end on its line");
-        row("quote over two lines", "(a\n \"b\nc\")", "2: a quoted text does not end on its line");
-        row("escaped line break in a quote", "(a \"b\\\nc\")", "1: a quoted text does not end on its line");
-        row("quote ends with a backslash", "(a \"b\\", "1: a quoted text does not end on its line");
-        row("only the last quote escaped", "(a \"b\\\")", "1: a quoted text does not end on its line");
-        row("control character", "(a\nb\001c)", "2: a control character (code 1) where text is due");
-        row("zero byte", QByteArray("(a\n\0)", 5), "2: a control character (code 0) where text is due");
-        row("too deep", Nested(TSexpressionTree::maxDepth + 1), "1: more than 100 lists within each other");
-        row("far too deep", Nested(3'000'000), "1: more than 100 lists within each other");
+        row("quote never closed", "(a\n \"b", "2: unterminated quoted text");
+        row("quote over two lines", "(a\n \"b\nc\")", "2: unterminated quoted text");
+        row("escaped line break in a quote", "(a \"b\\\nc\")", "1: unterminated quoted text");
+        row("quote ends with a backslash", "(a \"b\\", "1: unterminated quoted text");
+        row("only the last quote escaped", "(a \"b\\\")", "1: unterminated quoted text");
+        row("control character", "(a\nb\001c)", "2: unexpected control character (code 1)");
+        row("zero byte", QByteArray("(a\n\0)", 5), "2: unexpected control character (code 0)");
+        row("too deep", Nested(TSexpressionTree::maxDepth + 1), "1: lists are nested more than 100 deep");
+        row("far too deep", Nested(3'000'000), "1: lists are nested more than 100 deep");
     }
 
     void refuses()
@@ -173,8 +173,8 @@ private slots:
         QCOMPARE(Failure([&] { via.Get("size"); }), QString("1: 'via' without 'size'"));
         QCOMPARE(Failure([&] { via.Get("at").Value(1); }), QString("2: 'at' has fewer than 2 values"));
         QCOMPARE(Failure([&] { via.Get("layers").Value(0).Text(); }),
-                 QString("3: a list 'a' where a single value is due"));
-        QCOMPARE(Failure([&] { via.Millionths(); }), QString("1: a list 'via' where a single value is due"));
+                 QString("3: expected a single value, found list 'a'"));
+        QCOMPARE(Failure([&] { via.Millionths(); }), QString("1: expected a single value, found list 'via'"));
     }
 
     void knowsFlags_data()
@@ -260,7 +260,7 @@ private slots:
         };
         row("7", "", "", "");
         row("\"7\"", "", "", "");
-        row("-7", "", "", "1: '-7' where no negative measure can be");
+        row("-7", "", "", "1: '-7' must not be negative");
         row("7.5", "1: '7.5' is not a whole number", "", "");
         row("abc", "1: 'abc' is not a whole number", "1: 'abc' is not a number", "1: 'abc' is not a number");
         row("10000", "", "", "");

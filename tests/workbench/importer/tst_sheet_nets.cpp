@@ -344,9 +344,9 @@ private slots:
         row("no schematic", "(kicad_pcb (version 20211123))", {},
             "root.kicad_sch:1: not a schematic file: it does not begin with 'kicad_sch'");
         row("too old", "(kicad_sch\n(version 20200310))", {},
-            "root.kicad_sch:2: the file has format 20200310; those from 20211123 to 20250114 can be opened");
+            "root.kicad_sch:2: unsupported file format 20200310; supported are 20211123 to 20250114");
         row("too new", "(kicad_sch\n(version 20260101))", {},
-            "root.kicad_sch:2: the file has format 20260101; those from 20211123 to 20250114 can be opened");
+            "root.kicad_sch:2: unsupported file format 20260101; supported are 20211123 to 20250114");
         row("broken below", Sheet(box), "(kicad_sch (version 20230121)\n\n(wire (pts (xy 1 x) (xy 2 2))))",
             "below.kicad_sch:3: 'x' is not a number");
         row("missing below", Sheet(Box("Far", "far.kicad_sch", "box")), {},
@@ -359,7 +359,7 @@ private slots:
         row("more pages than a schematic can have", Sheet(box.repeated(255)), Sheet({}),
             "root.kicad_sch:266: more than 255 sheets");
         row("a symbol at a slant", Sheet(Symbol("R1", "L:R", "10 10 45")), {},
-            "root.kicad_sch:12: '45' where only an angle of whole quarters can be");
+            "root.kicad_sch:12: '45' is not a multiple of 90 degrees");
         row("a unit without number", Sheet({}).replace("R_1_1", "R_one"), {},
             "root.kicad_sch:5: 'R_one' does not end with the numbers of a unit and a body style");
     }

@@ -123,9 +123,9 @@ private slots:
         QTEST(pour->ThermalEnable(), "thermal");
         QTEST(pour->OnlyConnected(), "onlyConnected");
         QTEST(pour->MinimumArea(), "area");
-        QCOMPARE(NotShown(imported, "zones kept apart from their pads (taken as connected)"),
+        QCOMPARE(NotShown(imported, "zones without pad connections (read as connected)"),
                  options.contains("connect_pads no") ? 1 : 0);
-        QCOMPARE(NotShown(imported, "zones with thermal reliefs of drilled pads only (taken as of all)"),
+        QCOMPARE(NotShown(imported, "zones with thermal reliefs on drilled pads only (read as on all)"),
                  options.contains("thru_hole_only") ? 1 : 0);
     }
 
@@ -329,7 +329,7 @@ private slots:
         const auto ties = All<TGraphicsNetTiePcbItem>(imported);
         QCOMPARE(ties.size(), 2);
         QVERIFY(ties[0]->Number() != ties[1]->Number());
-        QCOMPARE(NotShown(imported, "drawings and texts of net ties"), 2);
+        QCOMPARE(NotShown(imported, "graphic shapes and texts of net ties"), 2);
         QVERIFY(!ties[0]->NameVisible());
     }
 

@@ -91,9 +91,9 @@ void TestProgram::theProgramEndsWithTwoAfterErrors_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("message");
 
-    QTest::newRow("no such option") << QStringList{"--nonsense"} << "^workbench: there is no option --nonsense .*\n$";
+    QTest::newRow("no such option") << QStringList{"--nonsense"} << "^workbench: unknown option --nonsense .*\n$";
     QTest::newRow("seen before the file is") << QStringList{"nofile.kicad_pcb", "--select", "via["}
-                                             << "^workbench: --select: \"via\\[\" is no selection.*\n$";
+                                             << "^workbench: --select: \"via\\[\" is not a valid selection.*\n$";
     QTest::newRow("no such file") << QStringList{"nofile.kicad_pcb", "--panel"}
                                   << "nofile.kicad_pcb: No such file or directory\n$";
     QTest::newRow("a broken file") << QStringList{"broken.kicad_pcb", "--panel"}

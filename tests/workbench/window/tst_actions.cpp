@@ -121,7 +121,7 @@ void TestActions::saysWhatIsNeeded_data()
     row("1", "part", {"--rename", "R9"}, "packages that are not named on the schematic");
     row("1", "pin", {"--revalue", "1"}, "parts of components");
     row("1", "part", {"--disconnect-entries"}, "bus entries");
-    row("2", "tag", {"--priority", "1"}, "something that is on a net");
+    row("2", "tag", {"--priority", "1"}, "an item that is on a net");
     row("2", "nettiesymbol", {"--tie-width", "1"}, "net ties of the board");
     row("1", "part", {"--resize", "1,1"}, "rectangles");
     row("1", "netwire", {"--add-node", "1,1"}, "one wire");
@@ -149,14 +149,14 @@ void TestActions::argumentsAreChecked_data()
     };
     row({"--priority", "10"}, "--priority: takes Default, 1, 2, 3, 4, 5, 6, 7, 8, 9, not \"10\"");
     row({"--priority", "default"}, "--priority: takes Default, ");
-    row({"--tie-width", "1,2"}, "--tie-width: \"1,2\" is no length in millimetres");
-    row({"--tie-width", "0"}, "--tie-width: \"0\" is no length");
-    row({"--tie-width", "nan"}, "--tie-width: \"nan\" is no length");
-    row({"--resize", "3"}, "--resize: \"3\" is no size: width,height in millimetres");
-    row({"--resize", "3,-1"}, "--resize: \"3,-1\" is no size");
-    row({"--rename-page", "Front"}, "--rename-page: \"Front\" is no renaming: what=name");
-    row({"--rename-page", "=Front"}, "--rename-page: \"=Front\" is no renaming");
-    row({"--rename-part", "R1="}, "--rename-part: \"R1=\" is no renaming");
+    row({"--tie-width", "1,2"}, "--tie-width: \"1,2\" is not a valid length in millimetres");
+    row({"--tie-width", "0"}, "--tie-width: \"0\" is not a valid length");
+    row({"--tie-width", "nan"}, "--tie-width: \"nan\" is not a valid length");
+    row({"--resize", "3"}, "--resize: \"3\" is not a valid size: width,height in millimetres");
+    row({"--resize", "3,-1"}, "--resize: \"3,-1\" is not a valid size");
+    row({"--rename-page", "Front"}, "--rename-page: \"Front\" is not a valid renaming: what=name");
+    row({"--rename-page", "=Front"}, "--rename-page: \"=Front\" is not a valid renaming");
+    row({"--rename-part", "R1="}, "--rename-part: \"R1=\" is not a valid renaming");
     row({"--page"}, "--page needs PAGE");
     row({"--open-part"}, "--open-part needs PART");
 }
@@ -302,7 +302,7 @@ void TestActions::aDialogAsks_data()
     };
     row("a size", "rectangle", "Change &size of rectangles…", "20,10", "Change size of 1 rectangle");
     row("a size that is none", "rectangle", "Change &size of rectangles…", "20", "",
-        "\"20\" is not understood: Width,height in millimetres");
+        "\"20\" is not valid: Width,height in millimetres");
     row("a size of nothing", "netwire", "Change &size of rectangles…", "20,10", "");
     row("a level", "netwire", "Change &priority of nets…", "4", "Change net priority of 1 net wire");
     row("a value", "part", "Change &value of components and packages…", "2k", "Change value of 2 parts");

@@ -40,7 +40,7 @@ TGraphicsPadItem::TypePadShape Shape(const TSexpression& pad)
     const auto found = std::find_if(std::begin(shapes), std::end(shapes),
                                     [&word](const auto& entry) { return word.IsWord(entry.word); });
     if (found == std::end(shapes)) {
-        word.Fail(QStringLiteral("'%1' is no shape of a pad that can be read").arg(word.Text()));
+        word.Fail(QStringLiteral("unsupported pad shape '%1'").arg(word.Text()));
     }
     return found->shape;
 }

@@ -60,7 +60,7 @@ void CheckHeader(const TSexpression& root)
     }
     const TSexpression version = root.Get("version").Value(0);
     if (version.Integer() < oldest || version.Integer() > newest) {
-        version.Fail(QStringLiteral("the file has format %1; those from %2 to %3 can be opened")
+        version.Fail(QStringLiteral("unsupported file format %1; supported are %2 to %3")
                          .arg(version.Integer())
                          .arg(oldest)
                          .arg(newest));

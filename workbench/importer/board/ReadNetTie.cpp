@@ -131,7 +131,7 @@ void ElementReaders::ReadNetTie(const TSexpression& footprint, TBoardDraft& draf
         const bool isText = element.Name() == "fp_text" || (element.Name() == "property" && element.Find("at"));
         const bool isDrawing = ShapeValues::IsShape(element) && !Osmirel::IsCopper(draft.LayerOf(element));
         if (isDrawing || (isText && !IsReference(element))) {
-            draft.notShown.Count("drawings and texts of net ties");
+            draft.notShown.Count("graphic shapes and texts of net ties");
         } else if (!isText && !ShapeValues::IsShape(element) && element.Name() != "pad") {
             CountElement(element, draft);
         }

@@ -99,7 +99,7 @@ void ApplyDefaults(const TPadDefaults& defaults, TGraphicsPadItem& item, TBoardD
 
     enum Connection : int { None = 0, ThermalRelief = 1, Solid = 2, ThermalReliefIfDrilled = 3 };
     switch (defaults.connection.value_or(-1)) {
-    case None: draft.notShown.Count("pads kept apart from zones"); break;
+    case None: draft.notShown.Count("pads without zone connections"); break;
     case ThermalRelief: item.SetThermal(TGraphicsViaItem::ThermalYes); break;
     case Solid: item.SetThermal(TGraphicsViaItem::ThermalNo); break;
     case ThermalReliefIfDrilled:
@@ -149,7 +149,7 @@ void ElementReaders::ReadPad(const TSexpression& pad, const TFootprintFrame& foo
     ApplyLayers(pad, item, footprint, draft);
     ApplyDefaults(ReadPadDefaults(pad, footprint.padDefaults), item, draft);
     if (!IsPlated(pad)) {
-        draft.notShown.Count("unplated slots and rings (taken as plated)");
+        draft.notShown.Count("unplated slots and rings (read as plated)");
     }
     if (pad.Find("padstack")) {
         draft.notShown.Count("pads whose copper differs by layer");

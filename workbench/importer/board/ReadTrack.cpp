@@ -28,7 +28,7 @@ TTrack Track(const TSexpression& element, const TBoardDraft& draft)
     track.net = draft.NetOf(element);
     track.isLocked = element.HasFlag("locked") || IsLockedByStatus(element);
     if (!Osmirel::IsCopper(track.layer)) {
-        layer.Fail(QStringLiteral("a track on layer '%1', which is no copper layer of the board").arg(layer.Text()));
+        layer.Fail(QStringLiteral("a track on layer '%1', which is not a copper layer of the board").arg(layer.Text()));
     }
     return track;
 }

@@ -17,7 +17,7 @@ QString DrillPair(const TSexpression& via, TBoardDraft& draft)
             ends[i] = draft.layers.Find(name.Text());
             if (!Osmirel::IsCopper(ends[i])) {
                 name.Fail(
-                    QStringLiteral("a via on layer '%1', which is no copper layer of the board").arg(name.Text()));
+                    QStringLiteral("a via on layer '%1', which is not a copper layer of the board").arg(name.Text()));
             }
         }
     }

@@ -46,7 +46,7 @@ std::unique_ptr<TGraphicsKeepoutItem> Keepout(const TSexpression& zone, const QP
     const std::optional<TSexpression> pours = zone.Get("keepout").Find("copperpour");
     if (pours && pours->Value(0).IsWord("allowed")) {
         // It would keep off what it lets in: it stays, and acts on no layer.
-        draft.notShown.Count("keepouts that let pours in (acting on no layer)");
+        draft.notShown.Count("keepouts that allow pours (acting on no layer)");
     } else {
         const QList<Osmirel::Layer> layers = Layers(zone, draft);
         for (const Osmirel::Layer layer : layers) {
@@ -86,10 +86,10 @@ void ApplyConnection(const TSexpression& zone, TGraphicsPourItem& pour, TBoardDr
     pour.SetClearanceToPour(clearance);
     pour.SetThermalEnable(!connection || !connection->HasFlag("yes"));
     if (connection && connection->HasFlag("no")) {
-        draft.notShown.Count("zones kept apart from their pads (taken as connected)");
+        draft.notShown.Count("zones without pad connections (read as connected)");
     }
     if (connection && connection->HasFlag("thru_hole_only")) {
-        draft.notShown.Count("zones with thermal reliefs of drilled pads only (taken as of all)");
+        draft.notShown.Count("zones with thermal reliefs on drilled pads only (read as on all)");
     }
 }
 

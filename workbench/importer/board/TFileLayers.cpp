@@ -88,7 +88,7 @@ int CopperPosition(const QString& name, const TSexpression& row)
     const std::string_view number = row.Name();
     const int ordinal = QByteArray(number.data(), static_cast<int>(number.size())).toInt(&isNumbered);
     if (!isNumbered) {
-        row.Fail(QStringLiteral("layer '%1' without a number").arg(name));
+        row.Fail(QStringLiteral("layer '%1' has no number").arg(name));
     }
     return ordinal;
 }
@@ -145,7 +145,7 @@ void TFileLayers::Read(const TSexpression& table, TLayerManager& board)
         table.Fail(QStringLiteral("the board has no copper layer"));
     }
     if (copperNames.size() > Osmirel::maxCopperLayers) {
-        table.Fail(QStringLiteral("the board has %1 copper layers; at most %2 can be opened")
+        table.Fail(QStringLiteral("the board has %1 copper layers; at most %2 are supported")
                        .arg(copperNames.size())
                        .arg(Osmirel::maxCopperLayers));
     }

@@ -174,7 +174,7 @@ bool TSexpression::HasFlag(std::string_view flag, int from) const
 std::string_view TSexpression::Atom() const
 {
     if (IsList()) {
-        Fail(QStringLiteral("a list %1 where a single value is due").arg(Shown(Name())));
+        Fail(QStringLiteral("expected a single value, found list %1").arg(Shown(Name())));
     }
     return Characters();
 }
@@ -226,7 +226,7 @@ qint64 TSexpression::Extent() const
 {
     const qint64 extent = Millionths();
     if (extent < 0) {
-        Fail(QStringLiteral("%1 where no negative measure can be").arg(Shown(Characters())));
+        Fail(QStringLiteral("%1 must not be negative").arg(Shown(Characters())));
     }
     return extent;
 }

@@ -45,7 +45,8 @@ void TSexpressionParser::Parse()
     while (!open.empty()) {
         SkipSpace();
         if (at == end) {
-            Fail(QStringLiteral("the file ends before the list of line %1 is closed").arg(nodes[open.back()].line));
+            Fail(QStringLiteral("unexpected end of file: the list that begins in line %1 is not closed")
+                     .arg(nodes[open.back()].line));
         }
         switch (*at) {
         case '(': OpenList(); break;
@@ -56,7 +57,7 @@ void TSexpressionParser::Parse()
     }
     SkipSpace();
     if (at != end) {
-        Fail(*at == ')' ? QStringLiteral("a parenthesis is closed that was never opened")
+        Fail(*at == ')' ? QStringLiteral("unmatched closing parenthesis")
                         : QStringLiteral("text after the closing parenthesis"));
     }
 }
@@ -73,7 +74,7 @@ void TSexpressionParser::SkipSpace()
 void TSexpressionParser::OpenList()
 {
     if (open.size() == TSexpressionTree::maxDepth) {
-        Fail(QStringLiteral("more than %1 lists within each other").arg(TSexpressionTree::maxDepth));
+        Fail(QStringLiteral("lists are nested more than %1 deep").arg(TSexpressionTree::maxDepth));
     }
     if (open.size() == 1) {
         Report();
@@ -98,7 +99,7 @@ void TSexpressionParser::ReadQuoted()
         at += isEscape ? 2 : 1;
     }
     if (at == end || *at == '\n') {
-        Fail(QStringLiteral("a quoted text does not end on its line"));
+        Fail(QStringLiteral("unterminated quoted text"));
     }
     AddNode(TSexpressionTree::Kind::Quoted, from, at);
     ++at;
@@ -108,7 +109,7 @@ void TSexpressionParser::ReadWord()
 {
     if (IsControl(*at)) {
         const int code = static_cast<unsigned char>(*at);
-        Fail(QStringLiteral("a control character (code %1) where text is due").arg(code));
+        Fail(QStringLiteral("unexpected control character (code %1)").arg(code));
     }
     const char* const from = at;
     while (at != end && !EndsWord(*at)) {

@@ -111,10 +111,8 @@ void TSheetFile::CheckHeader()
     const TSexpression format = Root().Get("version").Value(0);
     version = format.Integer();
     if (version < oldest || version > newest) {
-        format.Fail(QStringLiteral("the file has format %1; those from %2 to %3 can be opened")
-                        .arg(version)
-                        .arg(oldest)
-                        .arg(newest));
+        format.Fail(
+            QStringLiteral("unsupported file format %1; supported are %2 to %3").arg(version).arg(oldest).arg(newest));
     }
 }
 

@@ -30,7 +30,7 @@ int Quarters(const TSexpression& at)
     const std::optional<TSexpression> angle = at.FindValue(2);
     const qint64 turned = angle ? angle->Millionths() : 0;
     if (turned % quarter != 0) {
-        angle->Fail(QStringLiteral("'%1' where only an angle of whole quarters can be").arg(angle->Text()));
+        angle->Fail(QStringLiteral("'%1' is not a multiple of 90 degrees").arg(angle->Text()));
     }
     return static_cast<int>((turned / quarter % 4 + 4) % 4);
 }
