@@ -11,10 +11,10 @@ namespace ComponentRows {
 /** The name of a package without the qualifier that may follow it after an at sign. */
 inline QString NameWithoutQualifier(const QString& packageName)
 {
-    return packageName.left(packageName.indexOf(QLatin1Char('@'))); // All of it if there is none.
+    return packageName.left(packageName.indexOf(QLatin1Char('@'))); // The whole name if there is none.
 }
 
-/** Shows a text that all components share, and does not open for editing. */
+/** Shows a text that all components share, read-only. */
 inline void ShowReadOnly(TPropertyText& row, const TCommonValue<QString>& values)
 {
     RowValues::Show(row, values);
@@ -50,13 +50,14 @@ inline void LockText(TGraphicsItem* text, bool lock)
     }
 }
 
-/** Locks a component's designator, or value, in place, or unlocks it. */
+/** Locks a component's designator in place, or unlocks it. */
 inline void LockRefDes(TGraphicsComponentItem& item, bool lock)
 {
     item.SetLockRefDes(lock);
     LockText(item.RefDesText(), lock);
 }
 
+/** Locks a component's value in place, or unlocks it. */
 inline void LockValue(TGraphicsComponentItem& item, bool lock)
 {
     item.SetLockValue(lock);

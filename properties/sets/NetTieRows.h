@@ -16,7 +16,7 @@ void ShowName(TPropertyText& row, const Tie& tie)
     row.visible->show();
 }
 
-/** Shows the number of a tie, which cannot be edited. */
+/** Shows the number of a tie, read-only. */
 template <class Tie>
 void ShowNumber(TPropertyText& row, const Tie& tie)
 {

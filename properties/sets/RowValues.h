@@ -35,7 +35,7 @@ inline void Show(TPropertyFloatSpin& row, double value, const QString& suffix)
     row.spin->setValue(value);
 }
 
-/** A size, in the unit that the suffix names. The modes of a row whose height follows its width are set before. */
+/** A size, in the unit that the suffix names. For a row whose height follows its width, set the mode first. */
 inline void Show(TPropertySize& row, double width, double height, const QString& suffix)
 {
     row.SetSuffix(suffix);

@@ -8,10 +8,10 @@
 
 #include <algorithm>
 
-/** What sets take from the selection that they are given. Nulls in it count as nothing. */
+/** Reads the selection that a set is given. Nulls in it are ignored. */
 namespace Selection {
 
-/** The items that @p Kind accepts, in their order, as what they are. */
+/** The items that @p Kind accepts, in selection order, cast to their class. */
 template <class Kind, class Item = TGraphicsItem>
 QList<Item*> Pick(const QList<TGraphicsItem*>& selection)
 {
@@ -24,13 +24,13 @@ QList<Item*> Pick(const QList<TGraphicsItem*>& selection)
     return items;
 }
 
-/** Whether there is one item, of whatever kind: the name of a set may depend on it. */
+/** Whether exactly one item, of any kind, is selected: the name of a set may depend on it. */
 inline bool IsSingle(const QList<TGraphicsItem*>& selection)
 {
     return selection.size() - selection.count(nullptr) == 1;
 }
 
-/** The workspace of the first item, of whatever kind; null without one. */
+/** The workspace of the first item, of any kind; null without one. */
 inline TWorkspace* WorkspaceOf(const QList<TGraphicsItem*>& selection)
 {
     const auto first = std::find_if(selection.cbegin(), selection.cend(), [](TGraphicsItem* item) { return item; });

@@ -13,8 +13,9 @@ public:
 
     /** A length in scene units, converted to the unit. */
     double FromScene(double sceneLength) const;
-    /** The unit's name, and the same with a blank before it. */
+    /** The unit's name. */
     QString Name() const;
+    /** The unit's name after a blank. */
     QString Suffix() const { return QLatin1Char(' ') + Name(); }
 
 private:

@@ -7,7 +7,7 @@
 
 namespace {
 
-/** Not by their type; but what has no name of a bus, such as a junction of buses, cannot be given one. */
+/** Not by their type; but items without a bus name, such as a junction of buses, are left out. */
 struct Buses
 {
     static bool Accepts(const TGraphicsItem& item)

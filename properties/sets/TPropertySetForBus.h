@@ -5,7 +5,7 @@
 class TGraphicsBusItem;
 class TPropertyText;
 
-/** Names buses. Intended: they are known by their layer, and the name is written at once, without a command. */
+/** Names buses. Intended: buses are identified by their layer, and the name is written at once, without a command. */
 class PROPERTIES_EXPORT TPropertySetForBus : public TPropertySet
 {
     Q_OBJECT

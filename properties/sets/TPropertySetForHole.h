@@ -5,7 +5,7 @@
 class TGraphicsRectItem;
 class TPropertyFloatSpin;
 
-/** Edits the diameter of holes without plating. The row is there, and does nothing, without any hole too. */
+/** Edits the diameter of holes without plating. Without a hole the row is still shown, and editing it is a no-op. */
 class PROPERTIES_EXPORT TPropertySetForHole : public TPropertySet
 {
     Q_OBJECT

@@ -16,7 +16,7 @@ public:
     explicit TPropertySetForKeepout(const QList<TGraphicsItem*>& selection);
 
 public Q_SLOTS:
-    /** Acts on the layer of the row that sends the signal; called otherwise it does nothing. */
+    /** Acts on the layer of the row that sends the signal; a no-op if called otherwise. */
     void SetEn(bool on);
 
 private:

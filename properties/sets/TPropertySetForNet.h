@@ -10,21 +10,21 @@ class TPropertyText;
 class TSchematic;
 
 /**
- * Edits the nets of net wires of the schematic. The rows show the first wire's net, and class and colour are changed of
- * that net only; the level is changed of all nets of the selection. Every edit is a command.
+ * Edits the nets of net wires of the schematic. The rows show the first wire's net. Class and colour are changed for
+ * that net only, the level for all nets of the selection. Every edit is a command.
  */
 class PROPERTIES_EXPORT TPropertySetForNet : public TPropertySet
 {
     Q_OBJECT
 
 public:
-    /** Intended: the name of the set counts all items that are given. Looks at the net wires of @p selection, all of
+    /** Intended: the name of the set counts all items that are given. Reads the net wires of @p selection, all of
      * them on pages of @p schematic. */
     TPropertySetForNet(QList<TGraphicsItem*> selection, TSchematic* schematic);
 
 public Q_SLOTS:
     void slotSetClass(QString newClass);
-    /** "Default", or a digit. */
+    /** "Default" or a digit. */
     void slotSetPrio(QString newLevel);
     void slotSetColor(const QColor& newColor);
 

@@ -76,7 +76,7 @@ void TPropertySetForNetTiePcb::SetPadSz(double size)
 void TPropertySetForNetTiePcb::SetWireWidth(double width)
 {
     const double sceneWidth = Units::SceneFromMillimetres(width);
-    // Intended: the command is one of the pad size; only the direct write changes the wire.
+    // Intended: the command sets the pad size; only the direct write changes the wire.
     EditBy(
         ties, [&] { return new TCmdNetTiePadSz(ties, sceneWidth, project); },
         [sceneWidth](TGraphicsNetTiePcbItem& tie) { Attributes::NetTieWireWidth::Write(tie, sceneWidth); });

@@ -47,7 +47,7 @@ void TPropertySetForPackage::MakeRows(const Values& values, const QList<Osmirel:
     package = NewRow<TPropertyText>(tr("Package:"), QString(), false);
     ComponentRows::ShowReadOnly(*package, values.package);
 
-    id = NewRow<TPropertyText>(tr("Id:"), QString(), false); // Intended: made and not shown.
+    id = NewRow<TPropertyText>(tr("Id:"), QString(), false); // Intended: created but not shown.
     ComponentRows::ShowReadOnly(*id, values.id);
 
     lock = NewRow<TPropertyCheck2>(tr("Lock:"), tr("RefDes"), tr("Value"));

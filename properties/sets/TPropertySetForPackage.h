@@ -25,14 +25,16 @@ Q_SIGNALS:
     void sigAttr();
 
 public Q_SLOTS:
-    /** Intended: does nothing, since designators are renamed by a command of the application's only. */
+    /** Intended: a no-op, since only a command of the application renames designators. */
     void SetRefDes(QString refDes);
-    /** Written at once, without a command; emits `sigAttr`. */
+    /** @{ Written at once, without a command; emits `sigAttr`. */
     void SetValue(QString newValue);
     void SetPackage(QString newPackage);
-    /** Written at once, without a command. */
+    /** @} */
+    /** @{ Written at once, without a command. */
     void SetLockRefDes(bool on);
     void SetLockValue(bool on);
+    /** @} */
     void SetSide(Osmirel::Layer layer);
 
 private:

@@ -9,13 +9,13 @@
 
 struct TPropertySetForPad::Values
 {
-    // Shown as the first pad's, whether or not the others agree: that is intended.
+    // Intended: these rows show the first pad's values even if the pads differ.
     double width;
     double height;
     double drill;
     double maskClearance;
     double pasteClearance;
-    // Shown when all pads agree.
+    // These rows show a value only if all pads share it.
     TCommonValue<QString> number;
     TCommonValue<QString> name;
     TCommonValue<Osmirel::Layer> side;
@@ -127,7 +127,7 @@ void TPropertySetForPad::MakeCopperRows(const Values& values, const QList<Osmire
     connect(shape, SIGNAL(sigEnumChanged(int)), this, SLOT(SetShape(int)));
     connect(shape, SIGNAL(sigEnumChanged(int)), this, SLOT(ShapeChanged(int)));
 
-    // After the shape: the height of a locked row follows its width, and the row shows the first pad's own height.
+    // After the shape, so that the row shows the first pad's own height even where the height follows the width.
     RowValues::Show(*size, unit.FromScene(values.width), unit.FromScene(values.height), unit.Suffix());
     connect(size, SIGNAL(sigWidthChanged(double)), this, SLOT(SetWidth(double)));
     connect(size, SIGNAL(sigHeightChanged(double)), this, SLOT(SetHeight(double)));
@@ -169,14 +169,14 @@ void TPropertySetForPad::SetName(QString) {}
 void TPropertySetForPad::SetType(int smd)
 {
     Edit<TCmdPadType>(items, smd != 0, [](TGraphicsItem& item) {
-        // Intended: the direct write makes surface pads whatever type was chosen.
+        // Intended: the direct write always makes surface pads, whichever type was chosen.
         static_cast<TGraphicsPadItem&>(item).SetTypeSMD(true);
     });
 }
 
 void TPropertySetForPad::SetDrill(double newDrill)
 {
-    // The direct write reaches surface pads too, which the command leaves alone.
+    // Intended: the direct write also sets surface pads, which the command skips.
     Edit<TCmdViaDrill>(items, newDrill);
 }
 

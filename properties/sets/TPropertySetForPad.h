@@ -11,8 +11,8 @@ class TPropertySize;
 class TPropertyText;
 
 /**
- * Edits pads. Lengths are the first pad's; of the other values a row shows the one that all pads share. Pads of a
- * package keep their number, side, type, mask and paste.
+ * Edits pads. Lengths are the first pad's; a row for any other value shows it if all pads share it. Number, side, type,
+ * mask and paste of pads that belong to a package cannot be edited.
  */
 class PROPERTIES_EXPORT TPropertySetForPad : public TPropertySet
 {
@@ -23,24 +23,31 @@ public:
     TPropertySetForPad(const QList<TGraphicsItem*>& selection, const QList<Osmirel::Layer>& layers);
 
 public Q_SLOTS:
-    /** Lengths in millimetres. */
     void SetNumber(QString newNumber);
     /** Intended: does nothing, since names of pads are only displayed. */
     void SetName(QString name);
+    /** 1 for surface pads, 0 for through-hole pads. */
     void SetType(int smd);
+    /** In millimetres. */
     void SetDrill(double newDrill);
     void SetSide(Osmirel::Layer newSide);
+    /** A `TGraphicsPadItem::TypePadShape`. */
     void SetShape(int newShape);
+    /** @{ In millimetres. */
     void SetWidth(double width);
     void SetHeight(double height);
+    /** @} */
+    /** A `TGraphicsViaItem::TypeThermal`. */
     void SetThermal(int newThermal);
     void SetMaskEnable(bool on);
+    /** In millimetres. */
     void SetMaskClearance(double clearance);
     void SetPasteEnable(bool on);
+    /** In millimetres. */
     void SetPasteClearance(double clearance);
-    /** Shows the rows that belong to the type: 1 a surface pad, 0 one that goes through the board. */
+    /** Shows the rows that belong to the type: 1 for a surface pad, 0 for a through-hole pad. */
     void TypeChanged(int smd);
-    /** Puts the size row into the mode that belongs to the shape, a `TGraphicsPadItem::TypePadShape`. */
+    /** Switches the size row to the mode of the shape, a `TGraphicsPadItem::TypePadShape`. */
     void ShapeChanged(int newShape);
 
 private:
@@ -51,7 +58,7 @@ private:
     void MakeOpeningRows(const Values& values);
 
     QList<TGraphicsItem*> items;
-    bool hasPackagePad = false; ///< Some pad belongs to a package.
+    bool hasPackagePad = false; ///< Whether any pad belongs to a package.
     QPointer<TPropertyText> number;
     QPointer<TPropertyText> name;
     QPointer<TPropertyFloatSpin> drill;

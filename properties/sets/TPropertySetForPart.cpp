@@ -43,9 +43,9 @@ void TPropertySetForPart::MakeRows(const Values& values)
 {
     refDes = NewDisplay(tr("RefDes:"), values.refDes);
     value = NewDisplay(tr("Value:"), values.value);
-    name = NewDisplay(tr("Name:"), values.name); // Intended: made and not shown.
+    name = NewDisplay(tr("Name:"), values.name); // Intended: created but not shown.
     package = NewDisplay(tr("Package:"), values.package);
-    id = NewDisplay(tr("Id:"), values.id); // Intended: made and not shown.
+    id = NewDisplay(tr("Id:"), values.id); // Intended: created but not shown.
 
     lock = NewRow<TPropertyCheck2>(tr("Lock:"), tr("RefDes"), tr("Value"));
     RowValues::Show(*lock, values.lockRefDes, values.lockValue);

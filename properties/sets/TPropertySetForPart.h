@@ -19,14 +19,15 @@ public:
     explicit TPropertySetForPart(QList<TGraphicsItem*> selection);
 
 public Q_SLOTS:
-    /** Written at once, without a command. */
+    /** @{ Written at once, without a command. */
     void SetLockRefDes(bool on);
     void SetLockValue(bool on);
+    /** @} */
 
 private:
     struct Values;
     void MakeRows(const Values& values);
-    /** A row that shows what all parts share and cannot be edited. */
+    /** A read-only row for a value that all parts share. */
     TPropertyText* NewDisplay(const QString& label, const TCommonValue<QString>& values);
 
     QList<TGraphicsPartItem*> parts;

@@ -86,7 +86,7 @@ void TPropertySetForPin::MakeChoiceRows(const Values& values)
     RowValues::Show(*length, values.length);
     connect(length, SIGNAL(sigEnumChanged(int)), this, SLOT(SetPinLength(int)));
 
-    swap = NewRow<TPropertyIntSpin>(tr("Swap:"), 0, 255, 1); // Intended: made, connected and not shown.
+    swap = NewRow<TPropertyIntSpin>(tr("Swap:"), 0, 255, 1); // Intended: created and connected, but not shown.
     RowValues::ShowIfShared(*swap, values.swap.AllEqual(), [&] { swap->SetCurrentValue(values.swap.First()); });
     connect(swap, SIGNAL(sigValueChanged(int)), this, SLOT(SetSwap(int)));
 }

@@ -7,15 +7,15 @@ class TPropertyIntSpin;
 class TPropertyText;
 
 /**
- * Edits pins. Those of a placed symbol keep their name and number, and their length unless the symbol is open for
- * editing; the first pin tells whether it is placed.
+ * Edits pins. Name and number of pins of a placed symbol cannot be edited, nor their length unless the symbol is open
+ * for editing; whether it is placed is read from the first pin.
  */
 class PROPERTIES_EXPORT TPropertySetForPin : public TPropertySet
 {
     Q_OBJECT
 
 public:
-    /** Keeps the pins of @p selection, and is named for their number, not for that of all items. */
+    /** Keeps the pins of @p selection. The name of the set counts only these. */
     explicit TPropertySetForPin(QList<TGraphicsItem*> selection);
 
 public Q_SLOTS:

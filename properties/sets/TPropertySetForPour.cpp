@@ -49,13 +49,13 @@ TPropertySetForPour::TPropertySetForPour(QList<TGraphicsItem*> selection, QList<
     : TPropertySet(Selection::IsSingle(selection) ? tr("Pour") : tr("Pours")),
       pours(Selection::Pick<Attributes::OfKind<ItemType::Pour>, TGraphicsPourItem>(selection))
 {
-    // Intended: without a pour the rows show a cleared record.
+    // Intended: without a pour the rows show a value-initialised record.
     const Values shown = pours.isEmpty() ? Values() : Values(*pours.last());
     MakeFillRows(shown);
     MakeClearanceAndThermalRows(shown);
     MakeDrawingRows(shown, layers, Selection::WorkspaceOf(selection));
 
-    // Intended: the rows for border clearance, connection, composition mode and alpha are made and not shown.
+    // Intended: the rows for border clearance, connection, composition mode and alpha are created but not shown.
     AddProperties({clearanceToEtch, clearanceToPour, fillType, lineWidth, minimumArea, priority, thermalEnable,
                    thermalLine, thermalIsolation, layer, net});
 }

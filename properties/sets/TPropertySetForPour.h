@@ -11,8 +11,8 @@ class TPropertyLayer;
 class TPropertyText;
 
 /**
- * Edits pours. Intended: the rows show the last pour's values, and every edit is a command, with undo bypassed too.
- * Without a pour the rows are there, and editing them does nothing.
+ * Edits pours. Intended: the rows show the last pour's values, and every edit is a command, even if undo is bypassed.
+ * Without a pour the rows are still shown, and editing them is a no-op.
  */
 class PROPERTIES_EXPORT TPropertySetForPour : public TPropertySet
 {
@@ -23,27 +23,34 @@ public:
     TPropertySetForPour(QList<TGraphicsItem*> selection, QList<Osmirel::Layer> layers);
 
 public Q_SLOTS:
-    /** Lengths in millimetres, the area in square millimetres. */
+    /** @{ In millimetres. */
     void SetClearanceToEtch(qreal clearance);
     void SetClearanceToBorder(qreal clearance);
     void SetClearanceToPour(qreal clearance);
+    /** @} */
+    /** A `Qt::BrushStyle`. */
     void SetFillType(int brushStyle);
+    /** In millimetres. */
     void SetLineWidth(qreal width);
+    /** In square millimetres. */
     void SetMinimumArea(qreal area);
     void SetOnlyConnected(bool on);
     void SetPriority(int newPriority);
     void SetThermalEn(bool on);
+    /** @{ In millimetres. */
     void SetThermalLine(qreal width);
     void SetThermalIsol(qreal distance);
+    /** @} */
     void SetLayer(Osmirel::Layer newLayer);
     void SetNet(QString newNet);
-    /** Greys the line width for a solid filling. */
+    /** Disables the line width row for a solid fill. */
     void FillTypeChanged(int brushStyle);
-    /** Greys the thermal line for a solid type. Intended: nothing is connected to it. */
+    /** Disables the thermal line row for a solid type. Intended: no signal is connected to this slot. */
     void ThermalTypeChanged(int type);
-    /** Drawing only: written at once, without a command and without a refill. */
+    /** @{ Display only: written at once, without a command and without a refill. */
     void SetCompMode(int mode);
     void SetAlpha(int newAlpha);
+    /** @} */
 
 private:
     struct Values;
@@ -53,7 +60,7 @@ private:
     void MakeClearanceAndThermalRows(const Values& shown);
     void MakeDrawingRows(const Values& shown, const QList<Osmirel::Layer>& layers, TWorkspace* workspace);
 
-    /** Emits a command over all pours; without pours nothing happens. */
+    /** Emits a command over all pours; a no-op without pours. */
     template <class Command, class Value>
     void EmitFor(const Value& value);
 

@@ -12,7 +12,7 @@
 
 namespace {
 
-/** All but polylines, which are milling paths. */
+/** All except polylines, which are milling paths. */
 struct EditedPrimitives
 {
     static bool Accepts(const TGraphicsItem& item)
@@ -102,7 +102,7 @@ void TPropertySetForPrimitives::MakeRows(const Values& values, const QList<Osmir
     if (layers.size() > 1) {
         AddProperty(layer);
     }
-    // Intended: an item that is just being made takes its layer's colour.
+    // Intended: an item that is still being drawn has its layer's colour.
     if (!items.first()->HasTFlag(TGraphicsItem::UndoBypass)) {
         AddProperty(color);
     }

@@ -11,15 +11,15 @@ class TPropertySize;
 class TPropertyText;
 
 /**
- * Edits drawings. The stroke width shown is the first item's; of the other values a row shows the one that all share.
- * Parts of packages and symbols are shown too, and changed by direct writes only.
+ * Edits primitives. The stroke width is the first item's; a row for any other value shows it if all items share it.
+ * Primitives of packages and symbols are shown too, but changed by direct writes only.
  */
 class PROPERTIES_EXPORT TPropertySetForPrimitives : public TPropertySet
 {
     Q_OBJECT
 
 public:
-    /** Keeps the drawings of @p selection but polylines; @p layers are those that the "Layer:" row offers. */
+    /** Keeps the primitives of @p selection except polylines; @p layers are those that the "Layer:" row offers. */
     TPropertySetForPrimitives(QList<TGraphicsItem*> selection, QList<Osmirel::Layer> layers);
 
 public Q_SLOTS:

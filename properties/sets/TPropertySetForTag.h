@@ -9,7 +9,7 @@ class TPropertyEnum;
 class TPropertyFloatSpin;
 class TPropertyText;
 
-/** Edits the name of tags, and how they are drawn. Intended: the rows show the last tag's values, without comparing. */
+/** Edits the name of tags, and how they are drawn. Intended: the rows show the last tag's values, uncompared. */
 class PROPERTIES_EXPORT TPropertySetForTag : public TPropertySet
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
     TPropertySetForTag(const QList<TGraphicsItem*>& selection, TProject* project);
 
 public Q_SLOTS:
-    /** The stroke width as it is. Intended: always written at once, so that it cannot be undone. */
+    /** The stroke width in scene units. Intended: always written at once, so that it cannot be undone. */
     void SetLine(double width);
     void SetFontName(QString family);
     /** In points. */
@@ -28,7 +28,7 @@ public Q_SLOTS:
     /** A `Qt::AlignmentFlag`. */
     void SetAlign(int newAlignment);
     void SetName(QString newName);
-    /** 0 strokes, 1 outlines. */
+    /** 0 for strokes, 1 for outlines. */
     void SetTrueTrue(int outlines);
 
 private:

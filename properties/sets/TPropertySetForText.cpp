@@ -15,7 +15,7 @@ using TextsAndTags = Attributes::OfKind<ItemType::Text, ItemType::Tag>;
 struct TPropertySetForText::Values
 {
     bool outlines = false; ///< The first text's.
-    double lineWidth = 0;  ///< The last text's, and that is intended.
+    double lineWidth = 0;  ///< Intended: the last text's.
     bool onlyAngleAndLine = false;
     TCommonValue<QString> family;
     TCommonValue<int> size;

@@ -11,8 +11,8 @@ class TPropertyFloatSpin;
 class TPropertyLayer;
 
 /**
- * Edits texts. The font kind shown is the first text's and the line width the last one's; of the other values a row
- * shows the one that all texts share.
+ * Edits texts. The font kind is the first text's and the line width the last one's; a row for any other value shows it
+ * if all texts share it.
  */
 class PROPERTIES_EXPORT TPropertySetForText : public TPropertySet
 {
@@ -33,12 +33,12 @@ public Q_SLOTS:
     void SetAlign(int newAlignment);
     /** In degrees. */
     void SetAngle(int degrees);
-    /** 0 strokes, 1 outlines. */
+    /** 0 for strokes, 1 for outlines. */
     void SetTrueTrue(int outlines);
     void SetFontName(QString family);
     void SetMirrorV(bool on);
     void SetMirrorH(bool on);
-    /** The stroke width as it is. Intended: always written at once, so that it cannot be undone. */
+    /** The stroke width in scene units. Intended: always written at once, so that it cannot be undone. */
     void SetLine(double width);
 
 private:

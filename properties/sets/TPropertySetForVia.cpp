@@ -8,12 +8,12 @@
 
 struct TPropertySetForVia::Values
 {
-    // Shown as the first via's, whether or not the others agree: that is intended.
+    // Intended: these rows show the first via's values even if the vias differ.
     double diameter;
     double drill;
     double maskClearance;
     TGraphicsViaItem::TypeThermal thermal;
-    // Shown when all vias agree.
+    // These rows show a value only if all vias share it.
     TCommonValue<QString> group;
     TCommonValue<bool> maskEnable;
 

@@ -17,12 +17,16 @@ public:
     TPropertySetForVia(QList<TGraphicsItem*> selection, QStringList viaGroups);
 
 public Q_SLOTS:
-    /** Lengths in millimetres. */
+    /** @{ In millimetres. */
     void SetDiam(qreal diameter);
     void SetDrill(qreal diameter);
+    /** @} */
+    /** A `TGraphicsViaItem::TypeThermal`. */
     void SetThermal(int newThermal);
+    /** The name of a drill pair. */
     void SetGroup(QString newGroup);
     void SetMaskEnable(bool on);
+    /** In millimetres. */
     void SetMaskClearance(qreal clearance);
 
 private:

@@ -22,7 +22,7 @@
 
 namespace {
 
-/** What the chain of first links of a wire that is being routed begins at: null for nothing, or for a closed loop. */
+/** The item at which the chain of first links of a wire being routed begins; null for none or a closed loop. */
 const TGraphicsItem* StartOfRoute(const TGraphicsWireItem& wire)
 {
     QSet<const TGraphicsItem*> passed;
@@ -68,7 +68,7 @@ void TPropertySetForWire::MakeWireRows()
     layer->SetCurrentLayer(shown.Layer());
     connect(layer, SIGNAL(sigLayerChanged(Osmirel::Layer)), this, SLOT(SetLayer(Osmirel::Layer)));
 
-    compositionMode = NewRow<TPropertyEnum>(tr("Comp mode:")); // Intended: made and not shown.
+    compositionMode = NewRow<TPropertyEnum>(tr("Comp mode:")); // Intended: created but not shown.
     CompositionModes::AddTo(*compositionMode);
     compositionMode->SetCurrentEnum(shown.CompositionMode());
     connect(compositionMode, SIGNAL(sigEnumChanged(int)), this, SLOT(SetCompMode(int)));
@@ -128,7 +128,7 @@ QList<Osmirel::Layer> TPropertySetForWire::OfferedLayers() const
 
 void TPropertySetForWire::SetLayer(Osmirel::Layer newLayer)
 {
-    // Intended: the direct write adapts none of the links, as the command does.
+    // Intended: unlike the command, the direct write adapts none of the links.
     EditBy(
         wires, [&] { return new TCmdWireLayer(project, wires, newLayer); },
         [newLayer](TGraphicsWireItem& wire) { wire.SetLayer(newLayer); });

@@ -11,8 +11,8 @@ class TPropertyLayer;
 class TPropertyText;
 
 /**
- * Edits wires of the board, and class and colour of their net in a project that keeps schematic and board in step. The
- * rows show the last wire's width and layer; the net rows are for the first wire's net.
+ * Edits wires of the board, and class and colour of their net in a project that keeps schematic and board in sync. The
+ * rows show the last wire's width and layer; the net rows are those of the first wire's net.
  */
 class PROPERTIES_EXPORT TPropertySetForWire : public TPropertySet
 {
@@ -21,16 +21,17 @@ class PROPERTIES_EXPORT TPropertySetForWire : public TPropertySet
 public:
     TPropertySetForWire(const QList<TGraphicsItem*>& selection, TProject* project);
 
-    /** Digits set the width, "1" to "9" to tenths of a millimetre and "0" to a whole one; "O" changes the side. */
+    /** Digits set the width: "1" to "9" tenths of a millimetre, "0" one millimetre; "O" changes the side. */
     void KeyPressEvent(QKeyEvent* event) override;
 
 public Q_SLOTS:
     void SetLayer(Osmirel::Layer newLayer);
     /** In millimetres. */
     void SetWidth(qreal newWidth);
-    /** Net attributes are always changed by a command. */
+    /** @{ Net attributes are always changed by a command. */
     void SetClass(QString newClass);
     void SetColor(const QColor& newColor);
+    /** @} */
     /** A `QPainter::CompositionMode`; written at once, without a command. */
     void SetCompMode(int mode);
 

@@ -41,7 +41,7 @@ void TextRows::WriteLineWidth(TGraphicsTextItem& text, double width)
 
 void TextRows::AddFontNames(TPropertyEnum& row)
 {
-    constexpr int noValue = 0; // The names themselves are the choice.
+    constexpr int noValue = 0; // The texts themselves are the values.
     for (const QString& name : TApplication::CharSetNames()) {
         row.AddItem(name, noValue);
     }
