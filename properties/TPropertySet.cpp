@@ -18,7 +18,7 @@ TPropertySet::~TPropertySet()
     if (panel) {
         panel->Forget(*this);
     }
-    // Silence all rows first: an editor that loses the focus with its row would else report half-typed text.
+    // Silence all rows first: otherwise an editor that loses the focus with its row would report half-typed text.
     for (const QPointer<TAbstractProperty>& row : qAsConst(owned)) {
         if (row) {
             row->blockSignals(true);
@@ -31,8 +31,8 @@ TPropertySet::~TPropertySet()
     }
 }
 
-// Before the rows are deleted, and with them the tree is at work: the focus moves from editor to editor and out of the
-// tree, and whoever hears of that may do anything to both.
+// Before the rows are deleted, while the tree does not use them: the focus moves from editor to editor and out of the
+// tree, and a handler of that may do anything to rows and tree.
 void TPropertySet::HideEditors() const
 {
     const QList<TAbstractProperty*> shown = Properties();
@@ -93,12 +93,12 @@ void TPropertySet::AddToPropertyWidget(TPropertyWidget* newPanel)
     panel = newPanel;
     const QPointer<TPropertySet> self(this);
     newPanel->SetTitle(name.isNull() ? QLatin1String("") : name);
-    if (!self || !panel) { // Whoever watches the title may show another set.
+    if (!self || !panel) { // A handler of the title change may show another set.
         return;
     }
     TakeUnshownEditors();
 
-    // All items first and the editors then: each item that is inserted makes the tree measure every editor again.
+    // All items first, then the editors: each inserted item makes the tree measure every editor again.
     TTreeWidget* tree = newPanel->Tree();
     const QList<TAbstractProperty*> rows = Properties();
     QList<QTreeWidgetItem*> items;

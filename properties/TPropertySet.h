@@ -31,7 +31,7 @@ public:
     explicit TPropertySet(const QString& setName);
     ~TPropertySet() override;
 
-    /** Takes keys that the application forwards, and accepts the event of one that edits; the base does nothing. An
+    /** Handles keys that the application forwards, and accepts the event if it edits; the base ignores all. An
      * edit by a key is not shown in the rows: the application shows a new set. */
     virtual void KeyPressEvent(QKeyEvent* event);
 
@@ -40,13 +40,13 @@ public:
     /** Appends a row to those shown; the set owns it. A row that was added before is not added again. */
     void AddProperty(TAbstractProperty* property);
 
-    /** Appends several rows in display order; a null among them stands for a row that is not shown. */
+    /** Appends several rows in display order; a null stands for a row that is not shown. */
     void AddProperties(std::initializer_list<TAbstractProperty*> rows);
 
     /** The shown rows in display order. */
     QList<TAbstractProperty*> Properties() const;
 
-    /** Puts the rows into the panel's tree and titles the panel. Called by the panel; a second time it does nothing. */
+    /** Puts the rows into the panel's tree and titles the panel. Called by the panel; a second call is a no-op. */
     void AddToPropertyWidget(TPropertyWidget* panel);
 
 Q_SIGNALS:
@@ -66,11 +66,11 @@ protected:
 
     /**
      * The editing protocol: makes and emits a @p Command over the items with the value as the editor gave it, or, when
-     * the first item bypasses undo, writes the value to every item just as the command would. Without items nothing
-     * happens.
+     * the first item bypasses undo, writes the value to every item just as the command would. Without items it is a
+     * no-op.
      *
      * Items, and receivers of the command, can call back: when an edit returns, the set may be gone. So the items are
-     * taken as a list of their own, and a direct write reaches all of them whatever is shown by then.
+     * copied into a list, and a direct write reaches all of them whichever set is shown by then.
      */
     template <class Command, class Item, class Value>
     void Edit(const QList<Item*>& items, const Value& value)
@@ -122,7 +122,7 @@ protected:
 private:
     void Own(TAbstractProperty* row);
     void HideEditors() const;
-    /** Hides the editors of rows that are not shown in the panel, which else are top-level widgets. */
+    /** Hides the editors of rows that are not shown in the panel, which would otherwise be top-level widgets. */
     void TakeUnshownEditors();
     void PlaceEditor(TAbstractProperty& row, int height) const;
 

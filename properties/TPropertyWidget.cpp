@@ -35,7 +35,7 @@ TPropertyWidget::~TPropertyWidget()
         delete std::exchange(current, {}).data();
     }
     if (tree) {
-        tree->clear(); // Rows of a set whose destruction has led here.
+        tree->clear(); // Rows of a set whose destruction led here.
     }
 }
 
@@ -97,7 +97,7 @@ void TPropertyWidget::slotClickItem(QTreeWidgetItem* item, int)
 {
     QWidget* editor = item && tree ? tree->itemWidget(item, TAbstractProperty::editorColumn) : nullptr;
     if (editor) {
-        // Whoever hears of the focus may delete the panel, and both are at work.
+        // A handler of the focus may delete the panel, and panel and tree are still in use.
         const TWidgetHold treeHold(tree);
         const TWidgetHold editorHold(editor);
         editor->setFocus(Qt::OtherFocusReason);

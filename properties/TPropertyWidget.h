@@ -19,16 +19,16 @@ class PROPERTIES_EXPORT TPropertyWidget : public QWidget
 
 public:
     explicit TPropertyWidget(QWidget* parent);
-    /** Deletes the shown set. A set that the panel is given meanwhile is deleted with it. */
+    /** Deletes the shown set, and any set that the panel is given meanwhile. */
     ~TPropertyWidget() override;
 
     /**
      * Deletes the shown set and shows another, which the panel owns from then on; null shows none.
      *
-     * Deleting a set moves the focus and tells of its end. A handler of either may call this in turn, or delete the
-     * panel: the last call wins, and @p set is then gone when this returns.
+     * Deleting a set moves the focus and emits `destroyed`. A handler of either may call this in turn, or delete the
+     * panel: the last call wins, and @p set is then deleted when this returns.
      *
-     * A set that is shown must not be given again: it is deleted like any shown set, and the panel is then empty.
+     * The shown set must not be passed again: it is deleted like any shown set, and the panel is then empty.
      */
     void SetPropertySet(TPropertySet* set);
 
@@ -38,7 +38,7 @@ public:
     /** The tree that holds the rows; owned by the panel. */
     TTreeWidget* Tree() const;
 
-    /** Puts the panel's own window title into the current language. */
+    /** Translates the panel's own window title into the current language. */
     void UpdateTranslate();
 
     /** Titles the parent widget: "Properties", followed by the set's name if one is given. */
@@ -52,10 +52,10 @@ private Q_SLOTS:
 
 private:
     friend class TPropertySet;
-    /** Told by a set whose destruction begins: the panel must not delete it once more. */
+    /** Called by a set whose destruction has begun, so that the panel does not delete it again. */
     void Forget(const TPropertySet& set);
 
     QPointer<TTreeWidget> tree;
     QPointer<TPropertySet> current;
-    int calls = 0; ///< Of `SetPropertySet`, to tell whether one has come in another.
+    int calls = 0; ///< Of `SetPropertySet`, to detect a nested call.
 };

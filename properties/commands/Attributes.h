@@ -8,7 +8,7 @@
 
 #include <optional>
 
-/** Pieces that the attributes of `TAttributeCommand` are put together from. */
+/** Building blocks for the attributes of `TAttributeCommand`. */
 namespace Attributes PROPERTIES_EXPORT {
 
 /** Keeps the items of the given kinds. */
@@ -22,7 +22,7 @@ struct OfKind
     }
 };
 
-/** An attribute whose values the editor gives as the item holds them. */
+/** An attribute whose value is the same in the editor and in the item. */
 template <class ItemClass, class ValueType>
 struct Plain
 {
@@ -31,7 +31,7 @@ struct Plain
     static Value FromEditor(const Value& value) { return value; }
 };
 
-/** A length, which the editor gives in millimetres and the item holds in scene units. */
+/** A length: millimetres in the editor, scene units in the item. */
 template <class ItemClass>
 struct Length
 {
@@ -40,7 +40,7 @@ struct Length
     static double FromEditor(double millimetres) { return Units::SceneFromMillimetres(millimetres); }
 };
 
-/** A choice, which the editor gives as a number from the first to the last and the item holds as an enumeration. */
+/** A choice: a number from the first to the last enumerator in the editor, the enumeration in the item. */
 template <class ItemClass, class Enumeration, int first, int last>
 struct Choice
 {

@@ -11,7 +11,7 @@ struct TCommandKind
 {
     const char* key;    ///< Never translated, and the same in every release: the class's name without "TCmd".
     const char* phrase; ///< With "%1" for what is edited.
-    const char* what;   ///< What this sort of edit is about; empty where the phrase says it.
+    const char* what;   ///< What is edited, for "%1"; empty if the phrase says it.
 };
 
 /** What an application names its undo steps by, since commands carry no text. */

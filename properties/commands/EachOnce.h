@@ -3,7 +3,7 @@
 #include <QList>
 #include <QSet>
 
-/** The items of a list, each once, in the order in which they were first given. Null is skipped. */
+/** The items of a list without duplicates, in order of first occurrence. Nulls are skipped. */
 template <class Item>
 QList<Item*> EachOnce(const QList<Item*>& given)
 {

@@ -6,8 +6,8 @@
 
 class QGraphicsView;
 
-/** The design items that a view shows, in no particular order; none without a view. The view is asked once. */
+/** The design items that a view shows, in no particular order; none without a view. The view is queried once. */
 QVector<TGraphicsItem*> ItemsOfView(const QGraphicsView* view);
 
-/** Those of them that are of one of the given kinds. */
+/** Those that are of one of the given kinds. */
 QVector<TGraphicsItem*> ItemsOfView(const QGraphicsView* view, std::initializer_list<ItemType::Number> kinds);

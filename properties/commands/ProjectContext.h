@@ -9,7 +9,7 @@ class TNetModel;
 class TProject;
 class TSchematic;
 
-/** The parts of a project that commands reach; each is null when it, or anything on the way to it, is missing. */
+/** The parts of a project that commands use; null if the part, or anything on the way to it, is missing. */
 namespace ProjectContext {
 
 TBoard* Board(const TProject* project);
@@ -19,7 +19,7 @@ TNetModel* NetModel(TSchematic* schematic);
 TCmpModel* CmpModel(TSchematic* schematic);
 QGraphicsView* BoardView(const TProject* project);
 
-/** Whether schematic and board are kept in step. */
+/** Whether schematic and board are kept in sync. */
 PROPERTIES_EXPORT bool IsInSync(const TProject* project);
 
 } // namespace ProjectContext

@@ -17,15 +17,15 @@
  *     {
  *         using Item = …;                             // the class whose attribute it is
  *         using Value = …;                            // as an item holds it
- *         static bool Accepts(const TGraphicsItem&);  // which items the command keeps
+ *         static bool Accepts(const TGraphicsItem&);  // which items the command edits
  *         static Value FromEditor(…);                 // converts what the user edited; an optional where a number may
                                                     // be no value
  *         static Value Read(const Item&);             // the old value
- *         static void Write(Item&, const Value&);     // writes, and does the refresh that belongs to the write
+ *         static void Write(Item&, const Value&);     // writes, with the refresh that the write needs
  *     };
  *
- * The items are not owned and must outlive the command. Items that are not accepted are skipped silently; over no
- * items the command does nothing. Construction, `redo` and `undo` are linear in the items.
+ * The items are not owned and must outlive the command. Items that are not accepted are skipped silently; without
+ * items the command is a no-op. Construction, `redo` and `undo` are linear in the items.
  *
  * The functions are in `AttributeCommandEngine.h`, for the sources that instantiate the engine: what is exported is
  * compiled once, in its library.
@@ -44,7 +44,7 @@ public:
 
 protected:
     /** Keeps the accepted ones of @p given with their current values; @p value is as an item holds it. Without a value
-     *  the command changes nothing. */
+     *  the command is a no-op. */
     template <class GivenItem>
     TAttributeCommand(const QList<GivenItem*>& given, const std::optional<Value>& value);
 
@@ -55,7 +55,7 @@ protected:
 
     QList<Item*> items;
     QVector<Value> oldValues;      ///< Parallel to `items`.
-    std::optional<Value> newValue; ///< None for what is no value of the attribute.
+    std::optional<Value> newValue; ///< None if the editor's value is not valid for the attribute.
 };
 
 /** The rules by which `mergeWith` accepts another command of the same class over the same items in the same order. */
@@ -74,8 +74,8 @@ public:
 
     /**
      * Merges with a later command: true when it is one of the same class over the same items in the same order and
-     * the rule accepts its new value. Anything else is refused and changes nothing: null, and commands without a
-     * value.
+     * the rule accepts its new value. Anything else, including null and commands without a value, is refused and
+     * changes nothing.
      *
      * Intended: this does not override the toolkit's function of the same name, so that the undo stack never merges
      * and every edit stays its own undo step.

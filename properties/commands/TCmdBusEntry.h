@@ -18,8 +18,8 @@ class TGraphicsItem;
 class TGraphicsNetItem;
 
 /**
- * Takes bus entries off their page, cut from their buses and net wires. The entries belong to the command while they
- * are off the page. Made by the application.
+ * Takes bus entries off their page, disconnected from their buses and net wires. The command owns the entries while
+ * they are off the page. Created by the application.
  */
 class PROPERTIES_EXPORT TCmdBusEntryDisconnect : public TReversibleCommand
 {
@@ -47,7 +47,7 @@ private:
     void LinkAgain(int index);
 
     std::vector<TDetachedItem<TGraphicsBusEntryItem>> entries;
-    // Parallel to `entries`: what each of them was linked to; null for nothing.
+    // Parallel to `entries`: what each of them was linked to, or null.
     QVector<TGraphicsBusItem*> buses;
     QVector<TGraphicsNetItem*> nets;
     QVector<bool> isFirstLink; ///< Whether the entry was the net wire's first linked item, else its last.

@@ -84,7 +84,7 @@ bool TCmdCmpValue::SetValueOfAll(const QStringList& values)
     AddPackages(project, items);
     for (int i = 0; i < numbers.size(); ++i) {
         TCmpModelItem* component = model->CmpModelItem(numbers.at(i));
-        if (isFirstTime) { // If it is the old values that are given, each is there before it is written.
+        if (isFirstTime) { // `values` may be `oldValues`: each is read before it is written.
             oldValues.append(component ? component->value : QString());
         }
         if (!component || i >= values.size()) {

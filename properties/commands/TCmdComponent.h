@@ -11,7 +11,7 @@ class TProject;
 
 /**
  * Changes the value of components: in the schematic's component model, on all of their parts, and on their packages
- * where schematic and board are kept in step and the board's connectivity is switched on. Made by the application.
+ * where schematic and board are kept in sync and the board's connectivity is switched on. Created by the application.
  */
 class PROPERTIES_EXPORT TCmdCmpValue : public TReversibleCommand
 {
@@ -22,8 +22,8 @@ public:
      */
     TCmdCmpValue(const QList<unsigned short>& numbers, const QString& value, TProject* project);
 
-    /** Writes values, parallel to the components' numbers, of which the last may be left out. The first time, the
-     * values so far are kept for undo. */
+    /** Writes values, parallel to the components' numbers; trailing ones may be left out. The first call keeps the
+     * former values for undo. */
     void SetValue(const QStringList& values);
 
     TCommandKind Kind() const override;

@@ -11,7 +11,7 @@
 
 class TGraphicsKeepoutItem;
 
-/** Lets keepouts act on one copper layer, or not. */
+/** Switches keepouts on or off on one copper layer. */
 class PROPERTIES_EXPORT TCmdKeepoutLayEn : public TReversibleCommand
 {
 public:

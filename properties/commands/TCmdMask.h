@@ -9,7 +9,7 @@
 
 namespace Attributes PROPERTIES_EXPORT {
 
-/** How far the mask opening of pads and vias reaches beyond the copper: set as a via's, on pads too. */
+/** How far the mask opening of vias and pads reaches beyond the copper; on pads too, the via's setter writes it. */
 struct MaskClearance : Length<TGraphicsViaItem>, OfKind<ItemType::Pad, ItemType::Via>
 {
     static double Read(const TGraphicsViaItem& via) { return static_cast<double>(via.MaskClearance()); }

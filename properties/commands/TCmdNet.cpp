@@ -142,7 +142,7 @@ bool TCmdNetColorPcb::Undo()
 void TCmdNetColorPcb::SetColor(const QString& ofNet, const QColor& color)
 {
     TNetModel* model = ProjectContext::NetModel(project);
-    if (!model || ofNet.isEmpty()) { // The empty name is no net.
+    if (!model || ofNet.isEmpty()) { // The empty name is not a net.
         return;
     }
     model->SetColorPcb(ofNet, color);
@@ -156,7 +156,7 @@ void TCmdNetColorPcb::SetColor(const QString& ofNet, const QColor& color)
 TCmdNetPrio::TCmdNetPrio(const QStringList& ofNets, const QString& level, TProject* ofProject)
     : project(ofProject), nets(ofNets), newLevel(level)
 {
-    nets.removeAll(QString()); // The empty name is no net.
+    nets.removeAll(QString()); // The empty name is not a net.
     KeepOldLevels();
 }
 
@@ -201,7 +201,7 @@ bool TCmdNetPrio::Undo()
 void TCmdNetPrio::SetLevels(const QStringList& levels)
 {
     QHash<QString, QString> levelOfNet;
-    for (int i = nets.size() - 1; i >= 0; --i) { // Backwards: of a net that is listed twice the first entry counts.
+    for (int i = nets.size() - 1; i >= 0; --i) { // Backwards: if a net is listed twice, the first entry wins.
         levelOfNet.insert(nets.at(i), levels.at(i));
     }
     TNetModel* model = ProjectContext::NetModel(project);

@@ -15,7 +15,7 @@ class TProject;
 class TSchematic;
 class TWorkspace;
 
-/** Gives a net of the project another class. A class that the schematic does not know changes nothing. */
+/** Gives a net of the project another class. For a class that the schematic does not know it is a no-op. */
 class PROPERTIES_EXPORT TCmdNetClass : public TReversibleCommand
 {
 public:
@@ -37,7 +37,7 @@ private:
     TProject* project;
     QString net;
     QString newClass;
-    std::optional<QString> oldClass; ///< Of the moment when the command was made, or when it could act first.
+    std::optional<QString> oldClass; ///< The value at construction, or when the command could first act.
 };
 
 /** Gives a net another colour in its schematic; an invalid one stands for the layers' colours. */
@@ -58,7 +58,7 @@ private:
     TSchematic* schematic;
     QString net;
     QColor newColor;
-    std::optional<QColor> oldColor; ///< Of the moment when the command was made, or when it could act first.
+    std::optional<QColor> oldColor; ///< The value at construction, or when the command could first act.
 };
 
 /** Gives a net of the project another colour on the board; an invalid one stands for the layers' colours. */
@@ -83,7 +83,7 @@ private:
     TProject* project;
     QString net;
     QColor newColor;
-    std::optional<QColor> oldColor; ///< Of the moment when the command was made, or when it could act first.
+    std::optional<QColor> oldColor; ///< The value at construction, or when the command could first act.
 };
 
 /** Gives nets of the project another routing priority: "Default" or a digit. */
@@ -106,21 +106,22 @@ private:
     TProject* project;
     QStringList nets;
     QString newLevel;
-    QStringList oldLevels; ///< Parallel to `nets`: of the moment when the command was made, or could act first.
+    QStringList oldLevels; ///< Parallel to `nets`: at construction, or when the command could first act.
 };
 
 /**
- * Intended: changes nothing. It holds the place of a command that renames the net of an item, on the schematic or on
- * the board as the mode of the workspace says.
+ * Intended: a no-op. A placeholder for a command that renames the net of an item, on the schematic or on the board as
+ * the mode of the workspace says.
  */
 class PROPERTIES_EXPORT TCmdNetName : public TReversibleCommand
 {
 public:
     TCmdNetName(TGraphicsItem* item, const QString& name, TWorkspace* workspace, TProject* project);
 
-    /** Intended: do nothing. */
+    /** @{ Intended: a no-op. */
     void SetNetNameOnSch(const QString& name);
     void SetNetNameOnPcb(const QString& name);
+    /** @} */
 
     TCommandKind Kind() const override;
 
@@ -138,7 +139,7 @@ private:
     void SetNetName(const QString& name);
 };
 
-/** Intended: changes nothing. It holds the place of a command that renames a fragment of a net. */
+/** Intended: a no-op. A placeholder for a command that renames a fragment of a net. */
 class PROPERTIES_EXPORT TCmdFragmName : public TCmdNetName
 {
 public:

@@ -88,7 +88,7 @@ template <class Attribute>
 template <class ValueAt>
 bool TNetTieCommand<Attribute>::WriteAll(ValueAt valueAt)
 {
-    if (oldValues.isEmpty()) { // The list of all ties would have the schematic save its pages.
+    if (oldValues.isEmpty()) { // Listing all ties would make the schematic save its pages.
         return false;
     }
     const bool inSync = ProjectContext::IsInSync(project);

@@ -14,8 +14,8 @@
 class TProject;
 
 /**
- * The base of the net-tie commands, which keep numbers of ties instead of items: the ties that bear the numbers are
- * found anew at every redo and undo, on the schematic and on the board. By itself it changes nothing.
+ * The base of the net-tie commands, which keep the numbers of ties instead of pointers: the ties with these numbers are
+ * looked up at every redo and undo, on the schematic and on the board. By itself it is a no-op.
  */
 class PROPERTIES_EXPORT TCmdNetTieBase : public TReversibleCommand
 {
@@ -44,7 +44,7 @@ enum class PROPERTIES_EXPORT TieSides { Schematic, Board, Both };
 
 /**
  * A command over one attribute of net ties, a struct with `Value`, `sides`, and `Read` and `Write` for the items of
- * those sides. An edit reaches the side that it was made on, and the other one too when the project keeps both in step.
+ * those sides. An edit reaches the side it was made on, and also the other one if the project keeps both in sync.
  */
 template <class Attribute>
 class PROPERTIES_EXPORT TNetTieCommand : public TCmdNetTieBase
@@ -55,7 +55,7 @@ public:
     ~TNetTieCommand() override;
 
 protected:
-    /** Keeps the numbers of the ties, each with the value of the first tie that bears it. */
+    /** Keeps the numbers of the ties, each with the value of the first tie of that number. */
     template <class Tie>
     TNetTieCommand(const QList<Tie*>& ties, const Value& value, TProject* ofProject);
 
@@ -63,7 +63,7 @@ protected:
     bool Undo() override;
 
 private:
-    /** Writes to the sides that are there of those that the edit reaches. False without any. */
+    /** Writes to those sides that the edit reaches and that exist. False if there are none. */
     template <class ValueAt>
     bool WriteAll(ValueAt valueAt);
     template <class Tie, class ValueAt>
@@ -186,7 +186,7 @@ public:
     TCommandKind Kind() const override;
 };
 
-/** Sets the width, in scene units, of the wire of net ties. No set makes it; it is there for the application. */
+/** Sets the width, in scene units, of the wire of net ties. No set creates it; it is for the application. */
 class PROPERTIES_EXPORT TCmdNetTieWireWidth : public TNetTieCommand<Attributes::NetTieWireWidth>
 {
 public:

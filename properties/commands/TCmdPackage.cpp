@@ -253,7 +253,7 @@ bool TCmdPkgConnect::ActOnSaved(Action action)
     ExistItems();
     for (int i = 0; i < items.size(); ++i) {
         const QVector<TGraphicsItem*> saved = savedConnections.value(i);
-        if (!saved.isEmpty()) { // Nothing was changed here: an empty list would mean everything.
+        if (!saved.isEmpty()) { // Empty if the redo changed nothing; passed on, it would mean everything.
             Act(action, *items.at(i), saved);
         }
     }
@@ -263,7 +263,7 @@ bool TCmdPkgConnect::ActOnSaved(Action action)
 
 void TCmdPkgConnect::UpdateRats()
 {
-    // Intended: unlike a change of side, this lists the packages of no component too, as number 0.
+    // Intended: unlike a change of side, this also lists packages without a component, as number 0.
     board->UpdateRats(ComponentsOf(items, true));
 }
 

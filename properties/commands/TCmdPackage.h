@@ -15,8 +15,8 @@ class TGraphicsPackageItem;
 class TProject;
 
 /**
- * Moves packages, each once, to the other side of the board: cuts their connections, shows their texts as the board's
- * switches say, and connects them to what their pads touch there. Packages that are on the side already are left out.
+ * Moves packages, each once, to the other side of the board: disconnects them, shows or hides their texts as the
+ * board's switches say, and connects them to what their pads touch there. Packages already on that side are skipped.
  */
 class PROPERTIES_EXPORT TCmdPkgSide : public TReversibleCommand
 {
@@ -38,12 +38,12 @@ private:
     TBoard* board;
     QList<TGraphicsPackageItem*> items;
     QVector<Osmirel::Layer> oldLayers;                 ///< Parallel to `items`.
-    QVector<QVector<TGraphicsItem*>> savedConnections; ///< What the last redo cut; parallel to `items` from then on.
+    QVector<QVector<TGraphicsItem*>> savedConnections; ///< What the last redo cut; parallel to `items` since then.
     Osmirel::Layer newLayer;
 };
 
 /**
- * Renames the selected packages of the project's board. In a project that keeps schematic and board in step, packages
+ * Renames the selected packages of the project's board. In a project that keeps schematic and board in sync, packages
  * that belong to a component keep their designator.
  */
 class PROPERTIES_EXPORT TCmdPackageRefDes : public TReversibleCommand
@@ -60,7 +60,7 @@ protected:
     bool Do() override;
     bool Undo() override;
 
-    /** Writes the text that the command is about. */
+    /** Writes the text that the command edits. */
     virtual void Write(TGraphicsPackageItem& package, const QString& text) const;
 
     QList<TGraphicsPackageItem*> items;
@@ -101,10 +101,10 @@ protected:
 
     enum class Action { Connect, Disconnect };
 
-    /** Acts on every item with all that it touches, keeps what each of them returned, and updates the rat lines. False
+    /** Calls the action on every item for everything it touches, keeps the results, and updates the rat lines. False
      *  without the board's view. */
     bool ActOnAll(Action action);
-    /** Acts on every item with exactly what is kept for it, and updates the rat lines. False without the board's view.
+    /** Calls the action on every item for its kept result, and updates the rat lines. False without the board's view.
      */
     bool ActOnSaved(Action action);
 
@@ -114,10 +114,10 @@ private:
 
     TBoard* board;
     QList<TGraphicsItem*> items;
-    QVector<QVector<TGraphicsItem*>> savedConnections; ///< From the last redo; parallel to `items` from then on.
+    QVector<QVector<TGraphicsItem*>> savedConnections; ///< From the last redo; parallel to `items` since then.
 };
 
-/** Cuts packages and net ties of the board from what they are connected to. */
+/** Disconnects packages and net ties of the board. */
 class PROPERTIES_EXPORT TCmdPkgDisconnect : public TCmdPkgConnect
 {
 public:

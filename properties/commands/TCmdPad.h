@@ -25,7 +25,7 @@ struct PadHeight : Length<TGraphicsPadItem>, Pads
     static void Write(TGraphicsPadItem& pad, double height) { pad.SetHeight(height); }
 };
 
-/** Pads whatever their type number says: intended for the texts, which are set on every pad given. */
+/** Pads of any type number. Intended for the texts, which are set on every pad given. */
 struct EveryPad
 {
     static bool Accepts(const TGraphicsItem& item) { return dynamic_cast<const TGraphicsPadItem*>(&item) != nullptr; }
@@ -57,7 +57,7 @@ struct PadShape : Choice<TGraphicsPadItem, TGraphicsPadItem::TypePadShape, 1, 6>
     static void Write(TGraphicsPadItem& pad, Value shape) { pad.SetPadShape(shape); }
 };
 
-/** The layer of a surface pad; the old value is the end layer, which is the start layer as well. */
+/** The layer of a surface pad; the old value is the end layer, which equals the start layer. */
 struct PadSide : Plain<TGraphicsPadItem, Osmirel::Layer>, Pads
 {
     static Osmirel::Layer Read(const TGraphicsPadItem& pad) { return pad.EndLayer(); }
@@ -91,7 +91,7 @@ public:
     TCommandKind Kind() const override;
 };
 
-/** Sets the number of every pad given, without a look at its type number. */
+/** Sets the number of every pad given, regardless of its type number. */
 class PROPERTIES_EXPORT TCmdPadNumber : public TAttributeCommand<Attributes::PadNumber>
 {
 public:
@@ -99,7 +99,7 @@ public:
     TCommandKind Kind() const override;
 };
 
-/** Sets the name of every pad given, without a look at its type number. */
+/** Sets the name of every pad given, regardless of its type number. */
 class PROPERTIES_EXPORT TCmdPadName : public TAttributeCommand<Attributes::PadName>
 {
 public:
@@ -123,7 +123,7 @@ public:
     TCommandKind Kind() const override;
 };
 
-/** Makes pads surface pads, or pads that go through the board. */
+/** Makes pads surface pads or through-hole pads. */
 class PROPERTIES_EXPORT TCmdPadType : public TAttributeCommand<Attributes::PadType>
 {
 public:

@@ -13,7 +13,7 @@ TCmdPartConnect::TCmdPartConnect(const QList<TGraphicsItem*>& selection, TProjec
     const QList<TGraphicsItem*> once = EachOnce(selection);
     for (TGraphicsItem* item : once) {
         if (item->type() == ItemType::Part) {
-            parts.append(static_cast<TGraphicsPartItem*>(item)); // Intended: never asked again whether they exist.
+            parts.append(static_cast<TGraphicsPartItem*>(item)); // Intended: their existence is not checked later.
             numbers.Add(parts.last()->ComponentNumber());
         }
     }
@@ -27,7 +27,7 @@ TCommandKind TCmdPartConnect::Kind() const
 
 void TCmdPartConnect::UpdatePCB()
 {
-    // Intended: the board is asked even when there are no parts.
+    // Intended: the board is called even without parts.
     TBoard* board = ProjectContext::IsInSync(project) ? ProjectContext::Board(project) : nullptr;
     if (board && board->ConnectivityEnabled()) {
         board->UpdatePadNets(components);
@@ -65,7 +65,7 @@ void TCmdPartConnect::ActOnSaved(Action action)
 {
     for (int i = 0; i < parts.size(); ++i) {
         const QVector<TGraphicsItem*> saved = savedConnections.value(i);
-        if (!saved.isEmpty()) { // Nothing was changed here: an empty list would mean everything.
+        if (!saved.isEmpty()) { // Empty if the redo changed nothing; passed on, it would mean everything.
             Act(action, *parts.at(i), saved);
         }
     }

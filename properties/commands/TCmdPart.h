@@ -10,13 +10,13 @@ class TGraphicsItem;
 class TGraphicsPartItem;
 class TProject;
 
-/** Connects parts, each once, to what their pins touch. Made by the application. */
+/** Connects parts, each once, to what their pins touch. Created by the application. */
 class PROPERTIES_EXPORT TCmdPartConnect : public TReversibleCommand
 {
 public:
     TCmdPartConnect(const QList<TGraphicsItem*>& selection, TProject* project);
 
-    /** Gives the pads of the parts' components the nets of their pins, where schematic and board are kept in step and
+    /** Gives the pads of the parts' components the nets of their pins, where schematic and board are kept in sync and
      *  the board's connectivity is switched on. */
     void UpdatePCB();
 
@@ -28,9 +28,9 @@ protected:
 
     enum class Action { Connect, Disconnect };
 
-    /** Acts on every part with all that it touches, keeps what each of them returned, and updates the board. */
+    /** Calls the action on every part for everything it touches, keeps the results, and updates the board. */
     void ActOnAll(Action action);
-    /** Acts on every part with exactly what is kept for it, and updates the board. */
+    /** Calls the action on every part for its kept result, and updates the board. */
     void ActOnSaved(Action action);
 
 private:
@@ -38,11 +38,11 @@ private:
 
     TProject* project;
     QVector<TGraphicsPartItem*> parts;
-    QVector<QVector<TGraphicsItem*>> savedConnections; ///< From the last redo; parallel to `parts` from then on.
+    QVector<QVector<TGraphicsItem*>> savedConnections; ///< From the last redo; parallel to `parts` since then.
     QList<unsigned short> components;                  ///< The numbers of the parts, each once.
 };
 
-/** Cuts parts from what they are connected to. Made by the application. */
+/** Disconnects parts. Created by the application. */
 class PROPERTIES_EXPORT TCmdPartDisconnect : public TCmdPartConnect
 {
 public:

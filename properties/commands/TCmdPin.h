@@ -73,7 +73,7 @@ struct PinLength : Choice<TGraphicsPinItem, TGraphicsPinItem::TypePinLength, 0, 
     }
 };
 
-/** The swap group, 0 to 255. Intended: nothing is repainted. */
+/** The swap group, 0 to 255. Intended: no repaint. */
 struct PinSwap : Choice<TGraphicsPinItem, quint8, 0, 255>, Pins
 {
     static Value Read(const TGraphicsPinItem& pin) { return pin.Swap(); }

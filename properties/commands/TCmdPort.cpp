@@ -22,8 +22,8 @@ QColor ColorOf(const TNetModel& model, const QString& net)
     return model.ColorSch(model.NetRow(net));
 }
 
-/** The number of the component, or the net tie, whose pin an item is; nothing for other items. Intended: the board is
- *  told both as numbers of components. */
+/** The number of the component or net tie whose pin an item is; none for other items. Intended: the board gets both as
+ *  numbers of components. */
 void AddNumberOf(const TGraphicsItem& item, TUniqueNumbers& numbers)
 {
     const QGraphicsItem* parent = item.type() == ItemType::Pin ? item.parentItem() : nullptr;
@@ -69,7 +69,7 @@ void TCmdPortName::AddNewNet(TNetModel& model)
 {
     if (!model.HasNet(newName)) {
         model.AddNet(newName, QStringLiteral("Default"), QColor(), QColor(), 0);
-        addedNet = model.HasNet(newName) ? newName : QString(); // The empty name is no net.
+        addedNet = model.HasNet(newName) ? newName : QString(); // The empty name is not a net.
     }
 }
 
@@ -94,7 +94,7 @@ QStringList TCmdPortName::MoveToNewNet(const TNetModel& model)
 void TCmdPortName::DeleteUnused(const QStringList& nets, TNetModel& model)
 {
     QSet<QString> unused(nets.cbegin(), nets.cend());
-    unused.remove(newName); // Ports that share a net are on the new one already when their turn comes.
+    unused.remove(newName); // A port that shares its net with an earlier one is on the new net by its turn.
     schematic->SaveTopItemsFromWorkspace();
     const QList<TGraphicsItem*> items = schematic->Items();
     for (const TGraphicsItem* item : items) {
@@ -132,7 +132,7 @@ bool TCmdPortName::Undo()
 
 void TCmdPortName::GiveOldNames(const TNetModel& model)
 {
-    // Ports that are wired together rename each other: what each of them has done is taken back, the last one first.
+    // Ports that are wired together rename each other: their renamings are undone in reverse order.
     for (int i = ports.size() - 1; i >= 0; --i) {
         ports.at(i)->SetName(replacedNames.at(i), ColorOf(model, replacedNames.at(i)));
     }
@@ -162,7 +162,7 @@ void TCmdPortName::UpdatePCB()
 QList<unsigned short> TCmdPortName::ConnectedNumbers() const
 {
     TUniqueNumbers numbers;
-    QSet<const TGraphicsItem*> seen; // Ports that are wired together are connected to the same.
+    QSet<const TGraphicsItem*> seen; // Ports that are wired together have the same connected items.
     for (const TGraphicsPortItem* port : ports) {
         if (seen.contains(port->Pin())) {
             continue;

@@ -26,16 +26,16 @@ struct PortNameVisible : Plain<TGraphicsPortItem, bool>
 
 /**
  * Renames ports, and with that moves them and all that is wired to them to another net: adds that net to the net model
- * if it is new, and deletes the nets that no net wire of any page is on any more. In a project that keeps schematic and
- * board in step the board's pads follow.
+ * if it is new, and deletes the nets that have no net wire left on any page. In a project that keeps schematic and
+ * board in sync the board's pads follow.
  */
 class PROPERTIES_EXPORT TCmdPortName : public TReversibleCommand
 {
 public:
     TCmdPortName(QList<TGraphicsPortItem*> ports, const QString& name, TSchematic* schematic);
 
-    /** Gives the pads of all components that are connected to the ports the nets of their pins. Does nothing without a
-     *  board, and on one whose connectivity is switched off. */
+    /** Gives the pads of all components that are connected to the ports the nets of their pins. A no-op without a
+     * board, or if its connectivity is switched off. */
     void UpdatePCB();
 
     TCommandKind Kind() const override;
@@ -55,10 +55,10 @@ private:
 
     TSchematic* schematic;
     QList<TGraphicsPortItem*> ports;
-    QStringList oldNames;      ///< Parallel to `ports`: of the moment when the command was made.
-    QStringList replacedNames; ///< Parallel to `ports`: what each was called when the last redo came to it.
+    QStringList oldNames;      ///< Parallel to `ports`: the names at construction.
+    QStringList replacedNames; ///< Parallel to `ports`: the names just before the last redo renamed them.
     QString newName;
-    QString addedNet;                     ///< What the last redo added to the net model; empty for nothing.
+    QString addedNet;                     ///< The net that the last redo added to the net model, or empty.
     QList<QVector<QVariant>> deletedNets; ///< The rows that the last redo deleted from it, in that order.
 };
 

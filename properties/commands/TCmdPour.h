@@ -9,7 +9,7 @@
 
 namespace Attributes PROPERTIES_EXPORT {
 
-/** An attribute of a pour whose write ends with a refill. */
+/** An attribute of a pour that is refilled after a write. */
 template <class Editing, auto get, auto set>
 struct Filled : Editing
 {
@@ -55,7 +55,7 @@ struct PourOnlyConn : FilledValue<bool, &TGraphicsPourItem::OnlyConnected, &TGra
 struct PourThermEn : FilledValue<bool, &TGraphicsPourItem::ThermalEnable, &TGraphicsPourItem::SetThermalEnable>
 {};
 
-/** The net of a pour; its setter refills by itself. */
+/** The net of a pour; its setter refills the pour. */
 struct PourNet : Plain<TGraphicsPourItem, QString>
 {
     static bool Accepts(const TGraphicsPourItem&) { return true; }
@@ -136,7 +136,7 @@ public:
     TCommandKind Kind() const override;
 };
 
-/** Sets the priority of pours among each other, and refills them. */
+/** Sets the priority of pours over each other, and refills them. */
 class PROPERTIES_EXPORT TCmdPourPrio : public TMergingPourCommand<Attributes::PourPrio, CommandId::PourPrio>
 {
 public:
@@ -160,7 +160,7 @@ public:
     TCommandKind Kind() const override;
 };
 
-/** Sets whether pours leave out pieces that touch no copper of their net, and refills them. */
+/** Sets whether pours leave out islands, pieces that touch no copper of their net, and refills them. */
 class PROPERTIES_EXPORT TCmdPourOnlyConn : public TAttributeCommand<Attributes::PourOnlyConn>
 {
 public:
@@ -168,7 +168,7 @@ public:
     TCommandKind Kind() const override;
 };
 
-/** Sets whether pours connect by thermal spokes, and refills them. */
+/** Sets whether pours connect to pads and vias by thermal spokes, and refills them. */
 class PROPERTIES_EXPORT TCmdPourThermEn : public TAttributeCommand<Attributes::PourThermEn>
 {
 public:

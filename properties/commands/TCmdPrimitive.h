@@ -11,13 +11,13 @@
 
 namespace Attributes PROPERTIES_EXPORT {
 
-/** Drawings of any shape. */
+/** Primitives of any shape. */
 using AnyPrimitive = OfKind<ItemType::Line, ItemType::Rectangle, ItemType::Ellipse, ItemType::Polyline,
                             ItemType::Polygon, ItemType::Arc>;
-/** Drawings of a closed shape, which have a filling. */
+/** Primitives of a closed shape, which have a fill. */
 using FilledPrimitive = OfKind<ItemType::Rectangle, ItemType::Ellipse, ItemType::Polygon>;
 
-/** Leaves out what is part of a package or symbol: commands change only free drawings. */
+/** Leaves out what is part of a package or symbol: commands change only free primitives. */
 template <class Kinds>
 struct WithoutParent
 {
@@ -47,7 +47,7 @@ struct PenStyle : Plain<TGraphicsPenItem, Qt::PenStyle>, WithoutParent<AnyPrimit
     }
 };
 
-/** How a closed shape is filled; polygons keep their brush in another place than the other shapes. */
+/** The fill of a closed shape; the brush of a polygon is a member of another class than that of other shapes. */
 struct BrushStyle : Plain<TGraphicsItem, Qt::BrushStyle>, WithoutParent<FilledPrimitive>
 {
     static std::optional<Qt::BrushStyle> FromEditor(int style)
@@ -84,7 +84,7 @@ struct RectSize : Plain<TGraphicsRectItem, QSizeF>
 
 } // namespace Attributes
 
-/** Sets the stroke width, in millimetres, of free drawings. */
+/** Sets the stroke width, in millimetres, of free primitives. */
 class PROPERTIES_EXPORT TCmdPenWidth
     : public TMergingCommand<Attributes::PenWidth, CommandId::PenWidth, MergeRule::TakeOver>
 {
@@ -93,7 +93,7 @@ public:
     TCommandKind Kind() const override;
 };
 
-/** Sets the line style of free drawings. */
+/** Sets the line style of free primitives. */
 class PROPERTIES_EXPORT TCmdPenStyle
     : public TMergingCommand<Attributes::PenStyle, CommandId::PenStyle, MergeRule::EqualValue>
 {
@@ -102,7 +102,7 @@ public:
     TCommandKind Kind() const override;
 };
 
-/** Sets the filling of free drawings of a closed shape: a `Qt::BrushStyle`. */
+/** Sets the fill of free primitives of a closed shape: a `Qt::BrushStyle`. */
 class PROPERTIES_EXPORT TCmdBrushStyle : public TAttributeCommand<Attributes::BrushStyle>
 {
 public:
@@ -110,7 +110,7 @@ public:
     TCommandKind Kind() const override;
 };
 
-/** Moves free drawings to a layer. It has an id and yet is never merged. */
+/** Moves free primitives to a layer. Intended: it has an id but is never merged. */
 class PROPERTIES_EXPORT TCmdLayerPrim : public TAttributeCommand<Attributes::LayerPrim, CommandId::LayerPrim>
 {
 public:
@@ -127,7 +127,7 @@ public:
     TCommandKind Kind() const override;
 };
 
-/** Sets width and height, in scene units, of free rectangles. It has an id and yet is never merged. */
+/** Sets width and height, in scene units, of free rectangles. Intended: it has an id but is never merged. */
 class PROPERTIES_EXPORT TCmdRectSize : public TAttributeCommand<Attributes::RectSize, CommandId::RectSize>
 {
 public:

@@ -14,7 +14,7 @@ class TSchPage;
 class PROPERTIES_EXPORT TTreeEntryCommand : public TReversibleCommand
 {
 protected:
-    /** The entry is not owned and must outlive the command; null makes a command that does nothing. */
+    /** The entry is not owned and must outlive the command; null makes the command a no-op. */
     TTreeEntryCommand(QTreeWidgetItem* entry, int column, const QString& text);
 
     bool Do() override;
@@ -29,7 +29,7 @@ private:
     QString oldText;
 };
 
-/** Renames a part in the project tree. Made by the application. */
+/** Renames a part in the project tree. Created by the application. */
 class PROPERTIES_EXPORT TCmdPartRename : public TTreeEntryCommand
 {
 public:
@@ -37,7 +37,7 @@ public:
     TCommandKind Kind() const override;
 };
 
-/** Renames a page in the project tree. Made by the application. */
+/** Renames a page in the project tree. Created by the application. */
 class PROPERTIES_EXPORT TCmdPageRename : public TTreeEntryCommand
 {
 public:
@@ -69,8 +69,8 @@ public:
     TCmdPageOpen(unsigned char previous, unsigned char next);
 
     /**
-     * The page that the application is to open after the last redo or undo, 0 for none. The first answer is always 0:
-     * it is asked for when the command was pushed, and the page is open by then.
+     * The page that the application is to open after the last redo or undo, 0 for none. The first call always returns
+     * 0: it follows the push of the command, and the page is already open by then.
      */
     unsigned char OpeningPageId();
 

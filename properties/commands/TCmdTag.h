@@ -10,14 +10,14 @@
 class TGraphicsTagItem;
 class TProject;
 
-/** Renames tags, which then show what the project holds under the name. */
+/** Renames tags, which then show the project's value for the name. */
 class PROPERTIES_EXPORT TCmdTagName : public TReversibleCommand
 {
 public:
     /** Without a project tags have no values. */
     TCmdTagName(QList<TGraphicsTagItem*> tags, const QString& name, TProject* project);
 
-    /** Gives a tag the value of a name, empty for one that the project does not know, and then the name. */
+    /** Sets a tag's value to that of a name, empty if the project does not know it, and then its name. */
     void SetName(TGraphicsTagItem* tag, const QString& name);
 
     TCommandKind Kind() const override;

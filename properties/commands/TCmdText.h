@@ -7,7 +7,7 @@
 
 #include <graphics/TGraphicsTextItem.h>
 
-/** Font sizes: the editor speaks points, an item holds pixels, which are scene units. */
+/** Font sizes: points in the editor, pixels, which are scene units, in the item. */
 namespace FontSize {
 
 /** A point is 0.3528 mm: 4.166929133858268 scene units. */
@@ -18,21 +18,21 @@ PROPERTIES_EXPORT int PixelsFromPoints(int points);
 /** Rounded to the nearest, halves away from zero. */
 PROPERTIES_EXPORT int PointsFromPixels(int pixels);
 
-/** Writes a size that is a pixel or more; a smaller one leaves the font as it is. */
+/** Writes a size of at least one pixel; a smaller one does not change the font. */
 PROPERTIES_EXPORT void Write(QFont& font, int points);
 
 } // namespace FontSize
 
 namespace Attributes PROPERTIES_EXPORT {
 
-/** An attribute of every text given, whose path is brought up to date after the write. */
+/** An attribute of every text given, whose path is updated after the write. */
 template <class ValueType>
 struct OfText : Plain<TGraphicsTextItem, ValueType>
 {
     static bool Accepts(const TGraphicsTextItem&) { return true; }
 };
 
-/** Whether a text is set in outlines instead of strokes. */
+/** Whether a text is drawn in outlines instead of strokes. */
 struct TextTrueType : OfText<bool>
 {
     static bool Read(const TGraphicsTextItem& text) { return !text.IsVector(); }
@@ -53,7 +53,7 @@ struct TextFontName : OfText<QString>
     }
 };
 
-/** The font size in points. Undo brings back whole points: a size between two is rounded. */
+/** The font size in points. Undo restores whole points: other sizes are rounded. */
 struct TextFontSize : OfText<int>
 {
     static int Read(const TGraphicsTextItem& text) { return FontSize::PointsFromPixels(text.Font().pixelSize()); }
@@ -66,7 +66,7 @@ struct TextFontSize : OfText<int>
 
 struct TextAlign : OfText<Qt::AlignmentFlag>
 {
-    /** Of items of all kinds, the free texts. */
+    /** Only the free texts among items of all kinds. */
     static bool Accepts(const TGraphicsItem& item) { return item.type() == ItemType::Text; }
     using OfText::Accepts;
     static Qt::AlignmentFlag FromEditor(int alignment) { return static_cast<Qt::AlignmentFlag>(alignment); }
@@ -78,14 +78,14 @@ struct TextAlign : OfText<Qt::AlignmentFlag>
     }
 };
 
-/** The angle in whole degrees. Undo does not bring back a fraction of a degree. */
+/** The angle in whole degrees. Undo does not restore a fraction of a degree. */
 struct TextAngle : OfText<int>
 {
     static int Read(const TGraphicsTextItem& text) { return Units::WholeFrom(text.rotation()); }
     static void Write(TGraphicsTextItem& text, int degrees) { text.setRotation(degrees); }
 };
 
-/** Whether a text is bold. Undo brings back only the weights of normal and bold. */
+/** Whether a text is bold. Undo restores only the weights normal and bold. */
 struct TextBold : OfText<bool>
 {
     static bool Read(const TGraphicsTextItem& text);
@@ -157,7 +157,7 @@ class PROPERTIES_EXPORT TCmdTextAlign : public TAttributeCommand<Attributes::Tex
 {
 public:
     TCmdTextAlign(QList<TGraphicsTextItem*> texts, int alignment);
-    /** Keeps the free texts of a selection of any kinds. */
+    /** Keeps the free texts of a selection of any items. */
     TCmdTextAlign(const QList<TGraphicsItem*>& selection, int alignment);
 
     TCommandKind Kind() const override;

@@ -14,7 +14,7 @@ namespace Attributes PROPERTIES_EXPORT {
 
 using Vias = OfKind<ItemType::Via>;
 
-/** The diameter of a via: the smaller of its two measures. Written, it makes the via round. */
+/** The diameter of a via: the smaller of its width and height. Writing it makes the via round. */
 struct ViaDiameter : Length<TGraphicsViaItem>, Vias
 {
     static double Read(const TGraphicsViaItem& via)
@@ -23,13 +23,13 @@ struct ViaDiameter : Length<TGraphicsViaItem>, Vias
     }
     static void Write(TGraphicsViaItem& via, double diameter)
     {
-        // Intended: diameters are kept in single precision although the setter takes more.
+        // Intended: diameters are kept in single precision although the setter takes double.
         const auto size = static_cast<double>(static_cast<float>(diameter));
         via.SetSize(size, size);
     }
 };
 
-/** The drill diameter of vias and of pads that go through the board; a surface pad has no drill. */
+/** The drill diameter of vias and through-hole pads; a surface pad has no drill. */
 struct ViaDrill : Length<TGraphicsViaItem>
 {
     static bool Accepts(const TGraphicsItem& item)
@@ -52,7 +52,7 @@ struct ViaGroup : Plain<TGraphicsViaItem, QString>, Vias
     static void Write(TGraphicsViaItem& via, const QString& group) { via.SetViaGroup(group); }
 };
 
-/** How pours connect to vias and pads; nothing is repainted. */
+/** How pours connect to vias and pads; no repaint. */
 struct ViaThermal : Choice<TGraphicsViaItem, TGraphicsViaItem::TypeThermal, 0, 2>, OfKind<ItemType::Via, ItemType::Pad>
 {
     static Value Read(const TGraphicsViaItem& via) { return via.Thermal(); }
@@ -70,7 +70,7 @@ public:
     TCommandKind Kind() const override;
 };
 
-/** Sets the drill diameter, in millimetres, of vias and of pads that go through the board. */
+/** Sets the drill diameter, in millimetres, of vias and through-hole pads. */
 class PROPERTIES_EXPORT TCmdViaDrill
     : public TMergingCommand<Attributes::ViaDrill, CommandId::ViaDrill, MergeRule::TakeOver>
 {

@@ -62,7 +62,7 @@ TCmdWireAddNode::TCmdWireAddNode(TGraphicsWireItem* ofWire, const QPointF& point
     const QLineF line = wire->SceneLine();
     const QPointF across(-line.dy(), line.dx());
     const QLineF perpendicular(point, point + across);
-    // A wire without length has no direction: it is split where it is.
+    // A wire of zero length has no direction: it is split at its first point.
     if (line.intersects(perpendicular, &node) == QLineF::NoIntersection) {
         node = line.p1();
     }
@@ -102,8 +102,8 @@ bool TCmdWireAddNode::Undo()
         return false;
     }
     wire->SetPoint2(wire->mapFromScene(newWire->ScenePoint(TGraphicsItem::LinkEnd::Last)));
-    // Intended: without a last link of the new wire, the wire's own is left as it is, unless it is the new wire, which
-    // goes.
+    // Intended: if the new wire has no last link, the wire keeps its own, unless that is the new wire, which is about
+    // to be removed.
     TGraphicsItem* last = newWire->LastLink();
     if (last) {
         wire->SetLastLink(last);

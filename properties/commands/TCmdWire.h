@@ -41,8 +41,8 @@ public:
 };
 
 /**
- * Splits a wire at a node: the wire ends there, and a copy of it goes on from there. The board owns the copy while the
- * split is in force, and the command while it is not.
+ * Splits a wire at a node: the wire ends there, and a copy of it continues from there. The board owns the copy while
+ * the command is done, and the command while it is undone.
  */
 class PROPERTIES_EXPORT TCmdWireAddNode : public TReversibleCommand
 {
@@ -64,8 +64,8 @@ private:
     QPointF node;
 };
 
-/** Joins two wires at a node: the kept one is prolonged over the removed one, which the command owns meanwhile. Undo
- * puts that onto the board of the kept one. */
+/** Joins two wires at a node: the kept one is extended over the removed one, which the command owns meanwhile. Undo
+ * puts the removed one onto the board of the kept one. */
 class PROPERTIES_EXPORT TCmdWireDelNode : public TReversibleCommand
 {
 public:

@@ -122,7 +122,7 @@ void TCmdWireLayer::PutViaBetween(TGraphicsWireItem& wire, bool atFirst, TGraphi
 {
     TGraphicsViaItem* via = AddVia(wire.ScenePoint(End(atFirst)));
     insertedVias.append(via);
-    // Intended: the other wire's end is the opposite one, without a look at which of its ends touches.
+    // Intended: always the opposite end of the other wire, whichever of its ends touches.
     wire.LinkTo(End(atFirst), via);
     staying.LinkTo(End(!atFirst), via);
 }
@@ -133,7 +133,7 @@ void TCmdWireLayer::RejoinWires()
         TGraphicsViaItem* via = insertedVias.takeLast();
         const QList<TGraphicsSectionItem*> joined = via->LinkedWires();
         for (int i = 0; i < joined.size(); ++i) {
-            // Not two only if somebody else has changed the links: then nothing can be joined.
+            // The count differs from two only if the links were changed elsewhere: then nothing can be joined.
             joined[i]->ReplaceLinkedItem(via, joined.size() == 2 ? joined[1 - i] : nullptr);
             via->RemoveLinkedWire(joined[i]);
         }
@@ -184,7 +184,7 @@ void TCmdWireLayer::ReplaceJunction(TGraphicsJunctionItem& junction, const QPoin
     replacedJunctions.push_back({via, TDetachedItem<TGraphicsJunctionItem>(&junction)});
 }
 
-// After all vias were attached: the toolkit sorts all items of a scene for one that is attached after another left it.
+// After all vias were attached: attaching an item after another has left makes the toolkit sort the whole scene.
 void TCmdWireLayer::TakeOffReplacedJunctions()
 {
     for (auto replaced = replacedJunctions.rbegin(); replaced != replacedJunctions.rend(); ++replaced) {
@@ -219,7 +219,7 @@ void TCmdWireLayer::CutFromCopperWithoutLayer(TGraphicsWireItem& wire, bool atFi
         return;
     }
     cutWires.append({&wire, atFirst, &copper});
-    wire.Unlink(End(atFirst)); // This end and no other: both may be linked here.
+    wire.Unlink(End(atFirst)); // Only this end: both may be linked here.
     if (!ProjectContext::IsInSync(project)) {
         return;
     }

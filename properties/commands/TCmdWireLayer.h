@@ -24,28 +24,28 @@ class TGraphicsWireItem;
 class TProject;
 
 /**
- * Moves wires to another layer and keeps the copper connected: where a moved wire meets copper that stays behind, a via
- * takes the place of the joint; junctions of which all sections move go along; wires are cut from vias and pads that do
- * not reach the new layer, whose nets then get new rat lines.
+ * Moves wires to another layer and keeps the copper connected: where a moved wire meets copper that stays, a via
+ * replaces the joint; junctions move along if all their sections move; wires are cut from vias and pads that do not
+ * reach the new layer, and their nets get new rat lines.
  *
- * Undo reads as the mirror of redo: what redo did is recorded, and taken back from the end.
+ * Undo mirrors redo: redo records its steps, and undo reverts them in reverse order.
  */
 class PROPERTIES_EXPORT TCmdWireLayer : public TReversibleCommand
 {
 public:
-    /** Keeps the wires that are not on the new layer yet. Without a project with a board there are none. */
+    /** Keeps the wires that are not yet on the new layer; none without a project with a board. */
     TCmdWireLayer(TProject* ofProject, const QList<TGraphicsWireItem*>& given, Osmirel::Layer layer);
     ~TCmdWireLayer() override;
     Q_DISABLE_COPY(TCmdWireLayer)
 
-    /** Adapts what one end of a moved wire is linked to. Does nothing for an end without a link. */
+    /** Adapts what one end of a moved wire is linked to. A no-op for an end without a link. */
     void LinkRedo(TGraphicsWireItem* wire, bool atFirst);
 
-    /** Places a via on the board, which owns it: a copy of the first one of this redo, or else one of the default
-     *  size that the application's settings hold. Null without a board. */
+    /** Places a via on the board, which owns it: a copy of the first one of this redo, or else one of the default size
+     *  in the application's settings. Null without a board. */
     TGraphicsViaItem* AddVia(const QPointF& scenePoint);
 
-    /** A length in scene units from a setting in millimetres; the default where that is no number within the range. */
+    /** A length in scene units from a setting in millimetres; the default if that is not a number within the range. */
     double FromRegDouble(QSettings* settings, const QString& key, double min, double max, double def);
 
     TCommandKind Kind() const override;
@@ -89,7 +89,7 @@ private:
     TItemScene* owner = nullptr; ///< What items on the board are attached to.
     QList<TGraphicsWireItem*> wires;
     QVector<Osmirel::Layer> oldLayers; ///< Parallel to `wires`.
-    QSet<const TGraphicsItem*> moving; ///< The wires, to be found quickly.
+    QSet<const TGraphicsItem*> moving; ///< The wires, for lookup.
     Osmirel::Layer newLayer;
 
     std::unique_ptr<TRecreatedItems<TGraphicsViaItem>> madeVias;
@@ -97,10 +97,10 @@ private:
     // What redo did; empty before redo and after undo.
     QList<TGraphicsViaItem*> insertedVias;
     QVector<MovedJunction> movedJunctions;
-    QSet<const TGraphicsJunctionItem*> alreadyMoved; ///< Those of `movedJunctions`, to be found quickly.
+    QSet<const TGraphicsJunctionItem*> alreadyMoved; ///< Those of `movedJunctions`, for lookup.
     std::vector<ReplacedJunction> replacedJunctions;
     QVector<CutWire> cutWires;
 
-    QStringList netsToRefresh; ///< Without duplicates; only grows.
-    QSet<QString> notedNets;   ///< The same, to be found quickly.
+    QStringList netsToRefresh; ///< Without duplicates; never shrinks.
+    QSet<QString> notedNets;   ///< The same, for lookup.
 };

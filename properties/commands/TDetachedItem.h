@@ -10,7 +10,7 @@
 /**
  * An item that a command takes off the design and puts back: owned by the command exactly while it is off.
  *
- * The item itself is not looked at on destruction unless it is owned, since an item on the design may be gone by then.
+ * The destructor does not dereference an item it does not own: an item on the design may have been deleted by then.
  */
 template <class Item>
 class TDetachedItem
@@ -37,7 +37,7 @@ public:
     Item* Get() const { return item; }
     bool IsDetached() const { return detached; }
 
-    /** Takes the item off its scene. One that is on none stays with whoever has it. */
+    /** Takes the item off its scene. An item without a scene keeps its owner. */
     void Detach()
     {
         if (item->Owner()) {
@@ -47,14 +47,14 @@ public:
         }
     }
 
-    /** The same, but one that is on no scene belongs to the command as well. */
+    /** The same, but takes ownership of an item without a scene too. */
     void TakeOver()
     {
         Detach();
         detached = true;
     }
 
-    /** Puts the item back onto the scene that it was taken from, which owns it from then on. */
+    /** Puts the item back onto the scene it was taken from, which owns it from then on. */
     void Attach()
     {
         if (detached && owner) {
@@ -63,8 +63,8 @@ public:
         }
     }
 
-    /** Puts the item onto a scene, or for null onto the one that it was taken from. One that was on no scene is left
-     *  to whoever had it. */
+    /** Puts the item onto a scene, for null onto the one it was taken from. An item that had no scene goes back to its
+     *  former owner. */
     void GiveTo(TItemScene* scene)
     {
         item->AttachTo(scene ? scene : owner.data());

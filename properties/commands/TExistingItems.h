@@ -7,19 +7,19 @@
 #include <algorithm>
 
 /**
- * Which items a view still shows: what commands ask before they follow a stored pointer. An item that is not found is
- * compared only. All is linear in the items.
+ * The items that a view still shows, which tells commands which stored pointers dangle. An item that is not found is
+ * never dereferenced. All operations are linear in the items.
  */
 class TExistingItems
 {
 public:
     using Lists = QVector<QVector<TGraphicsItem*>>;
 
-    /** Asks the view once. Without a view nobody knows, and all are kept. */
+    /** Queries the view once. Without a view, existence is unknown and all items are kept. */
     explicit TExistingItems(const QGraphicsView* view) : isKnown(view != nullptr), shown(ItemsOfView(view)) {}
 
     /**
-     * Removes the items that are no longer there as one of these kinds, and with each its entries in the lists that are
+     * Removes the items that the view no longer shows as one of these kinds, with their entries in the lists that are
      * parallel to @p items; a parallel list may be shorter.
      */
     template <class Items, class... ParallelLists>
@@ -44,8 +44,8 @@ public:
         }
     }
 
-    /** Removes from each of the lists the items that are no longer there, of whatever kind they were. A list that loses
-     *  nothing is left as it is. */
+    /** Removes the items that the view no longer shows, of any kind, from each of the lists. A list without such items
+     *  is not modified. */
     void KeepOnlyExisting(Lists& lists) const
     {
         const bool isAnyFilled =
@@ -82,7 +82,7 @@ private:
         }
     }
 
-    /** Drops what is left over behind the kept entries of a list that was as long as @p length, or shorter. */
+    /** Erases what follows the kept entries, if the list has an entry for each of the @p length items. */
     template <class List>
     static void Shorten(List& list, int length, int kept)
     {

@@ -25,7 +25,7 @@ void MakeLikeAnyItem(TGraphicsItem& item, const TGraphicsItem& model)
 void MakeLike(TGraphicsViaItem& via, const TGraphicsViaItem& model)
 {
     via.SetViaGroup(model.ViaGroup());
-    via.SetLayers(model.StartLayer(), model.EndLayer()); // Not those of the drill pair, as it may be.
+    via.SetLayers(model.StartLayer(), model.EndLayer()); // They may differ from those of the drill pair.
     via.SetSize(model.Width(), model.Height());
     via.SetDrill(model.Drill());
     via.SetThermal(model.Thermal());

@@ -8,16 +8,17 @@
 class TGraphicsViaItem;
 class TGraphicsWireItem;
 
-/** Gives an item every attribute that a copy of @p model has. Links are no attributes. */
+/** @{ Gives an item all attributes that a copy of @p model would have. Links are not attributes. */
 void MakeLike(TGraphicsViaItem& via, const TGraphicsViaItem& model);
 void MakeLike(TGraphicsWireItem& wire, const TGraphicsWireItem& model);
+/** @} */
 
 /**
- * The items that a command makes at every redo and takes away at undo. They belong to the design while the command is
- * done, and to this while it is not.
+ * The items that a command creates at every redo and removes at undo. The design owns them while the command is done,
+ * and this object while it is not.
  *
- * Later commands on the undo stack may hold such an item: when all is undone and redone, they must find it again and
- * not another one in its place. So the items of the last redo come back, made anew in all but their identity.
+ * Later commands on the undo stack may hold such an item: when all is undone and redone, they must find the
+ * same object again. So a redo reuses the items of the last one and only sets their attributes anew.
  */
 template <class Item>
 class TRecreatedItems
@@ -26,8 +27,8 @@ public:
     /** To be called at the beginning of a redo. */
     void StartOver() { next = 0; }
 
-    /** The next item of this redo: the one that was made in its place before, which becomes like @p fresh, or else
-     *  @p fresh itself. The caller owns it. */
+    /** The next item of this redo: the item of the last redo, with the attributes of @p fresh, or else @p fresh itself.
+     *  The caller owns it. */
     Item* Make(std::unique_ptr<Item> fresh)
     {
         if (next == away.size()) {
@@ -41,7 +42,7 @@ public:
         return fresh.release();
     }
 
-    /** Takes an item that was made off its scene. Nothing may be linked with it any more. */
+    /** Takes an item that this object made off its scene. It must have no links left. */
     void TakeAway(Item* item)
     {
         item->setSelected(false);
@@ -50,7 +51,7 @@ public:
     }
 
 private:
-    std::vector<std::unique_ptr<Item>> away; ///< In the order in which they are made; null for one on the design.
+    std::vector<std::unique_ptr<Item>> away; ///< In order of creation; null for an item on the design.
     QHash<const Item*, std::size_t> placeOf; ///< Of the items on the design, their index in `away`.
     std::size_t next = 0;
 };

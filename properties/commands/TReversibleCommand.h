@@ -8,8 +8,9 @@
  * The outer steps of every command: undo() is a no-op unless redo() acted since the last undo(). A second redo() in a
  * row acts once more.
  *
- * A command cannot act while its context is missing, for example the board of its project: nothing changes. What redo()
- * could not do is not undone. What undo() could not take back stays done, and the next redo() finds it so.
+ * A command cannot act while its context is missing, for example the board of its project: nothing changes. If redo()
+ * could not act, the next undo() is a no-op. If undo() could not act, the command stays done, and so the next redo()
+ * finds it.
  */
 class PROPERTIES_EXPORT TReversibleCommand : public TUndoCommand
 {
@@ -22,9 +23,10 @@ public:
     virtual TCommandKind Kind() const = 0;
 
 protected:
-    /** Return whether they could act; false when the context is missing, and then nothing was changed. */
+    /** @{ Return whether the command could act: false if the context is missing, and then nothing has changed. */
     virtual bool Do() = 0;
     virtual bool Undo() = 0;
+    /** @} */
 
 private:
     bool isDone = false;

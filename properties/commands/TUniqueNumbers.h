@@ -7,7 +7,7 @@
 class TUniqueNumbers
 {
 public:
-    /** Adds a number that is not there yet. */
+    /** Adds a number unless it is already there. */
     void Add(unsigned short number)
     {
         if (!known.contains(number)) {

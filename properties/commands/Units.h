@@ -3,7 +3,7 @@
 #include <cmath>
 #include <limits>
 
-/** Conversion of what the user edits into what the items hold. */
+/** Conversion between the user's units and those of items. */
 namespace Units {
 
 /** Scene units are 1/300 inch and an inch is 25.4 mm: 11.811023622047244 scene units per millimetre. */
@@ -20,7 +20,7 @@ constexpr double MillimetresFromScene(double sceneUnits)
     return sceneUnits / sceneUnitsPerMillimetre;
 }
 
-/** Cuts off the fraction. What is beyond the range of whole numbers becomes the last one there, and no number 0. */
+/** Truncates to an `int`, clamped to its range; 0 for NaN. */
 inline int WholeFrom(double number)
 {
     using Limits = std::numeric_limits<int>;
