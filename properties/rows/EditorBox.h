@@ -3,7 +3,7 @@
 #include <QHBoxLayout>
 #include <QWidget>
 
-/** The container of an editor that is made of several widgets: a row of boxes without margins. */
+/** The container of an editor that consists of several widgets: a row of boxes without margins. */
 namespace EditorBox {
 
 /** Height in pixels of the containers that have a fixed one. */

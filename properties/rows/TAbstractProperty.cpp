@@ -10,7 +10,7 @@ TAbstractProperty::TAbstractProperty(const QString& label, QObject* parent)
 
 TAbstractProperty::~TAbstractProperty()
 {
-    // An editor that loses the focus when its tree lets go of it must not speak through a row that is half gone.
+    // An editor that loses the focus when its tree releases it must not signal through a half-destroyed row.
     blockSignals(true);
     if (!editor) {
         return;
@@ -28,7 +28,7 @@ TAbstractProperty::~TAbstractProperty()
 void TAbstractProperty::KeepEditorIn(QWidget* holder)
 {
     if (editor) {
-        editor->hide(); // Or a holder that is not yet visible would show it with itself.
+        editor->hide(); // Otherwise a holder that is shown later would show it too.
         editor->setParent(holder);
         editorHolder = holder;
     }

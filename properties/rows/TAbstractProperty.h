@@ -28,7 +28,7 @@ public:
     ~TAbstractProperty() override;
     Q_DISABLE_COPY(TAbstractProperty)
 
-    /** Greys the row and its editor, or gives back exactly `Qt::ItemIsEnabled`: rows are never selectable. */
+    /** Enables or disables the row and its editor. Enabled rows have only `Qt::ItemIsEnabled`: none is selectable. */
     void SetEnabled(bool on);
 
     /** Shows or hides the row, at once if it is in a tree and when it is put into one otherwise. */
@@ -39,15 +39,15 @@ public:
     /** The widget that edits the value; null for a row without an editor. */
     QWidget* Editor() const { return editor; }
 
-    /** Hides the editor of a row that is not shown in a widget, so that it is no window of its own. It still belongs to
-     *  the row. */
+    /** Reparents the editor of a row that is not shown to a widget, hidden, so that it is not a window. The row still
+     *  owns it. */
     void KeepEditorIn(QWidget* holder);
 
-    /** The values that a row can stand for: its own, or that of its first box; and that of the box beside it. */
+    /** The values of a row: its own, or that of its first box; and that of the second box. */
     enum Value : unsigned { FirstValue = 1, SecondValue = 2 };
 
-    /** Whether a value that the row stands for differs between the selected items, so that the row does not show it.
-     *  It ends when the row is given that value, by the user or by the program. */
+    /** Whether a value of the row differs between the selected items, so that it is not shown. False again once the
+     *  user or the program sets it. */
     bool IsMixed() const { return mixed != 0; }
     void SetMixed(bool on, Value value = FirstValue);
 
@@ -56,8 +56,8 @@ protected:
     void SetEditor(QWidget* widget) { editor = widget; }
 
     /**
-     * Passes on that the user, or the program, gave the row a value: @p emitSignals emits the row's signals. Their
-     * receivers may do anything, deleting the row and the panel included; the editor lives on until this returns.
+     * Reports that the user or the program has set a value: @p emitSignals emits the row's signals. Their receivers may
+     * do anything, including deleting the row and the panel; the editor lives until this returns.
      */
     void Report(Value value, const std::function<void()>& emitSignals);
 
@@ -70,7 +70,7 @@ protected:
 
 private:
     QPointer<QWidget> editor;
-    QPointer<QWidget> editorHolder; ///< What keeps the editor for the row; null if nothing does.
+    QPointer<QWidget> editorHolder; ///< Parent of the editor of a row that is not shown, or null.
     bool hidden = false;
     unsigned mixed = 0; ///< Bits of `Value`.
 };

@@ -6,7 +6,7 @@
 
 class QCheckBox;
 
-/** Two labelled check boxes side by side. Every change of state is reported, one made by the program too. */
+/** Two labelled check boxes side by side. Every change of state is reported, also one by the program. */
 class PROPERTIES_EXPORT TCheckBox2Widget : public QWidget
 {
     Q_OBJECT

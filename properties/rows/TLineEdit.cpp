@@ -14,7 +14,7 @@
 
 namespace {
 
-/** A style sheet is costly to set, even the one that is there already. */
+/** Setting a style sheet is expensive, even if it does not change. */
 void SetStyleSheetOnce(QWidget* widget, const QString& sheet)
 {
     if (widget->styleSheet() != sheet) {
@@ -66,8 +66,8 @@ void TLineEdit::SetBackgroundColor(const QColor& color)
 
 void TLineEdit::Close(int reports, bool takesText)
 {
-    // Hiding the editor moves the focus: that tells the application, which may do anything, and can finish the edit
-    // once more. Receivers hear of that when the toolkit is done with the focus.
+    // Hiding the editor moves the focus: handlers of that in the application may do anything, and the edit can finish
+    // again. It is reported to receivers once the toolkit has moved the focus.
     const TWidgetHold hold(this);
     const QPointer<TLineEdit> self(this);
     closing = true;
@@ -92,7 +92,7 @@ void TLineEdit::mouseDoubleClickEvent(QMouseEvent* event)
         QWidget::mouseDoubleClickEvent(event);
         return;
     }
-    const TWidgetHold hold(this); // The application hears of the focus and may do anything.
+    const TWidgetHold hold(this); // A focus handler of the application may do anything.
     label->hide();
     edit->show();
     edit->setText(label->text());

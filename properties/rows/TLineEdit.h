@@ -13,8 +13,8 @@ class QLineEdit;
 /**
  * Shows a text as a framed label that turns into a line editor on a double click.
  *
- * Return and leaving the editor commit the text, Escape discards it. A commit may be reported more than once, as often
- * as the toolkit reports the end of the edit.
+ * Return and leaving the editor commit the text, Escape discards it. A commit may be reported more than once: as
+ * often as the toolkit reports the end of the edit.
  */
 class PROPERTIES_EXPORT TLineEdit : public QWidget
 {
@@ -29,7 +29,7 @@ public:
     /** The committed text, as the label shows it. */
     QString Text() const;
 
-    /** Has @p handler called after every `setText`; one handler at most. */
+    /** Makes every `setText` call @p handler; one handler at most. */
     void WhenTextIsSet(std::function<void()> handler) { textIsSet = std::move(handler); }
 
     void SetBackgroundColor(const QColor& color);
@@ -54,13 +54,13 @@ private Q_SLOTS:
     void slotEndEdit();
 
 private:
-    /** Hides the editor and then reports its text so many times. */
+    /** Hides the editor and then reports its text the given number of times. */
     void Close(int reports, bool takesText = false);
 
-    QCheckBox* const check; ///< Never shown: its style is the label's when nothing is marked.
+    QCheckBox* const check; ///< Never shown: it provides the label's style when nothing is marked.
     bool markEmpty;
     bool editable = true;
     bool closing = false;
-    int ends = 0; ///< How often hiding the editor has finished the edit once more.
+    int ends = 0; ///< How often hiding the editor has finished the edit again.
     std::function<void()> textIsSet;
 };

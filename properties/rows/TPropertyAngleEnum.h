@@ -12,7 +12,7 @@ public:
 
     /** The current angle in degrees; 0 when there is none. */
     float CurrentAngle() const;
-    /** Makes the angle current; for any other than those offered nothing happens. */
+    /** Makes the angle current; a no-op for an angle that is not offered. */
     void SetCurrentAngle(float degrees);
 
 Q_SIGNALS:

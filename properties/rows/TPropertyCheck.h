@@ -4,7 +4,7 @@
 
 class QCheckBox;
 
-/** A row with one check box. Every change of state is reported, one made by the program too. */
+/** A row with one check box. Every change of state is reported, also one by the program. */
 class PROPERTIES_EXPORT TPropertyCheck : public TAbstractProperty
 {
     Q_OBJECT

@@ -26,7 +26,7 @@ void TPropertyChoice::Insert(int row, const QString& text, const QVariant& data,
     if (!box) {
         return;
     }
-    // The toolkit makes the first item current by itself, and reports an index that moves with its item as a change.
+    // The toolkit makes the first item current, and reports an index that moves with its item as a change.
     const QSignalBlocker blocker(box);
     const bool hasCurrent = box->currentIndex() >= 0;
     box->insertItem(row, icon, text, data);

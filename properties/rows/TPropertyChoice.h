@@ -8,18 +8,18 @@
 class QComboBox;
 
 /**
- * What all rows share that let one value be picked from a drop-down list: each item carries its value as user data.
+ * The base of all rows that pick one value from a drop-down list; each item has its value as user data.
  *
- * The list has no current item until one is set, so that choosing any item, the first one too, is a change. Each kind
+ * The list has no current item until one is set, so that choosing any item, even the first, is a change. Each kind
  * declares the slot `slotRowChanged(int)`, which turns a change of the current item into its own typed signal; an
- * index of −1 says nothing. Every operation does nothing, or returns its default, when the editor is not a combo box.
+ * index of −1 emits nothing. If the editor is not a combo box, every operation is a no-op or returns its default.
  */
 class PROPERTIES_EXPORT TPropertyChoice : public TAbstractProperty
 {
 public:
     ~TPropertyChoice() override;
 
-    /** The list itself, null when the row has lost its editor. */
+    /** The list; null once the editor is gone. */
     QComboBox* Box() const;
 
 protected:
@@ -30,17 +30,17 @@ protected:
 
     /** Adds an item at the end of the list; the current item stays. */
     void Append(const QString& text, const QVariant& data, const QIcon& icon = {});
-    /** Adds an item on top of the list and makes it the current one, which is a change like any other. */
+    /** Inserts an item at the top of the list and makes it current, which is a change like any other. */
     void InsertAsCurrent(const QString& text, const QVariant& data, const QIcon& icon = {});
-    /** Makes the item with that user data current; without such an item nothing happens. */
+    /** Makes the item with that user data current; a no-op without such an item. */
     void SetCurrentData(const QVariant& data);
 
-    /** Makes the item at this index, which there must be, the current one. */
+    /** Makes the item at this index, which must exist, the current one. */
     void MakeCurrent(int row);
 
-    /** Lets a kind report that the item at this index is the current one now; nothing for an index that is none. */
+    /** Reports that the item at this index is now current; a no-op for an invalid index. */
     void ReportItem(int row, const std::function<void()>& emitSignals);
-    /** User data of an item, invalid for an index that is none. */
+    /** User data of an item; invalid for an invalid index. */
     QVariant DataAt(int row) const;
     /** User data of the current item, invalid when there is none. */
     QVariant CurrentData() const;

@@ -22,8 +22,8 @@ TPropertyColor::TPropertyColor(const QString& label, const QColor& current) : TP
     ReportRowChanges();
     Append(tr("Default"), QVariant());
     QStringList names = Palette();
-    // Intended: the palette is in upper case and the name of a colour in lower case, so that a current colour which
-    // equals a palette entry is listed once more.
+    // Intended: the palette is in upper case and the name of a colour in lower case, so that a current colour that
+    // equals a palette entry is listed twice.
     if (current.isValid() && !names.contains(current.name())) {
         names.append(current.name());
     }

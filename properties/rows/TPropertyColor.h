@@ -4,7 +4,7 @@
 
 #include <QColor>
 
-/** A row that picks a colour from a fixed palette, or "Default". The colour of an item is the item's text. */
+/** A row that picks a colour from a fixed palette, or "Default". The text of a list item names its colour. */
 class PROPERTIES_EXPORT TPropertyColor : public TPropertyChoice
 {
     Q_OBJECT

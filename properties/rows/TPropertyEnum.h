@@ -4,7 +4,7 @@
 
 #include <QStringList>
 
-/** A row that picks one of several texts, each of which stands for a whole number. */
+/** A row that picks one of several texts, each of which has an integer value. */
 class PROPERTIES_EXPORT TPropertyEnum : public TPropertyChoice
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
 
     /** Value of the current item; −1 when there is none. */
     int CurrentEnum() const;
-    /** Makes the item of that value current; without such an item nothing happens. */
+    /** Makes the item of that value current; a no-op without such an item. */
     void SetCurrentEnum(int value);
     /** Makes the item of that text current; an unknown text becomes a new first item without a value. */
     void SetCurrentText(const QString& text);

@@ -15,7 +15,7 @@ TPropertyFloatSpin::TPropertyFloatSpin(const QString& label, double min, double 
     EditorBox::LayOut(box, {{check, 0}, {spin, 1}});
     box->setFocusProxy(spin);
 
-    // The decimals come first: a range is rounded to those that the box has when it is set.
+    // The decimals come first: a range is rounded to the decimals that the box has when it is set.
     spin->setDecimals(decimals);
     spin->setRange(min, max);
     spin->setSingleStep(step);

@@ -8,8 +8,8 @@ class TDoubleSpinBox;
 /**
  * A row that edits a real number, usually a length in millimetres, optionally with an enable box in front.
  *
- * The parts are open to the set that makes the row, which gives them value, suffix and check state. They are null once
- * the editor is gone.
+ * The parts are accessible to the set that creates the row, which sets value, suffix and check state. They are null
+ * once the editor is gone.
  */
 class PROPERTIES_EXPORT TPropertyFloatSpin : public TAbstractProperty
 {
@@ -26,6 +26,6 @@ Q_SIGNALS:
     void sigCheckChanged(bool on);
 
 private Q_SLOTS:
-    /** Passes the value on as it is: it stays a double, whatever the name says. */
+    /** Passes the value on unconverted: it stays a double despite the name. */
     void slotDoubleToFloat(double value);
 };

@@ -18,12 +18,12 @@ public:
     /** Offers @p layers, named and coloured as in the workspace's layer table. */
     TPropertyLayer(const QString& label, QList<Osmirel::Layer> layers, TWorkspace* ws);
 
-    /** Offers other layers; none of them is current. Without a workspace the list is empty. */
+    /** Replaces the offered layers; none is current. Without a workspace the list is empty. */
     void SetLayers(TWorkspace* ws, QList<Osmirel::Layer> layers);
 
     /** The current layer; `Osmirel::NoLayer` when there is none. */
     Osmirel::Layer CurrentLayer() const;
-    /** Makes a layer current; one that is not offered becomes a new first item. An empty list stays empty. */
+    /** Makes a layer current; a layer that is not offered becomes a new first item. An empty list stays empty. */
     void SetCurrentLayer(Osmirel::Layer layer);
 
 Q_SIGNALS:

@@ -12,7 +12,7 @@ class PROPERTIES_EXPORT TPropertyPadShape : public TPropertyChoice
 public:
     explicit TPropertyPadShape(const QString& label);
 
-    /** The current shape; 0, which is none, when there is no current item. */
+    /** The current shape; 0, which is not a shape, without a current item. */
     TGraphicsPadItem::TypePadShape CurrentPadShape() const;
     void SetCurrentPadShape(TGraphicsPadItem::TypePadShape shape);
 

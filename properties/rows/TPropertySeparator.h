@@ -2,7 +2,7 @@
 
 #include "properties/rows/TAbstractProperty.h"
 
-/** A row without an editor that heads a group of rows with a bold title, or just parts them when it is empty. */
+/** A row without an editor: the bold heading of a group of rows, or only a separator if its title is empty. */
 class PROPERTIES_EXPORT TPropertySeparator : public TAbstractProperty
 {
     Q_OBJECT

@@ -58,6 +58,6 @@ void TPropertySize::slotWidthChanged(double newWidth)
     height->setValue(doubleHeight ? 2 * newWidth : newWidth);
     if (self) {
         SetMixed(false, SecondValue);
-        emit sigHeightChanged(newWidth); // Intended: the last word is the width itself, in the doubled mode too.
+        emit sigHeightChanged(newWidth); // Intended: the last value is the width itself, also in the doubled mode.
     }
 }

@@ -7,7 +7,7 @@ class TDoubleSpinBox;
 /**
  * A row that edits a width and a height side by side, usually in millimetres.
  *
- * While the height box is disabled the height follows the width: it is the same, or twice as much in the doubled mode.
+ * While the height box is disabled the height follows the width: the same, or twice that in the doubled mode.
  */
 class PROPERTIES_EXPORT TPropertySize : public TAbstractProperty
 {
@@ -16,10 +16,10 @@ class PROPERTIES_EXPORT TPropertySize : public TAbstractProperty
 public:
     TPropertySize(const QString& label, double min, double max, double step, int decimals);
 
-    /** Does nothing without the editor. */
+    /** A no-op without the editor. */
     void SetSuffix(const QString& suffix);
-    /** Sets whether a height that follows the width is twice the width, and lets it follow at once if there is an
-     *  editor. */
+    /** Sets whether a height that follows the width is twice the width, and applies that at once if there is an editor.
+     */
     void SetDoubleHeight(bool on);
 
     // Null once the editor is gone.

@@ -5,7 +5,7 @@
 
 namespace {
 
-/** A child of a held widget that counts the holds, and puts off every deletion that is asked for meanwhile. */
+/** A child of a held widget that counts the holds and defers every deletion requested meanwhile. */
 class Keeper : public QObject
 {
 public:
@@ -21,7 +21,7 @@ public:
     }
 
     int holds = 0;
-    QVector<QPointer<QObject>> doomed; ///< To be deleted at the end: the held widget, or what it is a part of.
+    QVector<QPointer<QObject>> doomed; ///< To be deleted at the end: the held widget, or a parent of it.
 };
 
 Keeper* KeeperIn(const QWidget* widget, Qt::FindChildOptions where)

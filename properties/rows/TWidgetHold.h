@@ -5,8 +5,8 @@
 
 /**
  * Keeps a widget alive for as long as this object lives, while a signal of the widget is handled: the toolkit goes on
- * in the widget afterwards, and the handler may have deleted the panel, or have run a dialog whose event loop deletes
- * what was to be deleted later. A widget may be held several times, and null is held in vain.
+ * in the widget afterwards, and the handler may have deleted the panel, or run a dialog whose event loop performs
+ * deferred deletions. A widget may be held several times; holding null is a no-op.
  */
 class TWidgetHold
 {
@@ -16,8 +16,8 @@ public:
     Q_DISABLE_COPY(TWidgetHold)
 
     /**
-     * Saves a widget that is held, itself or a part of it, from the end of its parent: it loses its parent and is
-     * deleted when nobody holds it any more. Does nothing and returns false if nobody holds it.
+     * Protects a widget that is held, or has a held part, from the deletion of its parent: it is reparented to none and
+     * deleted when the last hold ends. Returns false, and is a no-op, if there is no hold.
      */
     static bool Rescue(QWidget* widget);
 
