@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-/** What the whole application knows. */
+/** Application-wide data. */
 class TApplication
 {
 public:

@@ -5,7 +5,7 @@
 
 #include <map>
 
-/** What is known of a component besides its items: a plain value, owned by its model. */
+/** The data of a component besides its items: a plain value, owned by its model. */
 struct TCmpModelItem
 {
     QString refDes;
@@ -14,11 +14,11 @@ struct TCmpModelItem
     int count = 0; ///< How many components have the same value and package, as of the last `UpdateCount`.
 };
 
-/** The table of a schematic's components by their numbers, as lists of material are made from it. */
+/** The table of a schematic's components by number, the source of a bill of materials. */
 class TCmpModel
 {
 public:
-    /** Adds an entry, or replaces the one of that number; 0 is no component's number and is ignored. */
+    /** Adds an entry, or replaces the one of that number; 0, which is not a component number, is ignored. */
     void Add(unsigned short number, const TCmpModelItem& item);
 
     /** The entry of a number, null if there is none. Valid until it is replaced. */
@@ -26,7 +26,7 @@ public:
 
     int Size() const { return static_cast<int>(items.size()); }
 
-    /** Counts the components that are alike anew. */
+    /** Recounts components of equal value and package. */
     void UpdateCount();
 
     /** The state of every component, one line each, in the order of their numbers. */

@@ -10,7 +10,7 @@
 
 /**
  * The table of a project's nets: a row for each, in the order in which they were added, found by name. Owned by its
- * schematic. A row read for a net that is not there is -1, and every value of it empty; writing to it does nothing.
+ * schematic. The row of an unknown net is -1, and all its values are empty; writing to it is a no-op.
  */
 class TNetModel
 {
@@ -27,14 +27,14 @@ public:
     int NetRow(const QString& net) const;
     QString NetName(int row) const { return Text(row, Name); }
 
-    /** Adds a net. A net that is there already, or has no name, is left alone. */
+    /** Adds a net; a no-op if the net exists or the name is empty. */
     void AddNet(const QString& net, const QString& netClass, const QColor& colorSch, const QColor& colorPcb,
                 int priority);
     /** Adds a net with the values of a whole row. A row that `DeleteNet` returned goes back to its place among the
-     *  others, so that rows that are given back, in whatever order, restore the table. */
+     *  others, so that adding deleted rows, in any order, restores the table. */
     void AddNet(const QVector<QVariant>& row);
-    /** Removes a net and returns its row, and behind its values the place of it; empty if there was none. The rows
-     *  after it move up, which is taken into account when a row is next asked for by its number. */
+    /** Removes a net and returns its row, its values followed by its place; empty if there was none. The rows after it
+     *  move up: they are renumbered when a row is next read by number. */
     QVector<QVariant> DeleteNet(const QString& net);
 
     /** Colours by row; invalid for none. */
@@ -60,14 +60,14 @@ private:
         QVector<QVariant> values;
         mutable int number = 0; ///< Valid while `inOrder` is.
     };
-    /** By their places, which only grow and are not used twice. */
+    /** By place. Places only grow and are never reused. */
     using Rows = std::map<int, Row>;
 
     QVariant At(int row, Column column) const;
     QString Text(int row, Column column) const { return At(row, column).toString(); }
     QString Text(const QString& net, Column column) const;
     void Set(const QString& net, Column column, const QVariant& value);
-    /** The rows in their order. Works out anew which number each has if nets came or went since. */
+    /** The rows in order. Renumbers them if nets were added or removed since. */
     const QVector<const Row*>& InOrder() const;
 
     Rows rows;

@@ -8,15 +8,15 @@ class TSchematic;
 
 /**
  * A schematic and a board that belong together; either may be missing. It owns neither: the application destroys them
- * after the project, or takes them out first.
+ * after the project, or removes them first.
  */
 class TProject
 {
 public:
-    /** What a project is, and with that its mode. */
+    /** The kind of a project, which is its mode. */
     enum KindOfProject : int {
-        Separate = 0, ///< Each document is edited for itself.
-        InStep = 1,   ///< Schematic and board are kept in step: nets are shown and rat lines recomputed.
+        Separate = 0, ///< Each document is edited on its own.
+        InStep = 1,   ///< Schematic and board are kept in sync: nets are shown and rat lines recomputed.
     };
 
     TProject() = default;
@@ -32,7 +32,7 @@ public:
     TSchematic* Schematic() const { return schematic; }
     void SetSchematic(TSchematic* newSchematic);
 
-    /** What tags show, by their names. */
+    /** The values of tags, by name. */
     const QMap<QString, QString>& TagValues() const { return tagValues; }
     void SetTagValues(const QMap<QString, QString>& values) { tagValues = values; }
 

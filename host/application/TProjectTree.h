@@ -2,7 +2,7 @@
 
 #include <QTreeWidget>
 
-/** A page's row in the project tree: its name stands in column 0. Owned by the tree. */
+/** A page's row in the project tree: its name is in column 0. Owned by the tree. */
 class TSchPage : public QTreeWidgetItem
 {
 public:
@@ -17,7 +17,7 @@ private:
     unsigned char number;
 };
 
-/** A component's row in the project tree: its designator stands in column 0, its name in column 1. Owned by the tree.
+/** A component's row in the project tree: its designator is in column 0, its name in column 1. Owned by the tree.
  */
 class TPart : public QTreeWidgetItem
 {
@@ -41,7 +41,7 @@ class TProjectTree : public QTreeWidget
 public:
     explicit TProjectTree(QWidget* parent = nullptr);
 
-    /** Add a row behind the others of its kind. */
+    /** Append a row after the others of its kind. */
     TSchPage* AddPage(unsigned char number, const QString& name);
     TPart* AddPart(unsigned short componentNumber, const QString& refDes, const QString& name);
 

@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::size_t largestPageNumber = 255;
 
-/** Whether an item is drawn in the colour of a net: that of its own name, or else that which links give it. */
+/** Whether an item is drawn in the colour of a net: that of its own name, or else that of its links. */
 bool BearsColorOf(const TGraphicsItem& item, const QString& net)
 {
     return !item.parentItem() && (item.OwnNet().isEmpty() ? item.Net() : item.OwnNet()) == net;
@@ -112,7 +112,7 @@ QHash<TSchematic::TPinKey, QString> TSchematic::PinNets(const QList<unsigned sho
         }
         const QVector<TGraphicsItem*> pins = part->Pins();
         for (const TGraphicsItem* pin : pins) {
-            // Units of a component may share a pin, of which one may be wired and the other not.
+            // Units of a component may share a pin, wired in one unit and unconnected in another.
             QString& net = nets[{part->ComponentNumber(), static_cast<const TGraphicsPinItem*>(pin)->Number()}];
             net = net.isEmpty() ? pin->Net() : net;
         }

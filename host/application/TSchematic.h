@@ -42,7 +42,7 @@ public:
     /** The name of the net's class, which may be empty for the default one; null when the model has no such net. */
     std::optional<QString> NetClass(const QString& net) const;
 
-    /** Sets the net's colour in the model and on what is drawn of the net on all pages, and repaints it. Pins are drawn
+    /** Sets the net's colour in the model and on all items of the net on all pages, and repaints them. Pins are drawn
      *  with their symbols. */
     void SetNetColor(const QString& net, const QColor& color);
 
@@ -52,18 +52,17 @@ public:
     TSchematicPage* Page(int number) const;
     const std::vector<std::unique_ptr<TSchematicPage>>& Pages() const { return pages; }
 
-    /** Takes over the items that stand on every page now, for the pages' and the schematic's `Items`. */
+    /** Snapshots the items of every page, for the `Items` of the pages and the schematic. */
     void SaveTopItemsFromWorkspace();
-    /** The items without parent of all pages as they were last taken over. One that was deleted since must not be read.
-     */
+    /** The top-level items of all pages in the last snapshot. Items deleted since must not be dereferenced. */
     QList<TGraphicsItem*> Items() const;
 
-    /** The parts that stand on the pages now and belong to the component of that number, or all parts for 0. */
+    /** The parts on the pages that belong to the component of that number, or all parts for 0. */
     QList<TGraphicsPartItem*> PartItems(unsigned short number) const;
 
     /** A component's number and the number of one of its pins. */
     using TPinKey = QPair<unsigned short, QString>;
-    /** The nets of all pins of the parts of these components; empty for a pin that is on none. */
+    /** The nets of all pins of the parts of these components; empty for an unconnected pin. */
     QHash<TPinKey, QString> PinNets(const QList<unsigned short>& numbers) const;
 
     /** The state of every item, page by page, then of the nets and the components, one line each. */
@@ -73,7 +72,7 @@ private:
     friend class TProject;
 
     TProject* project = nullptr;
-    TWorkspace workspace; // Outlives the pages with their items, which point to it.
+    TWorkspace workspace; // Outlives the pages and their items, which point to it.
     TNetModel netModel;
     TCmpModel cmpModel;
     QStringList netClasses{QStringLiteral("Default")};

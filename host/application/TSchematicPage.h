@@ -18,15 +18,15 @@ public:
 
     unsigned char Number() const { return number; }
 
-    /** What the page's items are attached to. */
+    /** The owner of the page's items. */
     TItemScene* Scene() { return &scene; }
     const TItemScene* Scene() const { return &scene; }
     /** Places an item, with its children, on the page, which owns it from then on. */
     void Attach(std::unique_ptr<TGraphicsItem> item);
 
-    /** Takes over the items that stand on the page now, for `Items`. */
+    /** Snapshots the items of the page, for `Items`. */
     void SaveTopItems();
-    /** The items without parent as they were last taken over. An item that was deleted since must not be read. */
+    /** The top-level items in the last snapshot. Items deleted since must not be dereferenced. */
     const QList<TGraphicsItem*>& Items() const { return items; }
 
 private:

@@ -4,8 +4,8 @@
 
 class TPart;
 
-/** The application's undo step: a toolkit command that tells what kinds of things it touches, and what part or page the
- *  application is to open after it was done or undone. */
+/** The application's undo step: a toolkit command with categories of what it changes, and with the part or page that
+ * the application is to open after a redo or undo. */
 class TUndoCommand : public QUndoCommand
 {
 public:
@@ -21,7 +21,7 @@ public:
     /** The category bits, 0 unless a command sets them in its constructor. */
     unsigned Categories() const { return categories; }
 
-    /** What the last redo or undo asks the application to open: null, and page 0, for nothing. */
+    /** What the application is to open after the last redo or undo: null and page 0 for nothing. */
     TPart* PartToOpen() const { return partToOpen; }
     unsigned char PageToOpen() const { return pageToOpen; }
 

@@ -8,7 +8,7 @@
 
 namespace {
 
-/** Angles are kept to about a millionth of a degree, so that half a turn minus half a turn minus an angle is it. */
+/** Angles are rounded to about a millionth of a degree, so that 180 - (180 - angle) equals the angle. */
 double RoundedAngle(double degrees)
 {
     return std::ldexp(std::round(std::ldexp(degrees, 20)), -20);

@@ -2,7 +2,7 @@
 
 #include <graphics/TGraphicsPenItem.h>
 
-/** A part of a circle around the item's position. */
+/** An arc of a circle around the item's position. */
 class TGraphicsArcItem : public TGraphicsPenItem
 {
 public:
@@ -15,7 +15,7 @@ public:
     double Radius() const { return radius; }
     /** Where the arc begins, in degrees, counter-clockwise as seen from the positive x axis. */
     double StartAngle() const { return startAngle; }
-    /** How far it goes, in degrees; negative for clockwise. */
+    /** The sweep in degrees; negative for clockwise. */
     double SpanAngle() const { return spanAngle; }
     /** Sets all three and repaints. Angles are kept to a millionth of a degree. */
     void SetArc(double newRadius, double newStartAngle, double newSpanAngle);

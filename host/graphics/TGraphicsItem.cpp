@@ -16,7 +16,7 @@ TGraphicsItem::TGraphicsItem(QGraphicsItem* parent) : QGraphicsItem(parent)
     if (const auto* item = dynamic_cast<TGraphicsItem*>(parent)) {
         workspace = item->workspace;
     }
-    // An item that is constructed into a scene was announced before it could take note.
+    // An item that is constructed into a scene was added before it could be notified.
     owner = qobject_cast<TItemScene*>(scene());
     if (owner) {
         owner->Join(*this);
@@ -84,7 +84,7 @@ QVector<TGraphicsItem*> TGraphicsItem::ChildrenOfKind(ItemType::Number kind) con
             found.append(static_cast<TGraphicsItem*>(child));
         }
     }
-    // The toolkit lists children as they are stacked, which changes with their layers.
+    // The toolkit lists children in stacking order, which changes with their layers.
     std::stable_sort(found.begin(), found.end(), [](const TGraphicsItem* left, const TGraphicsItem* right) {
         return left->DesignOrder() < right->DesignOrder();
     });
@@ -107,7 +107,7 @@ bool TGraphicsItem::TakesEnd(const QPointF& point, Osmirel::Layer ofLayer) const
 
 void TGraphicsItem::StoreLink(TGraphicsItem*& link, TGraphicsItem* target)
 {
-    // The new link before the old one goes: storing the same item again is no change.
+    // The new link is added before the old one is removed: storing the same item again is not a change.
     if (target) {
         linkNode.Hold(target->linkNode);
     }

@@ -15,21 +15,21 @@ class TStateText;
 class TWorkspace;
 
 /**
- * An object of a design: something that lies on a layer, can be selected and edited, and says its state as text.
+ * An object of a design: it lies on a layer, can be selected and edited, and writes its state as text.
  *
  * Positions and lengths are scene units of 1/300 inch, y grows downwards; rotations are degrees, clockwise as seen.
  * An item is owned by the scene or the parent item that it is attached to, and by its creator while detached. The
  * workspace is shared with the rest of the document and outlives the item; null for an item of no document.
  *
  * Items hold links to each other. Between commands every link is held by both of its items; a single call may be
- * one-sided, and then says so. An item that is destroyed disappears from every item that holds a link to it.
+ * one-sided, if documented so. A destroyed item is removed from every item that holds a link to it.
  */
 class TGraphicsItem : public QGraphicsItem
 {
 public:
     /** Bits of the item's flag word. */
     enum TFlag : unsigned {
-        UndoBypass = 1,       ///< Edits are written at once and leave no undo step (an item that is just being made).
+        UndoBypass = 1,       ///< Edits are written at once, without an undo step (an item that is still being drawn).
         OnlyAngleAndLine = 2, ///< A text of which only the angle and the line width may be edited.
         Selected = 8,         ///< Mirrors `QGraphicsItem::isSelected`.
         Routing = 16,         ///< A wire of the route in progress.
@@ -44,7 +44,7 @@ public:
     explicit TGraphicsItem(QGraphicsItem* parent = nullptr);
     ~TGraphicsItem() override;
 
-    /** The item's kind: a value of `ItemType`, by which all of the application tells items apart. */
+    /** The item's kind: a value of `ItemType`, by which the application distinguishes items. */
     int type() const override = 0;
 
     unsigned TFlags() const { return flagWord; }
@@ -60,16 +60,16 @@ public:
     /** Moves the item to a layer, restacks and repaints it. */
     virtual void SetLayer(Osmirel::Layer newLayer);
 
-    /** Whether the item is copper of a layer. The base says so of everything that lies on a copper layer. */
+    /** Whether the item is copper on a layer. In the base: everything on a copper layer is. */
     virtual bool HasCopperOn(Osmirel::Layer copper) const { return layer == copper && Osmirel::IsCopper(copper); }
 
     /** Mirrors the item in the y axis of its parent and puts it on the layer of the board's other side, and repaints.
-     *  Doing it twice restores the item exactly. */
+     *  A second call restores the item exactly. */
     virtual void Flip();
 
     /** The item's own colour; invalid when it is drawn in its layer's colour. */
     const QColor& AltColor() const { return altColor; }
-    /** Sets the item's own colour, or gives it back its layer's with an invalid one, and repaints. */
+    /** Sets the item's own colour, invalid for its layer's, and repaints. */
     virtual void SetAltColor(const QColor& color);
 
     /** The scene that owns the item; null while it is detached. */
@@ -88,9 +88,9 @@ public:
     /** The items that this one holds a link to, once for each link; in an order only where the kind says so. */
     virtual QVector<TGraphicsItem*> Links() const { return {}; }
     /**
-     * One-sided: in this item's own links, puts @p to in the place of one link to @p from, or removes that link when
-     * @p to is null. In a section that is linked to @p from at both ends this is the first end. Tells whether there
-     * was such a link.
+     * One-sided: in this item's own links, replaces one link to @p from by one to @p to, or removes it if @p to is
+     * null. In a section that is linked to @p from at both ends this is the first end. Returns whether there was such a
+     * link.
      */
     virtual bool ReplaceLinkedItem(TGraphicsItem* from, TGraphicsItem* to);
     /** One-sided: a section was linked to this item with one of its ends. Kinds that cannot be linked to ignore it. */
@@ -99,20 +99,20 @@ public:
     virtual void ReleaseLink(TGraphicsItem* section, LinkEnd end);
     /** Whether sections can be linked to this item. */
     virtual bool CanBeLinkedTo() const { return false; }
-    /** Whether a section of a layer can be linked where it ends at a point, which is in the item's own coordinates. The
-     *  base says so of points on the item's copper. */
+    /** Whether a section on a layer that ends at a point, in the item's own coordinates, can be linked. In the base: if
+     *  the point is on the item's copper. */
     virtual bool TakesEnd(const QPointF& point, Osmirel::Layer ofLayer) const;
 
-    /** Name of the net that the item is on, as links and own name make it; empty for none. */
+    /** Name of the item's net, which follows from links and own name; empty for none. */
     virtual QString Net() const { return linkNode.Net(); }
-    /** The name that the item has without regard to its links. */
+    /** The item's own net name, regardless of its links. */
     const QString& OwnNet() const { return linkNode.OwnNet(); }
-    /** The item's place among the links of the design; for items that store links of their own. */
+    /** The item's node in the graph of links; for items that store links of their own. */
     TLinkNode& LinkNode() { return linkNode; }
-    /** The items that links join with this one; null when it is linked with none. Valid until links change. */
+    /** The items that links connect to this one, directly or not; null without links. Valid until links change. */
     const TLinkIsland* Island() const { return linkNode.Island(); }
 
-    /** Brings the drawing up to date after attributes were written. The base repaints the whole item. */
+    /** Updates the drawing after attributes were written. The base repaints the whole item. */
     virtual void Refresh();
 
     /** Whether any layer that the item shows on is visible. Hidden items are neither drawn nor picked. */
@@ -122,22 +122,22 @@ public:
     int DesignOrder() const { return designOrder; }
     void SetDesignOrder(int order) { designOrder = order; }
 
-    /** Whether the document made the item from others: it gets no number and tells nothing of copper. */
+    /** Whether the document derived the item from others: it gets no number and marks no copper. */
     virtual bool IsDerived() const { return false; }
 
     /** The whole state as one line, without a line break. The selection is not part of it. */
     QString StateLine() const;
 
-    /** One word for the kind, as it begins the state line and names it on a command line. */
+    /** One word for the kind: the start of the state line, and its name on a command line. */
     virtual QString KindName() const = 0;
 
-    /** Kind, layer and place in a few characters, as the state lines of others name the item. */
+    /** Kind, layer and position in a few characters: the reference to the item in the state lines of others. */
     virtual QString PlaceName() const;
 
     /** The children of one kind, in the design's order. */
     QVector<TGraphicsItem*> ChildrenOfKind(ItemType::Number kind) const;
 
-    /** What is drawn, in the item's own coordinates, whether or not its layer is visible. */
+    /** The drawn shape, in the item's own coordinates, whether or not its layer is visible. */
     virtual QPainterPath Outline() const = 0;
 
     QPainterPath shape() const final;
@@ -147,13 +147,13 @@ protected:
     /** Adds the attributes of the kind to the state line; derived classes call their base first. */
     virtual void Describe(TStateText& state) const;
 
-    /** The colour that the item is drawn in for the most part: all that is seen of it when it is small. */
+    /** The item's main colour: all that is visible of it at a small scale. */
     virtual QColor MainColor() const { return Color(); }
 
-    /** Draws the item; @p pixelsPerUnit tells what detail can be seen. Called only when it is visible. */
+    /** Draws the item; @p pixelsPerUnit determines the level of detail. Called only if it is visible. */
     virtual void Draw(QPainter& painter, double pixelsPerUnit) const = 0;
 
-    /** Height in the stack of items, by default with the layers of the top side above those of the bottom. */
+    /** The z value, by default with the layers of the top side above those of the bottom. */
     virtual double StackingHeight() const { return -static_cast<double>(layer); }
 
     /** The colour of a layer in the document's table. */
@@ -161,20 +161,20 @@ protected:
     /** The item's own colour or else its layer's. */
     QColor Color() const;
 
-    /** A new item of the same kind, as it is constructed. */
+    /** A new, default-constructed item of the same kind. */
     virtual std::unique_ptr<TGraphicsItem> CreateEmpty() const = 0;
-    /** Takes over the attributes of an item of the same kind; derived classes call their base first. */
+    /** Copies the attributes of an item of the same kind; derived classes call their base first. */
     virtual void CopyFrom(const TGraphicsItem& source);
 
-    /** Writes a link that this item holds, and tells both items' nodes; one-sided. */
+    /** Writes a link that this item holds, and updates both items' nodes; one-sided. */
     void StoreLink(TGraphicsItem*& link, TGraphicsItem* target);
 
-    /** Notes that the copper of the item's net is no longer what it was. */
+    /** Marks the copper of the item's net as changed. */
     void MarkNet() const;
-    /** Notes that what pours cover is no longer what it was. */
+    /** Marks the area covered by pours as changed. */
     void MarkPours() const;
 
-    /** Adds the items' place names, sorted, under a name. */
+    /** Adds references to the items, sorted, under a name. */
     static void DescribeLinks(TStateText& state, const char* name, const QVector<TGraphicsItem*>& links);
 
     QVariant itemChange(GraphicsItemChange change, const QVariant& value) override;

@@ -8,7 +8,7 @@
 
 namespace {
 
-/** A thinner stroke is picked as if it were as wide as this, in scene units. */
+/** The minimum stroke width for hit tests, in scene units. */
 constexpr double smallestPickWidth = 1.0;
 
 } // namespace

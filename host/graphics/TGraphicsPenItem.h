@@ -30,9 +30,9 @@ protected:
     /** A brush in the item's colour, ready to fill with. */
     QBrush FillingBrush(const QBrush& brush) const;
 
-    /** What the pen's stroke along a path covers, never so thin that it cannot be picked. */
+    /** The outline of the pen's stroke along a path, with a minimum width for hit tests. */
     QPainterPath Stroked(const QPainterPath& path) const;
-    /** A rectangle with room for half the pen's width at each side. */
+    /** A rectangle extended by half the pen's width on each side. */
     QRectF WithPenMargin(const QRectF& rect) const;
 
 private:

@@ -5,7 +5,7 @@
 #include <QBrush>
 #include <QPolygonF>
 
-/** A closed polygon with a filling of its own. */
+/** A closed polygon with its own fill. */
 class TGraphicsPolygonItem : public TGraphicsPenItem
 {
 public:

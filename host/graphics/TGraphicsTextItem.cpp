@@ -10,12 +10,12 @@
 namespace {
 
 constexpr int defaultPixelSize = 12;
-/** Glyphs are laid out at this size and scaled, so that the raster's hints do not bend small ones. */
+/** Glyphs are laid out at this size and scaled, so that hinting does not distort small ones. */
 constexpr int layoutPixelSize = 100;
-/** Below this many pixels a text is drawn as its box, and below the other not at all. */
+/** Below the first height in pixels a text is drawn as its box, below the second not at all. */
 constexpr double smallestReadable = 5.0;
 constexpr double smallestVisible = 1.5;
-/** How wide the stems of a usual font's glyphs are by themselves, as a part of the pixel size. */
+/** The stem width of a typical font, as a fraction of the pixel size. */
 constexpr double stemOfGlyphs = 0.09;
 
 double HorizontalShift(int alignment, double width)
@@ -124,7 +124,7 @@ void TGraphicsTextItem::Draw(QPainter& painter, double pixelsPerUnit) const
         painter.fillRect(boundingRect(), faint);
         return;
     }
-    // Strokes are drawn as the outlines of a font, made wider by what its stems lack of the line width.
+    // Strokes are drawn as the outlines of a font, widened until its stems have the line width.
     const double added = static_cast<double>(lineWidth) - stemOfGlyphs * font.pixelSize();
     painter.setPen(vector && added > 0 ? QPen(Color(), added, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin)
                                        : QPen(Qt::NoPen));

@@ -7,8 +7,8 @@
 /**
  * A free text: on a layer, at an angle, of one or more lines, with its anchor at the item's position.
  *
- * The font's pixel size is a whole number of scene units. The plain setters store only; `UpdatePath` brings the drawing
- * up to date with all of them. The mirror bits live in the flag word.
+ * The font's pixel size is a whole number of scene units. The plain setters only store; `UpdatePath` updates the
+ * drawing. The mirror bits are in the flag word.
  */
 class TGraphicsTextItem : public TGraphicsItem
 {
@@ -29,22 +29,23 @@ public:
     bool IsVector() const { return vector; }
     void SetVector(bool on) { vector = on; }
 
-    /** Which point of the text lies at the position: a combination of `Qt::AlignmentFlag`. Left and centre are halfway
-     *  up the text unless a vertical flag says otherwise. */
+    /** Which point of the text is at the position: a combination of `Qt::AlignmentFlag`. Without a vertical flag the
+     * text is centred vertically. */
     int Alignment() const { return alignment; }
     void SetAlignment(int alignmentFlags) { alignment = alignmentFlags; }
 
-    /** Stroke width of vector glyphs in scene units. Less than the stems of the font family draws these as they are. */
+    /** Stroke width of vector glyphs in scene units. Below the stem width of the font, glyphs are drawn unchanged. */
     float LineWidth() const { return lineWidth; }
     void SetLineWidth(float width) { lineWidth = width; }
 
-    /** Mirror bits of the flag word. The setters bring the drawing up to date. */
+    /** Mirror bits of the flag word. The setters update the drawing. */
     bool IsMirroredH() const { return HasTFlag(MirrorHorizontal); }
     bool IsMirroredV() const { return HasTFlag(MirrorVertical); }
     virtual void SetMirrorH(bool on);
     virtual void SetMirrorV(bool on);
 
-    /** Lays the text out anew and repaints. With @p keepPlace the position moves so that the text's centre does not. */
+    /** Lays the text out again and repaints. With @p keepPlace the position moves so that the text's centre does not.
+     */
     void UpdatePath(bool keepPlace);
 
     void Flip() override;
@@ -66,6 +67,6 @@ private:
     bool vector = true;
     int alignment = Qt::AlignCenter;
     float lineWidth = 0;
-    mutable QPainterPath path; ///< Made when first asked for; empty until then.
+    mutable QPainterPath path; ///< Computed lazily; empty until then.
     mutable QRectF extent;
 };

@@ -12,10 +12,10 @@ TItemScene::TItemScene(TWorkspace* ofDocument, QObject* parent) : QGraphicsScene
 
 TItemScene::~TItemScene()
 {
-    // The items still know the scene as their owner while they go.
+    // The scene is still the owner of the items during their destruction.
     closing = true;
     linkChanges = {};
-    // The toolkit looks through the list of items that it has still to polish for each one that goes: polish them all.
+    // The toolkit searches its list of unpolished items for each one removed: polish them all first.
     QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
     clear();
 }

@@ -11,11 +11,10 @@ class TGraphicsItem;
 class TWorkspace;
 
 /**
- * The scene that owns the items of a board or a schematic page: what items are attached to and detached from.
+ * The scene that owns the items of a board or a schematic page; items are attached to it and detached from it.
  *
- * It numbers the items in the order in which they first join, parents before their children, and keeps that number for
- * an item that leaves and comes back. It also gathers the nets whose copper has changed, for those who draw what is
- * missing in them.
+ * It numbers the items in the order in which they first join, parents before their children, and an item that leaves
+ * and comes back keeps its number. It also collects the nets whose copper has changed, for the ratsnest.
  */
 class TItemScene : public QGraphicsScene
 {
@@ -28,27 +27,28 @@ public:
 
     TWorkspace* Workspace() const { return workspace; }
 
-    /** All design items, children too, in the order in which they first joined. Linear in all that ever joined. */
+    /** All design items, including children, in the order in which they first joined. Linear in all that ever joined.
+     */
     QList<TGraphicsItem*> DesignItems() const;
 
     /**
-     * The items whose bounding rectangles meet one of the scene (scene units), in no useful order. Gives the scene a
-     * fixed rectangle, that of its items, since the toolkit looks at every item after each change of geometry in a
-     * scene that grows by itself.
+     * The items whose bounding rectangles intersect a rectangle in scene coordinates, in no particular order. Sets a
+     * fixed scene rectangle, that of its items, since the toolkit visits every item after each change of geometry in a
+     * scene that grows automatically.
      */
     QList<QGraphicsItem*> ItemsNear(const QRectF& rect);
 
-    /** Brings the nets up to date with the links. Asking an item for its net does it by itself. */
+    /** Updates the nets to the links. Reading the net of an item does that implicitly. */
     void ApplyLinks();
 
-    /** Notes that copper of a net has been changed, added or taken away. The empty name is ignored. */
+    /** Marks the copper of a net as changed, added or removed. The empty name is ignored. */
     void MarkNet(const QString& net);
-    /** Notes that pours, or what keeps pours away, have changed. */
+    /** Marks pours, or what keeps pours away, as changed. */
     void MarkPours();
 
-    /** The nets noted since the last call. */
+    /** The nets marked since the last call. */
     QSet<QString> TakeMarkedNets();
-    /** Whether pours were noted since the last call. */
+    /** Whether pours were marked since the last call. */
     bool TakeMarkedPours();
 
 Q_SIGNALS:
@@ -65,7 +65,7 @@ private:
     bool IsNumbered(const TGraphicsItem& item) const;
 
     TWorkspace* workspace;
-    QVector<TGraphicsItem*> numbered; ///< By number, from 1; null where the item is away.
+    QVector<TGraphicsItem*> numbered; ///< By number, from 1; null for an item that has left.
     int numberedWhenFitted = 0;       ///< How many items had joined when the scene's rectangle was last fixed.
     TLinkChanges linkChanges;
     QSet<QString> markedNets;

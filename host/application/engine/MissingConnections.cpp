@@ -25,7 +25,7 @@ bool ShareLayer(const TGraphicsViaItem& one, const TGraphicsViaItem& other)
     return oneFirst <= otherLast && otherFirst <= oneLast;
 }
 
-/** Joins the groups of pads and vias that lie over each other. */
+/** Joins the groups of pads and vias that overlap. */
 class OverlapFinder
 {
 public:

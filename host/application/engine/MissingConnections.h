@@ -12,7 +12,7 @@ class TGraphicsItem;
 class TGraphicsKeepoutItem;
 class TGraphicsPourItem;
 
-/** The copper of a board by nets, as it is when this is constructed, and what is missing to join it. */
+/** The copper of a board by net, as of construction, and the connections that it lacks. */
 class BoardCopper
 {
 public:
@@ -22,7 +22,7 @@ public:
     QSet<QString> Nets() const;
     QSet<QString> NetsOfPours() const;
 
-    /** The shortest lines that would join all copper of a net, in the order of the copper that they begin at. */
+    /** The spanning tree of missing connections of a net, in the order of the copper that its lines begin at. */
     QVector<QLineF> MissingConnections(const QString& net) const;
 
 private:

@@ -101,7 +101,7 @@ private:
     Tree tree;
 };
 
-/** Finds, round after round, the best line from each set of points to another one. */
+/** Borůvka's algorithm: each round finds the shortest edge leaving each component. */
 class BestLines
 {
 public:

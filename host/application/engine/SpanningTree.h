@@ -6,7 +6,7 @@
 #include <QPointF>
 #include <QVector>
 
-/** Groups of points in the plane, and the shortest lines that would join all groups that are not joined yet. */
+/** Groups of points in the plane, and the minimum spanning tree that joins them. */
 class SpanningTree
 {
 public:

@@ -28,8 +28,8 @@ void TRatsnest::SetNetModel(const TNetModel* newModel)
 
 void TRatsnest::Ask(const QStringList& nets)
 {
-    // A caller that asks again and again gives a list that grows. The names that it shares with the last one are known,
-    // which costs next to nothing to see.
+    // Repeated requests come with a growing list. The prefix that it shares with the last one is already known, and
+    // comparing it is cheap.
     int known = 0;
     while (known < std::min(nets.size(), lastAsked.size()) && nets[known].isSharedWith(lastAsked[known])) {
         ++known;
@@ -107,7 +107,7 @@ void TRatsnest::WorkOut()
     for (const QString& net : qAsConst(inOrder)) {
         Replace(net, copper.MissingConnections(net));
     }
-    // What was marked by now are the lines themselves.
+    // The marks set meanwhile are those of the lines themselves.
     scene.TakeMarkedNets();
     whenIdle.stop();
     first = false;
@@ -115,7 +115,7 @@ void TRatsnest::WorkOut()
 
 void TRatsnest::Replace(const QString& net, const QVector<QLineF>& lines)
 {
-    // Lines that are still missing keep their items.
+    // Connections that are still missing keep their rat lines.
     const auto key = [](const QLineF& line) { return std::make_tuple(line.x1(), line.y1(), line.x2(), line.y2()); };
     std::multimap<std::tuple<double, double, double, double>, TGraphicsRatLineItem*> former;
     const QVector<TGraphicsRatLineItem*> formerItems = linesOf.take(net);
@@ -141,7 +141,7 @@ void TRatsnest::Replace(const QString& net, const QVector<QLineF>& lines)
         items[i]->SetPriority(PriorityOf(net));
     }
     for (const auto& [line, item] : former) {
-        // Taken off first: for one that is deleted on its scene, the toolkit searches the whole scene at the next
+        // Removed first: if an item is deleted while on its scene, the toolkit searches the whole scene at the next
         // change.
         item->Detach();
         delete item;

@@ -13,12 +13,12 @@ class TItemScene;
 class TNetModel;
 
 /**
- * The rat lines of a board: for each net a smallest set of straight lines that would join all of its copper. A part of
- * its board.
+ * The ratsnest of a board: for each net a minimum spanning tree of straight lines that would join all of its copper.
+ * Owned by its board.
  *
- * Copper is joined by links, by lying over each other (pads and vias), and by a pour of its net that covers it: one
- * whose polygon holds it, where no keepout and no stronger pour of another net does. The lines follow from the items'
- * state alone, so that the same state has the same lines.
+ * Copper is joined by links, by overlap (pads and vias), and by a pour of its net that covers it: one whose polygon
+ * contains it, where no keepout and no pour of another net with higher priority does. The lines depend on the items'
+ * state alone, so that equal states have equal lines.
  */
 class TRatsnest
 {
@@ -28,22 +28,22 @@ public:
     TRatsnest(const TRatsnest&) = delete;
     TRatsnest& operator=(const TRatsnest&) = delete;
 
-    /** Where nets have their priority and colour; null for nowhere. */
+    /** The source of the nets' priority and colour, or null. */
     void SetNetModel(const TNetModel* newModel);
 
-    /** Asks for nets, or for all nets of components' pads, to be worked out. */
+    /** Requests the rat lines of nets, or of all nets of components' pads. */
     void Ask(const QStringList& nets);
     void Ask(const QList<unsigned short>& components);
-    /** The nets that were asked for since the last `WorkOut`, sorted. */
+    /** The nets requested since the last `WorkOut`, sorted. */
     QStringList Asked() const;
 
-    /** Works out the nets that were asked for or marked, all of them the first time. */
+    /** Computes the nets that were requested or marked; all nets the first time. */
     void WorkOut();
 
     /** The lines, by net. */
     QList<TGraphicsItem*> Lines() const;
 
-    /** Brings the lines of a priority level, or with -1 all, up to date with the nets' priorities. */
+    /** Updates the lines of a priority level, or all with -1, to the nets' priorities. */
     void UpdatePriorities(int level);
 
 private:
@@ -58,7 +58,7 @@ private:
     QTimer whenIdle;
     QMap<QString, QVector<TGraphicsRatLineItem*>> linesOf; // Owned by the scene.
     QSet<QString> askedNets;
-    QStringList lastAsked; ///< The list that was asked for last.
+    QStringList lastAsked; ///< The last requested list.
     QSet<unsigned short> askedComponents;
     bool first = true;
 };

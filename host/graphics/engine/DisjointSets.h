@@ -8,9 +8,9 @@ class DisjointSets
 public:
     /** Makes a set of one new number. */
     int Add();
-    /** The number that stands for the set. */
+    /** The representative of the set. */
     int Root(int number);
-    /** How many numbers there are. */
+    /** The count of numbers. */
     int Size() const { return static_cast<int>(parents.size()); }
     /** Makes one set of two, and tells whether they were different. */
     bool Join(int one, int other);

@@ -19,7 +19,7 @@ QPainterPath Shapes::Capsule(const QPointF& from, const QPointF& to, double widt
         path.addEllipse(circle(from));
         return path;
     }
-    // The same way around as the toolkit's ellipses, so that paths of both do not cancel each other.
+    // The same orientation as the toolkit's ellipses, so that overlapping paths of both add up.
     path.arcMoveTo(circle(to), line.angle() + 90);
     path.arcTo(circle(to), line.angle() + 90, -180);
     path.arcTo(circle(from), line.angle() - 90, -180);
@@ -56,7 +56,7 @@ void Shapes::ArcThrough(QPainterPath& path, const QPointF& middle, const QPointF
     const QPointF center = from + toCenter;
     const double startAngle = QLineF(center, from).angle();
     const double endAngle = QLineF(center, to).angle();
-    // Angles grow against the clock as seen, while y grows downwards: a positive turn goes with the clock.
+    // Angles are counter-clockwise on screen, while y grows downwards: a positive rotation is clockwise.
     double span = endAngle - startAngle;
     if (turn > 0 && span > 0) {
         span -= 360;

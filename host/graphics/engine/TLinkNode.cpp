@@ -9,9 +9,9 @@
 #include <vector>
 
 /**
- * Looks for the parts that an island has fallen into: a search from every node that has lost a link, all of them a
- * step at a time, where those that meet become one. A search that finds no more has seen a part that is not joined
- * with the rest. It ends as soon as only one search is left, so that the largest part is not searched to its end.
+ * Finds the parts that an island has split into: a breadth-first search from every node that has lost a link, all
+ * advancing step by step, where searches that meet are merged. A search that is exhausted has found a separate part. It
+ * ends as soon as only one search is left, so that the largest part is not searched completely.
  */
 class TLinkSearch
 {
@@ -40,7 +40,7 @@ public:
     TLinkSearch(const TLinkSearch&) = delete;
     TLinkSearch& operator=(const TLinkSearch&) = delete;
 
-    /** All parts but the one that holds what was not searched to its end. */
+    /** All parts except the one that was not searched completely. */
     std::vector<Nodes> SeparateParts()
     {
         goingOn = searches.size();
@@ -72,8 +72,8 @@ private:
     struct Search
     {
         Nodes seen;
-        Nodes frontier; ///< What was seen, to be looked around from in order.
-        size_t next;    ///< The first that was not yet looked around from.
+        Nodes frontier; ///< The visited nodes, in the order in which they are expanded.
+        size_t next;    ///< The first that is not yet expanded.
 
         bool IsAtEnd() const { return next == frontier.size(); }
     };
@@ -121,7 +121,7 @@ private:
     }
 
     std::vector<Search> searches;
-    DisjointSets sets; ///< Of searches that have met; the root is the one that goes on.
+    DisjointSets sets; ///< Of searches that have met; the root is the one that continues.
     size_t goingOn = 0;
 };
 
@@ -155,7 +155,7 @@ void TLinkChanges::Add(const TLinkChanges& more)
 
 void TLinkNode::Release()
 {
-    // Whoever still holds a link to the item is told, one link after the other; its own links go by themselves.
+    // Items that still hold a link to this one are notified, link by link; its own links are destroyed with it.
     const QVector<Neighbour> last = neighbours;
     for (const Neighbour& neighbour : last) {
         for (int i = 0; i < neighbour.holding; ++i) {
@@ -190,7 +190,7 @@ void TLinkNode::Drop(TLinkNode& other)
 
 bool TLinkNode::IsLinkedWith(const TLinkNode& other) const
 {
-    // The shorter list answers as well.
+    // Searching the shorter list suffices.
     const bool otherIsShorter = other.neighbours.size() < neighbours.size();
     const QVector<Neighbour>& list = otherIsShorter ? other.neighbours : neighbours;
     const TLinkNode* wanted = otherIsShorter ? this : &other;
@@ -224,7 +224,7 @@ void TLinkNode::NoteChange(TLinkNode& other, bool made)
         scene->linkChanges.Add(*this, other, made);
         return;
     }
-    // No scene watches over both items: at once, and together with what the scenes have noted.
+    // No scene owns both items: update at once, together with what the scenes have noted.
     TLinkChanges changes;
     const QSet<TItemScene*> watching = WatchingScenes() + other.WatchingScenes();
     for (TItemScene* each : watching) {

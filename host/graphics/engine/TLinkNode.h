@@ -15,22 +15,22 @@ class TItemScene;
 class TLinkNode;
 
 /**
- * The items that links join, directly or through one another, and the net names among them.
+ * A connected component of linked items, and the net names in it.
  *
  * Shared by its members' nodes. An item without links has none.
  */
 struct TLinkIsland
 {
     QVector<TLinkNode*> members;
-    QHash<QString, int> namesGiven; ///< Nets of the members that name one (pads, pins), with how often.
-    QHash<QString, int> namesKept;  ///< Own names of the other members, with how often.
-    QHash<TItemScene*, int> scenes; ///< That own members, with how many.
-    /** The net and the colour that a port has found all to have who bear that net or none. Void as soon as a member
-     *  comes, goes, or changes its name or colour. */
+    QHash<QString, int> namesGiven; ///< Nets of the members that name one (pads, pins), with counts.
+    QHash<QString, int> namesKept;  ///< Own names of the other members, with counts.
+    QHash<TItemScene*, int> scenes; ///< That own members, with counts.
+    /** The net and the colour that a port has found on all members that have this net or none. Invalid as soon as a
+     *  member joins, leaves, or changes its name or colour. */
     std::optional<QPair<QString, QColor>> colored;
 };
 
-/** The two ends of links that were made or cut since the islands were last brought up to date. */
+/** The two ends of links that were made or cut since the islands were last updated. */
 struct TLinkChanges
 {
     QVector<QPair<TLinkNode*, TLinkNode*>> made;
@@ -42,22 +42,23 @@ struct TLinkChanges
 };
 
 /**
- * An item's place among the links of a design: who it is linked with, in which island, and what net that makes.
+ * An item's node in the graph of links: its neighbours, its island, and the net that follows.
  *
- * A part of its item. Every link that one item holds to another is told to both nodes, so that an item that goes away
- * can be taken out of all items that still hold it. The net of an item is, in this order: its own if it names nets;
- * the one that all naming members of its island agree on; its own; the one that all own names in the island agree on.
+ * A member of its item. Every link that one item holds to another is registered with both nodes, so that a destroyed
+ * item can be removed from all items that still link to it. The net of an item is, in this order: its own if it names
+ * nets; the one that all naming members of its island agree on; its own; the one that all own names in the island agree
+ * on.
  *
- * Cutting and making links costs nothing but a note. Islands are brought up to date when a net is asked for, at a cost
- * of the smaller part for each island that falls apart or grows together.
+ * Cutting and making links only records them. Islands are updated when a net is read, at the cost of the smaller part
+ * of each island that splits or merges.
  */
 class TLinkNode
 {
 public:
     enum class Role {
-        Follows, ///< Takes the net of what it is linked to.
-        Names,   ///< Has a net of its own, which the island takes.
-        Divides, ///< Is linked, but joins nothing.
+        Follows, ///< Takes the net of its links.
+        Names,   ///< Has its own net, which the island takes.
+        Divides, ///< Is linked, but connects nothing.
     };
 
     explicit TLinkNode(TGraphicsItem& ofItem) : item(ofItem) {}
@@ -70,30 +71,30 @@ public:
     /** To be set before the first link. */
     void SetRole(Role newRole) { role = newRole; }
 
-    /** Tells the node that its item goes from one scene to another; null for none. */
+    /** Notifies the node that its item moves from one scene to another; null for none. */
     void SceneChanges(TItemScene* from, TItemScene* to);
 
-    /** Notes that this item holds one more, or one less, link to another item. */
+    /** Records that this item holds one more, or one less, link to another item. */
     void Hold(TLinkNode& other);
     void Drop(TLinkNode& other);
 
-    /** Ends all links with the item, in all items that hold one to it. To be called while the item is destroyed. */
+    /** Removes all links to the item from the items that hold them. To be called during destruction of the item. */
     void Release();
 
     QString Net() const;
     const QString& OwnNet() const { return ownNet; }
     void SetOwnNet(const QString& name);
 
-    /** The island, null for an item that nothing is linked with. Valid until links change. */
+    /** The island; null for an item without links. Valid until links change. */
     const TLinkIsland* Island() const;
 
-    /** Notes in the island, if there is one, that all of a net have a colour; whether that is noted; and that an item
-     *  takes another one. */
+    /** Records in the island, if there is one, that all items of a net have a colour; whether that is recorded; and
+     * that an item changes its colour. */
     void NoteColored(const QString& net, const QColor& color) const;
     bool IsColored(const QString& net, const QColor& color) const;
     void ColorChanges() const;
 
-    /** Brings islands and nets up to date with the links. Called by the design's scene and by the nodes. */
+    /** Updates islands and nets to the links. Called by the design's scene and by the nodes. */
     static void Apply(TLinkChanges& changes);
 
 private:
@@ -120,7 +121,7 @@ private:
     TGraphicsItem& item;
     Role role = Role::Follows;
     int placeInIsland = -1;
-    int search = -1; ///< The search that has come by, during `TLinkSearch`.
+    int search = -1; ///< The search that has visited it, during `TLinkSearch`.
     QString ownNet;
     QVector<Neighbour> neighbours;
     std::shared_ptr<TLinkIsland> island;

@@ -12,7 +12,7 @@ namespace {
 
 QString Number(double value)
 {
-    constexpr double zero = 0.0; // Minus zero is written as zero: the two are equal.
+    constexpr double zero = 0.0; // Negative zero is written as zero: the two are equal.
     return QString::number(value == zero ? zero : value, 'g', QLocale::FloatingPointShortest);
 }
 
@@ -34,7 +34,7 @@ QString Pair(double first, double second)
 
 } // namespace
 
-// Whole designs are described again and again: the line is added to in place.
+// Whole designs are described repeatedly: append to the line in place.
 TStateText::TStateText(const QString& kind)
 {
     constexpr int usualLength = 400;

@@ -11,7 +11,7 @@ class QSizeF;
 class QStringList;
 
 /**
- * Builds the canonical line that says an item's whole state: the kind, then `name=value` pairs in the order in which
+ * Builds the canonical line of an item's whole state: the kind, then `name=value` pairs in the order in which
  * they are added. Numbers are written with the fewest digits that read back as the same value, so that two lines are
  * equal exactly when the states are.
  */
@@ -31,10 +31,10 @@ public:
     TStateText& Add(const char* name, const QColor& color);
     TStateText& Add(const char* name, const QPainterPath& path);
     TStateText& Add(const char* name, const QPolygonF& polygon);
-    /** A list of words that need no quotes. */
+    /** A list of words that do not need quotes. */
     TStateText& Add(const char* name, const QStringList& words);
 
-    /** A layer and points of the scene, without blanks, behind what there is so far. */
+    /** Appends a layer and scene points, without blanks. */
     TStateText& AddPlace(int layer, const QVector<QPointF>& points);
 
     const QString& Line() const { return line; }
