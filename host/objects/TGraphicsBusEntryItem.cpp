@@ -57,7 +57,7 @@ void TGraphicsBusEntryItem::UnlinkFromNet()
 {
     if (TGraphicsNetItem* net = NetLink()) {
         net->UnlinkFrom(this);
-        net->UnlinkFrom(this); // It may be linked with both ends.
+        net->UnlinkFrom(this); // Both of its ends may be linked.
         SetNetLink(nullptr);
     }
 }

@@ -5,7 +5,7 @@
 class TGraphicsBusItem;
 class TGraphicsNetItem;
 
-/** The short line by which a net leaves a bus: linked to the bus with one end, and with the other to a net wire. */
+/** The short line by which a net leaves a bus: one end is linked to the bus, the other to a net wire. */
 class TGraphicsBusEntryItem : public TGraphicsLineItem
 {
 public:
@@ -28,7 +28,7 @@ public:
 
     QVector<TGraphicsItem*> Links() const override;
     bool ReplaceLinkedItem(TGraphicsItem* from, TGraphicsItem* to) override;
-    /** A net wire takes the place of the one that was linked before. */
+    /** A net wire replaces the one that was linked before. */
     void AcceptLink(TGraphicsItem* section, LinkEnd end) override;
     void ReleaseLink(TGraphicsItem* section, LinkEnd end) override;
     bool CanBeLinkedTo() const override { return true; }

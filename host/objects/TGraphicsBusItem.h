@@ -5,7 +5,7 @@
 
 class TGraphicsBusEntryItem;
 
-/** A straight piece of a bus, a bundle of nets that keep their names: what is linked to it is not joined by it. */
+/** A straight piece of a bus, a bundle of nets that keep their names: items linked to it are not connected by it. */
 class TGraphicsBusItem : public TGraphicsSectionItem
 {
 public:
@@ -14,7 +14,7 @@ public:
     int type() const override { return ItemType::Bus; }
     QString KindName() const override { return QStringLiteral("bus"); }
 
-    /** The name, such as "D[0..7]". The setter stores only. */
+    /** The name, such as "D[0..7]". The setter only stores. */
     const QString& Name() const { return name; }
     void SetName(const QString& text) { name = text; }
 

@@ -86,7 +86,7 @@ double TGraphicsComponentItem::StackingHeight() const
 QVariant TGraphicsComponentItem::itemChange(GraphicsItemChange change, const QVariant& newValue)
 {
     if (change == ItemChildAddedChange || change == ItemChildRemovedChange) {
-        // The child may be half made or half destroyed: nothing is asked of it before this is over.
+        // The child may be partly constructed or destroyed: do not access it before that has finished.
         bodyKnown = true;
         prepareGeometryChange();
         bodyKnown = false;
@@ -123,7 +123,7 @@ void TGraphicsComponentItem::CopyFrom(const TGraphicsItem& source)
     componentNumber = other.componentNumber;
     lockRefDes = other.lockRefDes;
     lockValue = other.lockValue;
-    // The children were copied in their order.
+    // The children were copied in order.
     const QList<QGraphicsItem*> originals = other.childItems();
     const QList<QGraphicsItem*> copies = childItems();
     const auto copyOf = [&](TGraphicsItem* text) {

@@ -3,8 +3,8 @@
 #include <graphics/TGraphicsItem.h>
 
 /**
- * What packages and parts have in common: the component that they belong to, and the texts that name it. It can be
- * picked wherever none of its children is, within the rectangle around those that are no texts.
+ * The base of packages and parts: the component that they belong to, and its designator and value texts. Its area for
+ * hit tests is the bounding rectangle of those children that are not texts; the children themselves come first.
  */
 class TGraphicsComponentItem : public TGraphicsItem
 {
@@ -17,20 +17,20 @@ public:
     /** The component's value as text. The setter stores, updates the text item and repaints. */
     const QString& Value() const { return value; }
     void SetValue(const QString& text);
-    /** The footprint's name, possibly followed by an at sign and a qualifier. The setter stores only. */
+    /** The footprint's name, possibly followed by an at sign and a qualifier. The setter only stores. */
     const QString& PackageName() const { return packageName; }
     void SetPackageName(const QString& text) { packageName = text; }
-    /** The number of the component, which its parts and its package share; 0 for none. The setter stores only. */
+    /** The number of the component, which its parts and its package share; 0 for none. The setter only stores. */
     quint16 ComponentNumber() const { return componentNumber; }
     void SetComponentNumber(quint16 number) { componentNumber = number; }
 
-    /** The child items that draw designator and value; null where there is none. The setter makes the item a child. */
+    /** The child items that draw designator and value, or null. The setter makes the item a child. */
     TGraphicsItem* RefDesText() const { return refDesText; }
     void SetRefDesText(TGraphicsItem* text);
     TGraphicsItem* ValueText() const { return valueText; }
     void SetValueText(TGraphicsItem* text);
 
-    /** Whether the texts may not be moved on their own. The setters store only. */
+    /** Whether the texts are locked against being moved on their own. The setters only store. */
     bool LockRefDes() const { return lockRefDes; }
     void SetLockRefDes(bool on) { lockRefDes = on; }
     bool LockValue() const { return lockValue; }

@@ -3,7 +3,7 @@
 #include <graphics/TGraphicsRectItem.h>
 #include <objects/engine/TLinkList.h>
 
-/** A node at which several sections of one layer meet, drawn as a dot as large as its size. */
+/** A node at which several sections of one layer meet, drawn as a dot of its size. */
 class TGraphicsJunctionItem : public TGraphicsRectItem
 {
 public:
@@ -18,7 +18,7 @@ public:
     void AddLinkedSection(TGraphicsSectionItem* section);
     void RemoveLinkedSection(TGraphicsSectionItem* section);
 
-    /** Sets the own net name, which the junction bears where links give it none, and repaints. */
+    /** Sets the own net name, which is the junction's net if links give it none, and repaints. */
     void SetNet(const QString& name);
 
     QVector<TGraphicsItem*> Links() const override { return linked.Items(); }

@@ -4,7 +4,7 @@
 
 #include <QPolygonF>
 
-/** A polygon that keeps pours off the copper layers that it acts on. */
+/** A polygon that keeps pours out on the copper layers that it acts on. */
 class TGraphicsKeepoutItem : public TGraphicsItem
 {
 public:
@@ -17,9 +17,9 @@ public:
     const QPolygonF& Area() const { return area; }
     void SetArea(const QPolygonF& polygon);
 
-    /** Whether the keepout acts on a layer; false for a layer that is no copper. */
+    /** Whether the keepout acts on a layer; false for a layer that is not copper. */
     bool IsLayerEnable(Osmirel::Layer copper) const;
-    /** Lets the keepout act on a copper layer, or not, and repaints. Other layers are ignored. */
+    /** Switches the keepout on or off on a copper layer, and repaints. Other layers are ignored. */
     void SetLayerEnable(Osmirel::Layer copper, bool on);
     /** The same for all eight copper layers, from the top down. */
     const QVector<bool>& LayerEnables() const { return enabled; }

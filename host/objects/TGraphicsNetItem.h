@@ -2,7 +2,7 @@
 
 #include <objects/TGraphicsSectionItem.h>
 
-/** A straight piece of a net on a schematic page. It bears the name of its net, also where no port gives it one. */
+/** A straight piece of a net on a schematic page. It has the name of its net, even if no port gives it one. */
 class TGraphicsNetItem : public TGraphicsSectionItem
 {
 public:

@@ -8,7 +8,7 @@
 
 /**
  * Copper that joins two nets on purpose: two round pads on one layer and a wire between them. Wires may be linked to
- * either pad; they stay on the net that they have.
+ * either pad; they keep their net.
  */
 class TGraphicsNetTiePcbItem : public TGraphicsItem
 {
@@ -18,7 +18,7 @@ public:
     int type() const override { return ItemType::NetTiePcb; }
     QString KindName() const override { return QStringLiteral("nettie"); }
 
-    /** What pairs the tie with its symbol on a schematic page. The setter stores only. */
+    /** The number that pairs the tie with its symbol on a schematic page. The setter only stores. */
     quint16 Number() const { return number; }
     void SetNumber(quint16 newNumber) { number = newNumber; }
 
@@ -31,8 +31,8 @@ public:
     /** Diameter of the pads in scene units. The setter repaints. */
     double PadSize() const { return padSize; }
     void SetPadSize(double diameter);
-    /** From the centre of one pad to that of the other, in scene units; they lie at both sides of the position, along
-     *  the item's x axis. The setter repaints. */
+    /** Distance between the centres of the pads, in scene units; they are on both sides of the position, along the
+     * item's x axis. The setter repaints. */
     double PadDistance() const { return padDistance; }
     void SetPadDistance(double distance);
 
@@ -46,9 +46,9 @@ public:
     void AddLinkedWire(TGraphicsSectionItem* wire);
     void RemoveLinkedWire(TGraphicsSectionItem* wire);
 
-    /** Links the given wires, or with none given all that end on a pad, and returns them. See `TWireConnector`. */
+    /** Links the given wires, or if none are given all that end on a pad, and returns them. See `TWireConnector`. */
     QVector<TGraphicsItem*> Connect(const QVector<TGraphicsItem*>& items);
-    /** Cuts the given wires, or with none given all, and returns them. */
+    /** Cuts the given wires, or if none are given all, and returns them. */
     QVector<TGraphicsItem*> Disconnect(const QVector<TGraphicsItem*>& items);
 
     QVector<TGraphicsItem*> Links() const override { return linked.Items(); }

@@ -2,7 +2,7 @@
 
 #include <graphics/TGraphicsItem.h>
 
-/** The symbol, on a schematic page, of a place where two nets are joined on purpose: the parent of a pin for each. */
+/** The symbol of a net tie on a schematic page, which joins two nets on purpose: the parent of a pin for each. */
 class TGraphicsNetTieSchItem : public TGraphicsItem
 {
 public:
@@ -11,7 +11,7 @@ public:
     int type() const override { return ItemType::NetTieSch; }
     QString KindName() const override { return QStringLiteral("nettiesymbol"); }
 
-    /** What pairs the symbol with its copper on the board. The setter stores only. */
+    /** The number that pairs the symbol with its copper on the board. The setter only stores. */
     quint16 Number() const { return number; }
     void SetNumber(quint16 newNumber) { number = newNumber; }
 
@@ -21,7 +21,7 @@ public:
     bool NameVisible() const { return nameVisible; }
     void SetNameVisible(bool on);
 
-    /** Which of the three symbols is drawn: 0, 1 or 2. The setter stores only. */
+    /** Which of the three symbols is drawn: 0, 1 or 2. The setter only stores. */
     int Symbol() const { return symbol; }
     void SetSymbol(int variant) { symbol = variant; }
 

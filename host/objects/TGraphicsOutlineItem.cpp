@@ -24,7 +24,7 @@ QPainterPath CurveThrough(const QVector<OutlinePointStruct>& points)
         if (points[i].kind == 0) {
             path.lineTo(At(points[i]));
         } else {
-            // The arc's end may be the curve's beginning.
+            // The arc may end at the start of the curve.
             Shapes::ArcThrough(path, At(points[i]), At(points[(i + 1) % points.size()]));
             ++i;
         }

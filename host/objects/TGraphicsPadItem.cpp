@@ -13,10 +13,10 @@
 
 namespace {
 
-/** A rectangle whose four corners are cut so that all eight sides of a square one are equal. */
+/** A rectangle with four chamfered corners; if it is a square, all eight sides are equal. */
 QPainterPath Octagon(const QRectF& box)
 {
-    constexpr double cutOfRegularOctagon = 0.29289321881345254; // 1 - sqrt(1/2), of the side
+    constexpr double cutOfRegularOctagon = 0.29289321881345254; // 1 - sqrt(1/2), as a fraction of the side
     const double cut = cutOfRegularOctagon * std::min(box.width(), box.height());
     QPainterPath path;
     path.addPolygon(QVector<QPointF>{{box.left() + cut, box.top()},
@@ -255,7 +255,7 @@ void TGraphicsPadItem::DrawNumber(QPainter& painter, double pixelsPerUnit) const
     if (numberPath.isEmpty()) {
         numberPath = Shapes::Label(number);
     }
-    // The number reads upright however the package is turned; it is never seen from behind.
+    // The number reads upright at every rotation of the package, and is never mirrored.
     const double turned = std::fmod(parentItem() ? parentItem()->rotation() + rotation() : rotation(), 360.0);
     const double radians = qDegreesToRadians(turned);
     const double room = std::min(box.width() / std::max(std::abs(std::cos(radians)), 1e-6),

@@ -4,8 +4,8 @@
 
 /**
  * A pad of the board: copper of one of several shapes, on one layer (a surface pad, whose start and end layer are
- * equal) or through the board. A pad with a parent item belongs to that package. Its net is given by the schematic or
- * the file, and gives the copper that is linked with it its net.
+ * equal) or through the board. A pad with a parent item belongs to that package. Its net comes from the schematic or
+ * the file, and is the net of all copper linked with it.
  */
 class TGraphicsPadItem : public TGraphicsViaItem
 {
@@ -24,15 +24,15 @@ public:
     int type() const override { return ItemType::Pad; }
     QString KindName() const override { return QStringLiteral("pad"); }
 
-    /** Number and name as text. The setters store only; `UpdateTextPaths` brings the drawing up to date. */
+    /** Number and name as text. The setters only store; `UpdateTextPaths` updates the drawing. */
     const QString& Number() const { return number; }
     void SetNumber(const QString& text) { number = text; }
     const QString& Name() const { return name; }
     void SetName(const QString& text) { name = text; }
-    /** Lays the pad's texts out anew and repaints. */
+    /** Lays the pad's texts out again and repaints. */
     void UpdateTextPaths();
 
-    /** Sets one measure of the copper in scene units, keeps the other, and repaints. */
+    /** Sets width or height of the copper in scene units, keeps the other, and repaints. */
     void SetWidth(double width);
     void SetHeight(double height);
 
@@ -42,16 +42,16 @@ public:
 
     /** Whether the pad lies on one layer only. */
     bool IsSMD() const { return StartLayer() == EndLayer(); }
-    /** Makes a surface pad of the start layer, or a pad that goes from the start layer through the board, or as far as
-     *  it went from there before. Repaints. */
+    /** Makes a surface pad on the start layer, or a pad from the start layer to the end layer that it had before, by
+     *  default through the board. Repaints. */
     void SetTypeSMD(bool smd);
-    /** Moves a surface pad to a layer and repaints; a pad through the board has no side and stays as it is. */
+    /** Moves a surface pad to a layer and repaints; a no-op for a through-hole pad, which has no side. */
     void SetPadSide(Osmirel::Layer side);
 
-    /** Sets the mask clearance, which never closes the opening further than to a point, and repaints. */
+    /** Sets the mask clearance, limited so that the opening shrinks to a point at most, and repaints. */
     void SetMaskClearance(float clearance);
 
-    /** Whether solder paste is applied. The setter stores only. */
+    /** Whether solder paste is applied. The setter only stores. */
     bool PasteEnabled() const { return pasteEnabled; }
     void SetPasteEnabled(bool on) { pasteEnabled = on; }
     /** How far the paste reaches beyond the copper, in scene units; negative for less than the copper. */
@@ -59,14 +59,14 @@ public:
     /** Sets the paste clearance and repaints. */
     void SetPasteClearance(float clearance);
 
-    /** Radius of a rectangle's corners as a part of its shorter side, 0 to 0.5. The setter repaints. */
+    /** Radius of a rectangle's corners as a fraction of its shorter side, 0 to 0.5. The setter repaints. */
     double CornerRatio() const { return cornerRatio; }
     void SetCornerRatio(double ratio);
     /** How much longer a rectangle's left side is than its right one (width), and its top than its bottom (height),
      *  in scene units. The setter repaints. */
     QSizeF Taper() const { return taper; }
     void SetTaper(const QSizeF& difference);
-    /** Where the copper's centre lies, seen from the hole, in scene units. The setter repaints. */
+    /** Offset of the copper's centre from the hole, in scene units. The setter repaints. */
     QPointF CopperOffset() const { return copperOffset; }
     void SetCopperOffset(const QPointF& offset);
     /** How much longer than the drill diameter an oblong hole is, in scene units along x and y. The setter repaints. */
@@ -88,19 +88,20 @@ protected:
     void Draw(QPainter& painter, double pixelsPerUnit) const override;
 
 private:
-    /** Stores one value of the geometry, repaints before and after. */
+    /** Stores one value of the geometry, and repaints before and after. */
     template <class Value>
     void StoreGeometry(Value& field, const Value& value);
-    /** The shape's rectangle around its offset. */
+    /** The shape's rectangle, centred on its offset. */
     QRectF OffsetCopperRect() const;
-    /** The hole's rectangle for a drill diameter: drawn no wider than the copper, since a drill is set without notice.
+    /** The hole's rectangle for a drill diameter: drawn no wider than the copper, since the drill can be set without a
+     * repaint.
      */
     QRectF HoleRect(double diameter) const;
     QPainterPath CopperGrownBy(double margin) const;
     void DrawHole(QPainter& painter) const;
     void DrawNumber(QPainter& painter, double pixelsPerUnit) const;
 
-    /** By start layers: how far the pad went from there when it was made a surface pad. */
+    /** By start layer: the end layer before the pad was made a surface pad. */
     QHash<Osmirel::Layer, Osmirel::Layer> farLayers;
     QString number;
     QString name;

@@ -35,7 +35,7 @@ double StandardLength(TGraphicsPinItem::TypePinLength length)
 TGraphicsPinItem::TGraphicsPinItem(QGraphicsItem* parent)
     : TGraphicsItem(parent), numberText(new TGraphicsTextItem(this)), symbolLength(StandardLength(LengthMiddle))
 {
-    setFlag(ItemSendsGeometryChanges); // Name and number are to stay readable.
+    setFlag(ItemSendsGeometryChanges); // Keeps name and number readable.
     SetLayer(Osmirel::SchematicSymbols);
     numberText->SetLayer(Osmirel::SchematicSymbols);
     numberText->SetVector(false);
@@ -213,7 +213,7 @@ void TGraphicsPinItem::Describe(TStateText& state) const
 std::unique_ptr<TGraphicsItem> TGraphicsPinItem::CreateEmpty() const
 {
     auto empty = std::make_unique<TGraphicsPinItem>();
-    delete std::exchange(empty->numberText, nullptr); // The copy of this one's comes in its place.
+    delete std::exchange(empty->numberText, nullptr); // Replaced by the copy of this one's child.
     return empty;
 }
 

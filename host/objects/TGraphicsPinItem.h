@@ -6,8 +6,8 @@
 class TGraphicsTextItem;
 
 /**
- * A pin of a symbol: what connects to it does so at its position, and from there its line goes along its x axis to the
- * symbol's body. A child of a part, a net tie or a port, or of nothing while a symbol is drawn.
+ * A pin of a symbol: its position is the connection point, from which its line goes along its x axis to the symbol's
+ * body. A child of a part, a net tie or a port, or without parent while a symbol is drawn.
  *
  * Net wires are linked to it, and pins of other symbols that lie on the same point.
  */
@@ -38,7 +38,7 @@ public:
     bool NameVisible() const { return nameVisible; }
     void SetNameVisible(bool on);
 
-    /** The child that holds the number as its text, and draws it. Null only if somebody has deleted it. */
+    /** The child that holds the number as its text, and draws it. Null only if it was deleted. */
     TGraphicsTextItem* NumberText() const { return numberText; }
     /** The number; empty without its text item. */
     QString Number() const;
@@ -46,26 +46,26 @@ public:
     /** Shows or hides the number, and repaints. */
     void SetNumberVisible(bool on);
 
-    /** How the pin acts on its net. The setter stores only. */
+    /** The electrical type. The setter only stores. */
     TypePinType PinType() const { return pinType; }
     void SetPinType(TypePinType newType) { pinType = newType; }
-    /** How the pin is drawn. The setters store only; `UpdatePath` brings the drawing up to date. */
+    /** How the pin is drawn. The setters only store; `UpdatePath` updates the drawing. */
     TypePinStyle PinStyle() const { return pinStyle; }
     void SetPinStyle(TypePinStyle style) { pinStyle = style; }
     TypePinLength PinLength() const { return pinLength; }
     void SetPinLength(TypePinLength length) { pinLength = length; }
-    /** The group of pins that may change places, 0 for none. The setter stores only. */
+    /** The group of pins that may be swapped, 0 for none. The setter only stores. */
     quint8 Swap() const { return swap; }
     void SetSwap(quint8 group) { swap = group; }
 
-    /** Length of the line in scene units: that of its class, or the symbol's own length of that class. */
+    /** Length of the line in scene units: that of its length class, or the symbol's own length for the class. */
     double LineLength() const;
-    /** Lets the symbol draw pins of the present length class with a length of its own, in scene units. */
+    /** Sets the symbol's own length, in scene units, for pins of the current length class. */
     void SetSymbolLength(double length);
 
-    /** Brings the pin's line, and the number's place on it, up to date with style and length. */
+    /** Updates the pin's line, and the number's position on it, to style and length. */
     void UpdatePath();
-    /** Puts the number at its place on the line. */
+    /** Moves the number to its position on the line. */
     void UpdateNumberPos();
 
     /** The wires that are linked here, once for each of their ends, and the pins; in the order of linking. */
@@ -76,7 +76,7 @@ public:
     void LinkToPin(TGraphicsPinItem* pin);
     void UnlinkFromPin(TGraphicsPinItem* pin);
 
-    /** Makes the pin one that names the net of all that is linked with it; for ports. Empty for no name. */
+    /** Makes the pin name the net of all that is linked with it; for ports. Empty for no name. */
     void NameNet(const QString& net);
 
     QVector<TGraphicsItem*> Links() const override { return sections.Items() + pins.Items(); }
@@ -99,7 +99,7 @@ protected:
 private:
     /** Repaints with a new extent, which the parent's depends on. */
     void ExtentChanges();
-    /** Turns the number as the pin is turned now; it may be turned otherwise later. */
+    /** Rotates the number to match the pin's current rotation. */
     void KeepNumberUpright();
     const QPainterPath& NamePath() const;
 
@@ -115,5 +115,5 @@ private:
     quint8 swap = 0;
     TLinkList sections{LinkNode()};
     TLinksTo<TGraphicsPinItem> pins{LinkNode()};
-    mutable QPainterPath namePath; ///< Made when first asked for; empty until then.
+    mutable QPainterPath namePath; ///< Computed lazily; empty until then.
 };

@@ -29,7 +29,7 @@ bool HasOwnNet(const TGraphicsItem& item)
 
 TGraphicsPortItem::TGraphicsPortItem(QGraphicsItem* parent) : TGraphicsItem(parent), pin(new TGraphicsPinItem(this))
 {
-    setFlag(ItemSendsGeometryChanges); // The name is to stay readable.
+    setFlag(ItemSendsGeometryChanges); // Keeps the name readable.
     SetLayer(Osmirel::SchematicNets);
     pin->LinkNode().SetRole(TLinkNode::Role::Names);
     pin->SetPinLength(TGraphicsPinItem::LengthZero);
@@ -41,7 +41,7 @@ void TGraphicsPortItem::SetName(const QString& newName, const QColor& color)
     if (newName != name) {
         Rename(newName, color);
     } else if (pin && pin->LinkNode().IsColored(name, color)) {
-        return; // As when all ports of a net are renamed: the first of them has done it.
+        return; // For example if all ports of a net are renamed: the first one has done it.
     } else {
         const TFormers wired = Wired();
         for (auto each = wired.cbegin(); each != wired.cend(); ++each) {
@@ -73,8 +73,8 @@ void TGraphicsPortItem::Rename(const QString& newName, const QColor& color)
     }
 }
 
-/** Whether a new name takes the last renaming back. That depends on this port's own name and renamings alone, and not
- * on whether a command is undone; but whatever is taken back can be done again just so. */
+/** Whether a new name reverts the last renaming. That depends on this port's own name and renamings alone, not on
+ * whether a command is undone; but a reverted renaming can be repeated with the same result. */
 bool TGraphicsPortItem::TakesBack(const QString& newName, const TFormers& wired)
 {
     if (renamings.isEmpty()) {
@@ -88,7 +88,7 @@ bool TGraphicsPortItem::TakesBack(const QString& newName, const TFormers& wired)
            && std::all_of(wired.constKeyValueBegin(), wired.constKeyValueEnd(), isAsGiven);
 }
 
-/** What is wired to the port and takes its net from the others, such as bus entries. */
+/** Items that are wired to the port and take their net from others, such as bus entries. */
 void TGraphicsPortItem::ColorNameless(const QColor& color)
 {
     const QVector<TGraphicsItem*> items = ConnectedItems();
@@ -250,7 +250,7 @@ void TGraphicsPortItem::Describe(TStateText& state) const
 std::unique_ptr<TGraphicsItem> TGraphicsPortItem::CreateEmpty() const
 {
     auto empty = std::make_unique<TGraphicsPortItem>();
-    delete std::exchange(empty->pin, nullptr); // The copy of this one's comes in its place.
+    delete std::exchange(empty->pin, nullptr); // Replaced by the copy of this one's child.
     return empty;
 }
 

@@ -10,13 +10,13 @@
 class TGraphicsPinItem;
 
 /**
- * A named connector on a schematic page. Its name is the name of the net that it joins: ports of one name join what is
- * wired to them to one net, on all pages. What is wired to the port is linked to its only pin, at its position.
+ * A named connector on a schematic page. Its name is the name of its net: ports of one name connect what is wired to
+ * them, on all pages. What is wired to the port is linked to its only pin, at its position.
  */
 class TGraphicsPortItem : public TGraphicsItem
 {
 public:
-    /** How the port is drawn: which way signals go, or as a supply. */
+    /** How the port is drawn: by signal direction, or as a supply. */
     enum TypePortShape : int { ShapeInput, ShapeOutput, ShapeBidirectional, ShapeTriState, ShapePassive, ShapePower };
 
     explicit TGraphicsPortItem(QGraphicsItem* parent = nullptr);
@@ -26,16 +26,16 @@ public:
 
     const QString& Name() const { return name; }
     /**
-     * Renames the port and, if that is a new name, all that is wired to it, whatever it was called: wires, junctions
-     * and other ports. All of these get the colour (invalid for the layer's), and are repainted.
+     * Renames the port and, if the name is new, all that is wired to it, whatever the old names: wires, junctions and
+     * other ports. All of these get the colour (invalid for the layer's), and are repainted.
      *
-     * Renaming the same port back gives everything its former name back, as long as just the same things are wired to
-     * it and all have the name that it gave them; so commands that are undone in their order bring back every name. Its
-     * own name only gives the colour to what has that name.
+     * Renaming the same port back restores all former names, as long as exactly the same items are wired to it and all
+     * have the name that it gave them; so undoing commands in order restores every name. Renaming to its own name only
+     * sets the colour of the items of that name.
      */
     void SetName(const QString& newName, const QColor& color);
 
-    /** Tells those who are linked with the pin. */
+    /** Notifies the items that are linked with the pin. */
     void SetAltColor(const QColor& color) override;
 
     bool NameVisible() const { return nameVisible; }
@@ -46,12 +46,12 @@ public:
     /** Sets the shape and repaints. */
     void SetPortShape(TypePortShape shape);
 
-    /** What wires are linked to. Null only if somebody has deleted it. */
+    /** The pin that wires are linked to. Null only if it was deleted. */
     TGraphicsPinItem* Pin() const { return pin; }
 
     /** The net of what is wired to the port, or else its own name. */
     QString Net() const override;
-    /** All that links join with the port, directly or through one another, without its own pin. */
+    /** All items that links connect to the port, directly or indirectly, without its own pin. */
     QVector<TGraphicsItem*> ConnectedItems() const;
 
     QRectF boundingRect() const override;
@@ -65,13 +65,13 @@ protected:
     QVariant itemChange(GraphicsItemChange change, const QVariant& value) override;
 
 private:
-    /** What an item was called before a renaming, and how it was coloured. */
+    /** Name and colour of an item before a renaming. */
     struct Former
     {
         QString name;
         QColor color;
     };
-    /** By the items, which are compared only and never followed. */
+    /** By item; the pointers are compared but never dereferenced. */
     using TFormers = QHash<TGraphicsItem*, Former>;
 
     /** One renaming by this port of all that was wired to it, the port too. */
@@ -81,7 +81,7 @@ private:
         TFormers from;
     };
 
-    /** The port, and the ports, wires and junctions that links join with it. */
+    /** The port, and the ports, wires and junctions that links connect to it. */
     TFormers Wired();
     void Rename(const QString& newName, const QColor& color);
     bool TakesBack(const QString& newName, const TFormers& wired);
@@ -96,6 +96,6 @@ private:
     bool nameVisible = true;
     TypePortShape portShape = ShapePassive;
     TGraphicsPinItem* pin;
-    QVector<Renaming> renamings;   ///< The last one last. A first one of things that had one name is not noted.
-    mutable QPainterPath namePath; ///< Made when first asked for; empty until then.
+    QVector<Renaming> renamings;   ///< The latest last. A first one is not recorded if all items had the same name.
+    mutable QPainterPath namePath; ///< Computed lazily; empty until then.
 };

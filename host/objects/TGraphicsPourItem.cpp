@@ -9,7 +9,7 @@
 
 TGraphicsPourItem::TGraphicsPourItem(QGraphicsItem* parent) : TGraphicsItem(parent)
 {
-    // A pour has a net of its own; what it covers is joined by lying there and not by links.
+    // A pour has its own net; what it covers is connected by overlap, not by links.
     LinkNode().SetRole(TLinkNode::Role::Names);
     TGraphicsItem::SetLayer(Osmirel::CopperTop);
     setZValue(TGraphicsPourItem::StackingHeight());

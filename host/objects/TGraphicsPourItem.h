@@ -11,8 +11,8 @@ class TPourFill;
 /**
  * A copper area that fills itself around other copper of its layer.
  *
- * All setters but `SetArea`, `SetLayer` and `SetNet` store only; `Fill` brings the copper up to date. What is filled is
- * not part of the item's state: it follows from the state of all items at the last `Fill`.
+ * All setters but `SetArea`, `SetLayer` and `SetNet` only store; `Fill` updates the copper. The filled copper is not
+ * part of the item's state: it follows from the state of all items at the last `Fill`.
  */
 class TGraphicsPourItem : public TGraphicsItem
 {
@@ -27,7 +27,7 @@ public:
     const QPolygonF& Area() const { return area; }
     void SetArea(const QPolygonF& polygon);
 
-    /** Distance to other nets' wires, vias, pads and drawings, in scene units. */
+    /** Distance to other nets' wires, vias, pads and primitives, in scene units. */
     double ClearanceToEtch() const { return clearanceToEtch; }
     void SetClearanceToEtch(double clearance) { clearanceToEtch = clearance; }
     /** Distance to the board's outline, in scene units. */
@@ -40,55 +40,55 @@ public:
     /** A `Qt::BrushStyle`: none, solid, or lines in one or two directions. */
     int FillType() const { return fillType; }
     void SetFillType(int brushStyle);
-    /** Width in scene units of the lines that the copper is drawn with; it is nowhere narrower. */
+    /** Width in scene units of the lines that the copper is drawn with; copper is nowhere narrower. */
     double LineWidth() const { return lineWidth; }
     void SetLineWidth(double width) { lineWidth = width; }
-    /** Copper pieces smaller than this many square millimetres are left out. */
+    /** Islands smaller than this many square millimetres are removed. */
     double MinimumArea() const { return minimumArea; }
     void SetMinimumArea(double squareMillimetres) { minimumArea = squareMillimetres; }
-    /** Whether copper pieces are left out that touch no copper of the pour's net. */
+    /** Whether islands are removed that touch no copper of the pour's net. */
     bool OnlyConnected() const { return onlyConnected; }
     void SetOnlyConnected(bool on) { onlyConnected = on; }
-    /** The pour of the higher priority fills where two overlap; of equals, the one that joined the board first. */
+    /** Where pours overlap, the higher priority fills; of equal ones, the pour that joined the board first. */
     quint8 Priority() const { return priority; }
     void SetPriority(quint8 level);
 
-    /** Whether pads and vias of the pour's net are connected by spokes, unless they say otherwise. */
+    /** Whether pads and vias of the pour's net are connected by spokes, unless they override it. */
     bool ThermalEnable() const { return thermalEnable; }
     void SetThermalEnable(bool on) { thermalEnable = on; }
     /** Width of the spokes, in scene units. */
     double ThermalLine() const { return thermalLine; }
     void SetThermalLine(double width) { thermalLine = width; }
-    /** Distance that the spokes bridge, in scene units. */
+    /** Gap that the spokes bridge, in scene units. */
     double ThermalIsolation() const { return thermalIsolation; }
     void SetThermalIsolation(double distance) { thermalIsolation = distance; }
 
     /** Stores the net's name and refills. */
     virtual void SetNet(const QString& name);
 
-    /** A `QPainter::CompositionMode` that the copper is drawn with. The setter stores only. */
+    /** A `QPainter::CompositionMode` that the copper is drawn with. The setter only stores. */
     int CompositionMode() const { return compositionMode; }
     void SetCompositionMode(int mode) { compositionMode = mode; }
-    /** Opacity of the drawn copper, 0 to 255. The setter stores only. */
+    /** Opacity of the drawn copper, 0 to 255. The setter only stores. */
     int Alpha() const { return alpha; }
     void SetAlpha(int opacity) { alpha = opacity; }
 
-    /** Whether this pour fills where both could. */
+    /** Whether this pour fills where both overlap. */
     bool IsStrongerThan(const TGraphicsPourItem& other) const;
 
-    /** Fills the area around the copper, keepouts and board outline of its scene, and repaints. The work is done when
-     *  the copper is next looked at. */
+    /** Fills the area around the copper, keepouts and board outline of its scene, and repaints. Lazy: the copper is
+     *  computed when it is next read. */
     void Fill();
 
-    /** The copper's middle: drawn with lines of `LineWidth`, it is the copper. In the item's own coordinates; empty
-     *  before the first `Fill`. */
+    /** The centre lines of the copper: stroked with `LineWidth`, they are the copper. In the item's own coordinates;
+     *  empty before the first `Fill`. */
     QPainterPath FilledPath() const;
     /** Whether there is copper at a point of the scene. */
     bool IsFilledAt(const QPointF& scenePoint) const;
 
-    /** Moves the pour to a layer and repaints it. The copper stays as it was filled. */
+    /** Moves the pour to a layer and repaints it. The copper is not refilled. */
     void SetLayer(Osmirel::Layer newLayer) override;
-    /** A pour's copper is what it has filled. */
+    /** A pour's copper is its filled area. */
     bool HasCopperOn(Osmirel::Layer) const override { return false; }
     void Flip() override;
 

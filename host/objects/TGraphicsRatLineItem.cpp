@@ -66,7 +66,7 @@ double TGraphicsRatLineItem::StackingHeight() const
 
 void TGraphicsRatLineItem::Describe(TStateText& state) const
 {
-    // Nothing of what all items have: place and colour follow from the net.
+    // Without the attributes that all items have: position and colour follow from the net.
     state.Add("net", Net()).Add("from", line.p1()).Add("to", line.p2()).Add("priority", priority);
 }
 

@@ -5,8 +5,8 @@
 #include <QLineF>
 
 /**
- * A connection that a net still misses, from the copper of one of its islands to that of another. Made, owned and
- * deleted by the board; it cannot be selected. Its state is its net, its ends and its priority.
+ * A missing connection of a net, from the copper of one of its islands to that of another. Created, owned and deleted
+ * by the board; it cannot be selected. Its state is its net, its ends and its priority.
  */
 class TGraphicsRatLineItem : public TGraphicsItem
 {
@@ -20,8 +20,8 @@ public:
     const QLineF& Line() const { return line; }
     void SetLine(const QLineF& newLine, const QString& net);
 
-    /** The net's routing priority: "Default", a digit, or empty. The setter stores only; `TBoard::RatPriority`
-     *  brings the drawing up to date. */
+    /** The net's routing priority: "Default", a digit, or empty. The setter only stores; `TBoard::RatPriority`
+     *  updates the drawing. */
     const QString& Priority() const { return priority; }
     void SetPriority(const QString& level) { priority = level; }
 

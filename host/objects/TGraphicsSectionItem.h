@@ -5,8 +5,8 @@
 #include <QLineF>
 
 /**
- * A straight section of a connection: two points, and at each of them at most one linked item. The pen's width is the
- * section's own.
+ * A straight section of a connection: two points with at most one linked item each. The pen's width is the section's
+ * own.
  *
  * Two sections are linked to each other head to tail only: the last end of one with the first end of the other.
  */
@@ -25,11 +25,11 @@ public:
     /** One end in scene coordinates. */
     QPointF ScenePoint(LinkEnd end) const { return mapToScene(end == LinkEnd::First ? point1 : point2); }
 
-    /** What is linked at each end; null for an end that is linked to nothing. */
+    /** The item linked at each end, or null. */
     TGraphicsItem* FirstLink() const { return firstLink; }
     TGraphicsItem* LastLink() const { return lastLink; }
     TGraphicsItem* Link(LinkEnd end) const { return end == LinkEnd::First ? firstLink : lastLink; }
-    /** One-sided: stores this section's own link and tells nothing to the other item. */
+    /** One-sided: stores this section's own link without notifying the other item. */
     void SetFirstLink(TGraphicsItem* item);
     void SetLastLink(TGraphicsItem* item);
     void SetLink(LinkEnd end, TGraphicsItem* item);
@@ -48,9 +48,9 @@ public:
     /** Two-sided: cuts one end from whatever it is linked to. */
     void Unlink(LinkEnd end);
 
-    /** Brings the net of all that links join with this section up to date with the links, and repaints. */
+    /** Updates the net of all items that links connect to this section, and repaints. */
     void UpdateNet();
-    /** Sets the section's own net name, which it bears where links give it none, and repaints. */
+    /** Sets the section's own net name, which is its net if links give it none, and repaints. */
     void SetNet(const QString& name);
 
     QVector<TGraphicsItem*> Links() const override;

@@ -3,8 +3,8 @@
 #include <graphics/TGraphicsTextItem.h>
 
 /**
- * A text of a schematic page that shows a value of the project: its name says which one. Without a value it shows the
- * name in braces, so that it can be seen and picked.
+ * A text of a schematic page that shows the value of the project of that name. Without a value it shows the name in
+ * braces, so that it is visible and can be selected.
  */
 class TGraphicsTagItem : public TGraphicsTextItem
 {
@@ -14,7 +14,7 @@ public:
     int type() const override { return ItemType::Tag; }
     QString KindName() const override { return QStringLiteral("tag"); }
 
-    /** The setters store; with @p refresh they bring the text that is shown, and its drawing, up to date as well. */
+    /** The setters store; with @p refresh they also update the displayed text and its drawing. */
     const QString& Name() const { return name; }
     void SetName(const QString& newName, bool refresh);
     const QString& Value() const { return value; }

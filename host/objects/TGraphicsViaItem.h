@@ -25,21 +25,21 @@ public:
     /** Sets width and height in scene units and repaints. */
     void SetSize(double width, double height);
 
-    /** Drill diameter in scene units, 0 for no hole. The setter stores only. */
+    /** Drill diameter in scene units, 0 for no hole. The setter only stores. */
     float Drill() const { return drill; }
     void SetDrill(float diameter) { drill = diameter; }
 
-    /** How pours connect. The setter stores only. */
+    /** How pours connect. The setter only stores. */
     TypeThermal Thermal() const { return thermal; }
     void SetThermal(TypeThermal type) { thermal = type; }
 
-    /** Name of the drill pair that tells which copper layers are joined. */
+    /** Name of the drill pair, which determines the copper layers that are joined. */
     const QString& ViaGroup() const { return viaGroup; }
-    /** Sets the drill pair, takes its layers, and repaints. A name that the document does not know goes through the
-     *  whole board. Layers that went with a former name and were not those of its pair come back with that name. */
+    /** Sets the drill pair and its layers, and repaints. A name that the document does not know means the whole board.
+     *  Layers that differed from those of a former pair are restored with its name. */
     void SetViaGroup(const QString& name);
 
-    /** Whether the solder mask is open over the copper. The setter stores only. */
+    /** Whether the solder mask is open over the copper. The setter only stores. */
     bool MaskEnabled() const { return maskEnabled; }
     void SetMaskEnabled(bool on) { maskEnabled = on; }
 
@@ -57,10 +57,12 @@ public:
     /** The copper layers of the document that the item reaches, from the top down. */
     QList<Osmirel::Layer> EtchLayers() const;
 
-    /** Whether a layer is one of `EtchLayers`, or without a document would be. */
+    /** Whether a layer is, or without a document would be, one of `EtchLayers`. */
     bool HasCopperOn(Osmirel::Layer copper) const override;
 
-    /** Sets the item's own net name and repaints. A via bears it where links give it none; a pad always. */
+    /** Sets the item's own net name and repaints. It is the net of a via if links give it none, and always that of a
+     * pad.
+     */
     void SetNet(const QString& name);
 
     /** The wires that are linked here, once for each of their ends, in the order in which they were linked. */
@@ -85,7 +87,7 @@ protected:
     void Describe(TStateText& state) const override;
     void Draw(QPainter& painter, double pixelsPerUnit) const override;
     double StackingHeight() const override;
-    /** Plating for copper of several layers, the layer's colour for a surface pad. */
+    /** The colour of plating for copper on several layers, the layer's colour for a surface pad. */
     QColor MainColor() const override;
 
     /** Stores width and height without repainting. */
@@ -110,6 +112,6 @@ private:
     float maskClearance = 0;
     Osmirel::Layer startLayer = Osmirel::CopperTop;
     Osmirel::Layer endLayer = Osmirel::CopperBottom;
-    QHash<QString, TLayers> otherLayers; ///< Of former names, where they were not those of the pair.
+    QHash<QString, TLayers> otherLayers; ///< By former name, if they differed from those of the pair.
     TLinkList linked{LinkNode()};
 };

@@ -6,7 +6,7 @@
 
 void TGraphicsWireItem::Draw(QPainter& painter, double pixelsPerUnit) const
 {
-    constexpr double thinnestRound = 2.5; // Pixels; below that caps cannot be seen, and a plain line is quicker.
+    constexpr double thinnestRound = 2.5; // Pixels; below that, caps are invisible and a plain line is faster.
     QPen line = DrawingPen();
     line.setCapStyle(PenWidth() * static_cast<float>(pixelsPerUnit) < thinnestRound ? Qt::SquareCap : Qt::RoundCap);
     painter.setCompositionMode(static_cast<QPainter::CompositionMode>(compositionMode));

@@ -11,7 +11,7 @@ public:
     int type() const override { return ItemType::Wire; }
     QString KindName() const override { return QStringLiteral("wire"); }
 
-    /** A `QPainter::CompositionMode` that the wire is drawn with. The setter stores only. */
+    /** A `QPainter::CompositionMode` that the wire is drawn with. The setter only stores. */
     int CompositionMode() const { return compositionMode; }
     void SetCompositionMode(int mode) { compositionMode = mode; }
 

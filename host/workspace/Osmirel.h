@@ -2,7 +2,7 @@
 
 #include <QMetaType>
 
-/** Names that are shared by every library of the application. */
+/** Names shared by all libraries of the application. */
 namespace Osmirel {
 
 /**
@@ -43,12 +43,12 @@ enum Layer : int {
 
     DrawingsTop = 57, ///< Drawings of the assembled board.
     DrawingsBottom = 86,
-    CourtyardTop = 58, ///< The room that packages take up.
+    CourtyardTop = 58, ///< The area that packages occupy.
     CourtyardBottom = 85,
     AdhesiveTop = 63,
     AdhesiveBottom = 80,
 
-    // Of the user's own, and of no side.
+    // User-defined, on neither side.
     UserDrawings = 100,
     UserComments = 101,
     UserEco1 = 102,

@@ -5,7 +5,7 @@
 #include <QColor>
 #include <QString>
 
-/** One row of the layer table: how a layer is called and drawn. A plain value, owned by its `TLayerManager`. */
+/** One row of the layer table: name and appearance of a layer. A plain value, owned by its `TLayerManager`. */
 struct TLayer
 {
     Osmirel::Layer id = Osmirel::NoLayer;

@@ -37,11 +37,11 @@ public:
     /** The copper layers that exist from one to another, both included; empty when neither end is copper. */
     QList<Osmirel::Layer> CopperLayers(Osmirel::Layer from, Osmirel::Layer to) const;
 
-    /** Whether items of the layer are drawn; true for a layer that the table lacks. */
+    /** Whether items of the layer are drawn; true for a layer that is not in the table. */
     bool IsVisible(Osmirel::Layer layer) const;
     void SetVisible(Osmirel::Layer layer, bool visible);
 
-    /** Colour of a layer; mid grey for a layer that the table lacks. */
+    /** Colour of a layer; mid grey for a layer that is not in the table. */
     QColor Color(Osmirel::Layer layer) const;
 
     /** Adds a drill pair, or replaces the one of the same name. */

@@ -20,13 +20,13 @@ public:
     Unit CurrentUnit() const { return unit; }
     void SetCurrentUnit(Unit newUnit) { unit = newUnit; }
 
-    /** The unit's name as it follows a number, "mm" in a new workspace. */
+    /** The unit's name after a number, "mm" in a new workspace. */
     QString CurrentUnitStr() const;
 
     /** A length in scene units, converted to the current unit. */
     double ValueFromScene(double sceneLength) const;
 
-    /** What kind of document the workspace is for. */
+    /** The kind of document that the workspace belongs to. */
     enum DocumentMode : int { SchematicMode = 0, BoardMode = 1 };
     int Mode() const { return mode; }
     void SetMode(int newMode) { mode = newMode; }

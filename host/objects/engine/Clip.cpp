@@ -11,12 +11,12 @@ using ClipperLib::Clipper;
 using ClipperLib::IntPoint;
 using ClipperLib::Path;
 
-/** Whole numbers for each scene unit; one is a twelfth of a micrometre. */
+/** Integer units per scene unit; one is a twelfth of a micrometre. */
 constexpr double scale = 1024;
-/** Curves are made straight at this scale, where the toolkit keeps to a quarter of a unit. */
+/** Curves are flattened at this scale, at which the toolkit's error is at most a quarter of a unit. */
 constexpr double flatteningScale = 5;
 constexpr double flatteningTolerance = 0.25 / flatteningScale;
-/** How far a straightened arc may be from the arc, in scene units. */
+/** The maximum distance of a flattened arc from the arc, in scene units. */
 constexpr double arcTolerance = 0.06;
 
 IntPoint ToInt(const QPointF& point)
@@ -29,7 +29,7 @@ QPointF FromInt(const IntPoint& point)
     return {static_cast<double>(point.X) / scale, static_cast<double>(point.Y) / scale};
 }
 
-/** The corners of a polygon around an arc, which never cuts it. */
+/** The corners of a polygon that circumscribes an arc. */
 void AddArc(Path& path, const QPointF& center, double radius, double startAngle, double span)
 {
     const double stepAtMost = 2 * std::acos(1 - std::min(1.0, arcTolerance / radius));
@@ -51,7 +51,7 @@ Clip::Regions Combined(ClipperLib::ClipType type, const Clip::Regions& area, con
     return result;
 }
 
-/** For each whole multiple of @p pitch where the curves cross the line of that y, in order. */
+/** For each integer multiple y of @p pitch, where the curves cross that line, sorted. */
 std::map<int, std::vector<double>> Crossings(const QVector<QPolygonF>& curves, double pitch)
 {
     std::map<int, std::vector<double>> crossings;
@@ -134,7 +134,7 @@ Clip::Regions Clip::Grown(const Regions& area, double margin)
     ClipperLib::ClipperOffset offset(2.0, arcTolerance * scale);
     offset.AddPaths(area, ClipperLib::jtRound, ClipperLib::etClosedPolygon);
     Regions grown;
-    // Straightened arcs lie inside the true ones, those of the area and those of the library.
+    // Flattened arcs lie inside the true ones, both those of the area and those of the library.
     offset.Execute(grown, (margin > 0 ? margin + flatteningTolerance + arcTolerance : margin) * scale);
     return grown;
 }

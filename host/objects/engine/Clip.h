@@ -11,22 +11,22 @@
 
 #include <vector>
 
-/** Areas, and what is left of them when others are cut out: the polygon library in the units of the scene. */
+/** Boolean operations on areas: the polygon library in scene units. */
 namespace Clip {
 
-/** An area in the library's whole numbers: the inside of closed curves, those within others being holes. */
+/** An area in the library's integers: the inside of closed curves; curves within others are holes. */
 using Regions = ClipperLib::Paths;
 
 Regions FromPolygon(const QPolygonF& polygon);
-/** What the path fills, curves made straight to within a few micrometres. */
+/** The area that the path fills, curves flattened to within a few micrometres. */
 Regions FromPath(const QPainterPath& path, const QTransform& transform);
 
-/** What a round pen of that radius covers on a straight line. */
+/** The area of a straight line stroked with a round pen of that radius. */
 ClipperLib::Path Capsule(const QPointF& from, const QPointF& to, double radius);
 
 void Add(Regions& regions, const Regions& more);
 
-/** The area and what is nearer to it than @p margin, or for a negative one what is further from its outside. */
+/** The area grown by @p margin, or shrunk by a negative one. */
 Regions Grown(const Regions& area, double margin);
 Regions Intersected(const Regions& area, const Regions& other);
 Regions Subtracted(const Regions& area, const Regions& other);
@@ -47,7 +47,7 @@ public:
 
     /** The outer curve first, then the holes. */
     QVector<QPolygonF> Polygons() const;
-    /** Adds the lines at whole multiples of @p pitch that lie inside. */
+    /** Adds the parts inside the area of the lines at integer multiples of @p pitch. */
     void AddHatch(QVector<QLineF>& lines, double pitch, bool horizontal, bool vertical) const;
 
 private:
@@ -55,7 +55,7 @@ private:
     QRectF bounds;
 };
 
-/** What is left of an area when others are cut out, each of which may overlap the others. */
+/** The difference of an area and others, which may overlap each other. */
 std::vector<Piece> PiecesOf(const Regions& area, const Regions& obstacles);
 
 } // namespace Clip

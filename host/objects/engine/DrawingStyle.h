@@ -2,7 +2,7 @@
 
 #include <QColor>
 
-/** What the items of a board have in common when they draw themselves. */
+/** Drawing constants shared by the items of a board. */
 namespace DrawingStyle {
 
 inline constexpr QColor hole(0x10, 0x14, 0x1a);
@@ -15,15 +15,15 @@ inline constexpr QColor keepout(0xe0, 0x5a, 0x78);
 inline constexpr QColor boardEdge(0xf2, 0xe2, 0x6a);
 inline constexpr int alphaOfPourEdge = 200;
 
-/** Drilled items lie above the copper of every layer, whose heights are negative. */
+/** Drilled items are above the copper of all layers, whose z values are negative. */
 constexpr double stackingOfDrilled = 1.0;
 constexpr double stackingOfKeepouts = 1.2;
 constexpr double stackingOfBoardEdge = 1.4;
 constexpr double stackingOfRatLines = 1.6;
-/** Pours lie this far below all other copper of their layer. */
+/** Pours are this far below all other copper of their layer. */
 constexpr double depthOfPours = 0.5;
 
-/** Below this many pixels a text is not worth drawing. */
+/** Texts smaller than this many pixels are not drawn. */
 constexpr double smallestReadableText = 6.0;
 
 } // namespace DrawingStyle

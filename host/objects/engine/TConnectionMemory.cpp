@@ -27,7 +27,7 @@ TConnections TConnectionMemory::Behind(const QVector<TGraphicsItem*>& list)
 
 void TConnectionMemory::Forget()
 {
-    constexpr int keptForNobody = 8; // Who has dropped items from a list holds another list from then on.
+    constexpr int keptForNobody = 8; // A caller that removes items from a list then holds a different list.
     int heldByNobody = 0;
     for (int i = records.size() - 1; i >= 0; --i) {
         Record& record = records[i];

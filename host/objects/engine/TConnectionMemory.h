@@ -18,24 +18,24 @@ struct TConnection
 using TConnections = QVector<TConnection>;
 
 /**
- * What a symbol or package remembers of the links that it made and cut. It tells its callers of them by lists of items
- * alone; who gives such a list back means just these links: several places may lie on one point, and a wire has two
- * ends. A part of that item.
+ * The links that a symbol or package has made and cut. Its callers get them as plain lists of items; a list that is
+ * passed back stands for exactly these links, since several places may lie on one point, and a wire has two ends. A
+ * member of that item.
  *
- * A list is known by its data, which copies of a list share. Two lists of the same items may stand for different links,
- * as when something is cut, linked elsewhere and cut again. A list is forgotten when nobody else holds it.
+ * A list is identified by its data, which copies of a list share. Two lists of the same items may stand for different
+ * links, for example if an item is cut, linked elsewhere and cut again. A list is forgotten when no caller holds it.
  */
 class TConnectionMemory
 {
 public:
-    /** The list of the connections' items, in that order, by which they are known from now on. */
+    /** The list of the connections' items, in that order, which identifies them from now on. */
     QVector<TGraphicsItem*> ListOf(const TConnections& connections);
 
-    /** The connections behind a list, one for each item; none for a list that is not known. */
+    /** The connections behind a list, one for each item; none for an unknown list. */
     TConnections Behind(const QVector<TGraphicsItem*>& list);
 
-    /** The latest connection of an item that suits; for a list that is not known, such as one from which items have
-     *  been dropped. */
+    /** The latest connection of an item that satisfies the predicate; for an unknown list, such as one from which items
+     *  were removed. */
     template <class Suits>
     std::optional<TConnection> Latest(const TGraphicsItem* item, Suits suits) const
     {
@@ -57,8 +57,8 @@ private:
     struct Record
     {
         QVector<TGraphicsItem*> list;
-        TConnections connections; ///< Parallel to `list`. Compared only, never followed.
-        bool wasHeld = false;     ///< Whether somebody else has kept the list.
+        TConnections connections; ///< Parallel to `list`. Compared, but never dereferenced.
+        bool wasHeld = false;     ///< Whether a caller has kept the list.
     };
 
     void Forget();

@@ -8,7 +8,7 @@ class TGraphicsBusEntryItem;
 class TGraphicsPinItem;
 class TGraphicsSectionItem;
 
-/** The items of one class that an item holds links to, once for each link. A part of that item. */
+/** The items of one class that an item holds links to, once for each link. A member of that item. */
 template <class Linked>
 class TLinksTo
 {
@@ -18,11 +18,11 @@ public:
     const QList<Linked*>& List() const { return list; }
     QVector<TGraphicsItem*> Items() const;
 
-    /** Adds one link. What is of another class is ignored. */
+    /** Adds one link. Items of other classes are ignored. */
     void Add(TGraphicsItem* item);
-    /** Removes the last link, if there is one, so that one that is made and cut again leaves the order as it was. */
+    /** Removes the last link to an item, if any, so that making and cutting a link preserves the order. */
     void Remove(const TGraphicsItem* item);
-    /** Puts another item in the place of the first link, or removes it, and tells whether there was one. */
+    /** Replaces the first link by one to another item, or removes it; returns whether there was one. */
     bool Replace(const TGraphicsItem* from, TGraphicsItem* to);
 
 private:
@@ -34,5 +34,5 @@ extern template class TLinksTo<TGraphicsBusEntryItem>;
 extern template class TLinksTo<TGraphicsPinItem>;
 extern template class TLinksTo<TGraphicsSectionItem>;
 
-/** The sections that an item of a place holds links to, once for each of their ends. */
+/** The sections that a place, a pin or pad, holds links to, once for each of their ends. */
 using TLinkList = TLinksTo<TGraphicsSectionItem>;

@@ -4,22 +4,22 @@
 
 class TGraphicsPinItem;
 
-/** Where pins of a symbol meet pins of other symbols that lie on the same points. Places that are no pins meet none. */
+/** Contacts of a symbol's pins with pins of other symbols at the same points. Places other than pins have none. */
 namespace PinContacts {
 
-/** How far from a pin's point, in scene units, a wire or another pin may lie that meets it: less than any grid. */
+/** The maximum distance, in scene units, of a wire or pin that touches a pin: less than any grid. */
 constexpr double tolerance = 0.5;
 
-/** Null for an item that is no pin. */
+/** Null for an item that is not a pin. */
 TGraphicsPinItem* AsPin(QGraphicsItem* item);
 
-/** What is to be linked: each of the pins with all that touch and are not linked with it, in the design's order. */
+/** The contacts to link: each pin with all pins that touch it and are not linked with it, in the design's order. */
 TConnections Free(const QVector<TGraphicsItem*>& pins);
 
-/** Another pin and the first of the pins that touches and is not linked with it; nothing if none does. */
+/** Another pin and the first of the pins that touches it and is not linked with it; none if there is no such pin. */
 std::optional<TConnection> Nearest(TGraphicsPinItem* other, const QVector<TGraphicsItem*>& pins);
 
-/** What is linked, in the order of the pins and their links. */
+/** The linked contacts, in the order of the pins and their links. */
 TConnections Linked(const QVector<TGraphicsItem*>& pins);
 
 } // namespace PinContacts

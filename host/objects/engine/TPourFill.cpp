@@ -19,10 +19,10 @@ namespace {
 constexpr double sceneUnitsPerMillimetre = TWorkspace::sceneUnitsPerInch / TWorkspace::millimetresPerInch;
 constexpr double squareUnitsPerSquareMillimetre = sceneUnitsPerMillimetre * sceneUnitsPerMillimetre;
 
-/** A spoke that is no wider than the pour's lines is their middle, as thin as this, in scene units. */
+/** A spoke no wider than the pour's lines is reduced to a centre line, this thin, in scene units. */
 constexpr double thinnestSpoke = 0.1;
 
-/** Gathers what stands on a pour's layer, and cuts it out of the pour's area. All in the pour's coordinates. */
+/** Collects the obstacles on a pour's layer and subtracts them from its area. All in the pour's coordinates. */
 class PourFiller
 {
 public:
@@ -141,7 +141,7 @@ private:
         }
     }
 
-    /** Leaves the isolation free around a pad, but for four spokes along the pad's axes. */
+    /** Subtracts the thermal gap around a pad, except for four spokes along the pad's axes. */
     void AddThermal(const TGraphicsViaItem& via)
     {
         if (!IsNear(via, pour.ThermalIsolation())) {
@@ -153,7 +153,7 @@ private:
         const double halfSpoke = std::max(thinnestSpoke, pour.ThermalLine() - pour.LineWidth()) / 2;
         const QRectF extent = via.Outline().boundingRect();
         const double reach = isolation + halfLine + 1;
-        QPainterPath spokes; // They cross, and the crossing is copper too: it is what the pour is connected by.
+        QPainterPath spokes; // They cross at the pad's centre: the crossing is copper too, and connects them.
         spokes.setFillRule(Qt::WindingFill);
         spokes.addRect(extent.left() - reach, -halfSpoke, extent.width() + 2 * reach, 2 * halfSpoke);
         spokes.addRect(-halfSpoke, extent.top() - reach, 2 * halfSpoke, extent.height() + 2 * reach);
@@ -161,7 +161,7 @@ private:
         thermals.append(Clip::BoundsOf(hole));
     }
 
-    /** Whether a piece is no more than the spokes of a pad that the pour does not reach. */
+    /** Whether a piece consists only of the spokes of a pad that the pour does not reach. */
     bool IsBareSpokes(const Clip::Piece& piece) const
     {
         const QRectF box = piece.Bounds();
@@ -193,7 +193,7 @@ double DistanceTo(const QLineF& line, const QPointF& point)
     return QLineF(point, line.p1() + share * along).length();
 }
 
-/** The polygon with fewer corners: those nearer to the last kept one than @p step are left out, but for the ends. */
+/** A simplified polygon, without corners nearer than @p step to the last kept one, except for the ends. */
 QPolygonF WithFewerCorners(const QPolygonF& polygon, double step)
 {
     QPolygonF fewer;
@@ -207,7 +207,7 @@ QPolygonF WithFewerCorners(const QPolygonF& polygon, double step)
     return fewer;
 }
 
-/** The part of the item's plane that the painter's device shows. */
+/** The visible area of the painter's device, in item coordinates. */
 QRectF ShownBy(const QPainter& painter)
 {
     const QRectF device(0, 0, painter.device()->width(), painter.device()->height());
@@ -280,7 +280,7 @@ QVector<TPourFill::Curve> TPourFill::Coarsened() const
 
 void TPourFill::Draw(QPainter& painter, const QColor& color, double pixelsPerUnit) const
 {
-    constexpr double thinnestSeen = 3.0; // Pixels; to draw thinner edges takes longer than it is worth.
+    constexpr double thinnestSeen = 3.0; // Pixels; thinner edges are not worth the time to draw them.
     constexpr double coarseScale = 0.5;
     const bool isCoarse = pixelsPerUnit < coarseScale;
     if (isCoarse && coarseCurves.isEmpty()) {

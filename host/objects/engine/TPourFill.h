@@ -11,17 +11,17 @@ class QPainter;
 class TGraphicsPourItem;
 
 /**
- * The copper of a pour as it was filled once, in the pour's coordinates. Owned by its pour.
+ * The copper of a pour as of one fill, in the pour's coordinates. Owned by its pour.
  *
- * The copper is what a round pen of the pour's line width covers on the edges of the filled path and, unless it is
- * solid, on the hatch lines in it.
+ * The copper is the stroke, with a round pen of the pour's line width, of the edges of the filled path and, unless it
+ * is solid, of the hatch lines in it.
  */
 class TPourFill
 {
 public:
     /** No copper. */
     TPourFill() = default;
-    /** Fills a pour around all that is on its scene. */
+    /** Fills a pour around all items on its scene. */
     explicit TPourFill(const TGraphicsPourItem& pour);
 
     /** The curves around the copper and the holes in it, as a path that is filled between them. */
@@ -30,7 +30,7 @@ public:
 
     bool HasCopperAt(const QPointF& point) const;
 
-    /** Draws what can be seen on the painter's device, with less detail at a small scale. */
+    /** Draws the part that is visible on the painter's device, with less detail at a small scale. */
     void Draw(QPainter& painter, const QColor& color, double pixelsPerUnit) const;
 
 private:
@@ -44,7 +44,7 @@ private:
     QVector<Curve> Coarsened() const;
 
     QVector<Curve> curves;
-    mutable QVector<Curve> coarseCurves; ///< For small scales; made when first drawn.
+    mutable QVector<Curve> coarseCurves; ///< For small scales; computed when first drawn.
     QVector<QLineF> hatchLines;
     double lineWidth = 0;
     bool solid = false;

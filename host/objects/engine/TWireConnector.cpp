@@ -43,7 +43,7 @@ void Cut(const TConnection& connection)
     }
 }
 
-/** The connection behind an item of a list, if it is known and its place is still there. */
+/** The connection behind an item of a list, if it is known and its place still exists. */
 std::optional<TConnection> Known(const TConnections& known, int index, const QVector<TGraphicsItem*>& places)
 {
     return index < known.size() && places.contains(known.at(index).place) ? std::make_optional(known.at(index))
@@ -101,8 +101,8 @@ std::optional<TConnection> TWireConnector::GuessFree(TGraphicsItem* item, const 
     if (!wire && !pin) {
         return {};
     }
-    // What touches with a free end comes first. But what it was linked with gets it back even if it is linked elsewhere
-    // by now, or does not touch any more.
+    // Free ends that touch come first. But an item is linked again to its former place even if it is linked elsewhere
+    // by now, or no longer touches.
     const auto wasHere = [&](const TConnection& former) {
         return places.contains(former.place) && (pin ? !IsLinked(former) : !places.contains(wire->Link(former.end)));
     };

@@ -3,11 +3,11 @@
 #include <objects/engine/TConnectionMemory.h>
 
 /**
- * Links what ends on the places of a symbol or package, its pins or pads, and cuts it from them: wires, and pins of
- * other symbols. A part of that item, or of a net tie, which is a place by itself.
+ * Links wires, and pins of other symbols, to the places of a symbol or package, its pins or pads, and cuts them. A
+ * member of that item, or of a net tie, which is itself a place.
  *
- * It returns what it linked or cut as a list of items, once for each link. When such a list is given back, just these
- * links are made or cut again: each end gets the place that it had, even where several lie there.
+ * It returns the items that it linked or cut, once for each link. If such a list is passed back, exactly these links
+ * are made or cut again: each end gets its former place, even if several places coincide.
  */
 class TWireConnector
 {
@@ -22,7 +22,7 @@ public:
      *  was made here last, or else the first end before the last. */
     QVector<TGraphicsItem*> Disconnect(const QVector<TGraphicsItem*>& places, const QVector<TGraphicsItem*>& items);
 
-    /** How many lists can be given back. */
+    /** The number of lists that can be passed back. */
     int Remembered() const { return memory.Size(); }
 
 private:

@@ -28,7 +28,7 @@ struct Contact
     double squareDistance; ///< From the place's centre.
 };
 
-/** Nothing for an end that is linked, or lies elsewhere. */
+/** None for an end that is linked, or lies elsewhere. */
 std::optional<Contact> FreeContact(TGraphicsSectionItem* wire, LinkEnd end, TGraphicsItem* place)
 {
     if (wire->Link(end) || !WireContacts::Touch({wire, end, place})) {

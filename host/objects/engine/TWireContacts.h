@@ -4,20 +4,20 @@
 
 class TGraphicsSectionItem;
 
-/** Where the ends of wires meet places: the copper, or the pins, that they end on. */
+/** Contacts of wire ends with places: the copper, or the pins, that they end on. */
 namespace WireContacts {
 
 /** Whether the end of a connection's wire lies on its place. */
 bool Touch(const TConnection& connection);
 
-/** What is to be linked: every free end of a wire that lies on places, with the one whose centre is nearest. In the
+/** The contacts to link: every free end of a wire that lies on places, with the place whose centre is nearest. In the
  *  design's order of the places, and then of the wires. */
 TConnections Free(const QVector<TGraphicsItem*>& places);
 
-/** The free end of a wire and the place of those that touch whose centre is nearest; nothing if none do. */
+/** The free end of a wire and the touching place whose centre is nearest; none if nothing touches. */
 std::optional<TConnection> Nearest(TGraphicsSectionItem* wire, const QVector<TGraphicsItem*>& places);
 
-/** What is linked, in the order of the places and their links. */
+/** The linked contacts, in the order of the places and their links. */
 TConnections Linked(const QVector<TGraphicsItem*>& places);
 
 } // namespace WireContacts
