@@ -25,7 +25,7 @@ bool IsSet(const char* variable)
     return !qEnvironmentVariableIsEmpty(variable);
 }
 
-/** Whether the platform that the toolkit would choose, or was told to use, has a screen that a person can see. */
+/** Whether the platform that the toolkit would choose, or is configured to use, has a screen. */
 bool HasScreen()
 {
     const QString platform = qEnvironmentVariable("QT_QPA_PLATFORM");
@@ -46,7 +46,7 @@ QStringList Arguments(int argc, char** argv)
 
 QtMessageHandler defaultHandler = nullptr;
 
-/** Passes messages on, but not what the toolkit has to say about a platform without a screen. */
+/** Passes messages on, except the toolkit's warnings about a platform without a screen. */
 void HandleMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     const bool isAboutPlatform = message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR"))
@@ -63,7 +63,7 @@ int Fail(const QString& cause, QTextStream& messages)
     return exitCodeOfErrors;
 }
 
-/** Opens the design that the command line names, shows the window and does what else there is to do. */
+/** Opens the design that the command line names, shows the window, and runs the steps or the tour. */
 int Work(const TCommandLine& line, bool forPerson, const TStreams& streams)
 {
     const QString file = line.file.isEmpty() ? SampleProjectFile() : line.file;
@@ -126,14 +126,14 @@ int RunWorkbench(int argc, char** argv)
         if (!IsSet("QT_QPA_PLATFORM")) {
             qputenv("QT_QPA_PLATFORM", "offscreen");
         }
-        QLocale::setDefault(QLocale::c()); // The same numbers everywhere.
+        QLocale::setDefault(QLocale::c()); // Number formats independent of the user's locale.
         defaultHandler = qInstallMessageHandler(HandleMessage);
     }
-    int toolkitArguments = 1; // The command line has no options of the toolkit's.
+    int toolkitArguments = 1; // The command line does not take the toolkit's options.
     const QApplication application(toolkitArguments, argv);
     Theme::Apply();
 
-    // The toolkit's file dialog keeps settings of its own, which are not worth a file in the user's home.
+    // The toolkit's file dialog saves its settings, which would leave a file in the user's home.
     const QTemporaryDir settings;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
 

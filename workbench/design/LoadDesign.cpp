@@ -7,7 +7,7 @@
 #include <QProgressDialog>
 #include <QStringList>
 
-// The resource lies in a static library, whose initialisers the linker leaves out. Not in a namespace: it is a macro.
+// The resource is in a static library, whose initialisers the linker omits. Not in a namespace: it is a macro.
 static void InitialiseSamples()
 {
     Q_INIT_RESOURCE(samples);
@@ -45,7 +45,7 @@ TImportResult LoadDesignWithDialog(const QString& file, QWidget* parent)
 
 namespace {
 
-/** Such as "17921 track segments, 3 zones"; empty if the board holds all that is in the file. */
+/** Such as "17921 track segments, 3 zones"; empty if everything in the file is shown. */
 QString DescribeNotShown(const TImportResult& result)
 {
     QStringList parts;

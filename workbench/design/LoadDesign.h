@@ -4,7 +4,7 @@
 
 class QWidget;
 
-/** The project that is compiled in, and its board. */
+/** The built-in sample project, and its board. */
 QString SampleProjectFile();
 QString SampleBoardFile();
 
@@ -12,8 +12,8 @@ QString SampleBoardFile();
  * cancelled there. */
 TImportResult LoadDesignWithDialog(const QString& file, QWidget* parent);
 
-/** Whether anything was read that can be shown. */
+/** Whether a board or a schematic page was read. */
 bool HasDesign(const TImportResult& result);
 
-/** What a person should know of a file that was read: what is not shown, and what else went wrong; a line for each. */
+/** Notices about a file that was read, one line each: what is not shown, and other problems. */
 QStringList Notices(const TImportResult& result);

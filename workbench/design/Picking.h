@@ -6,19 +6,19 @@ class TGraphicsItem;
 class TGraphicsPartItem;
 class TItemScene;
 
-/** What a click on a page takes. */
+/** What a click on a page selects. */
 namespace Picking {
 
 /**
- * Lets a click on a symbol's drawing take the part, and one on a pin's number the pin. The pins of parts and net ties
- * are taken by themselves, that of a port is not.
+ * Makes a click on a symbol's primitives select the part, and one on a pin's number the pin. The pins of parts and net
+ * ties can be selected by themselves, that of a port cannot.
  */
 void PickSymbolsWhole(TItemScene& page);
 
-/** Lets a click take the drawings of a part by themselves, as long as its symbol is open for editing. */
+/** Makes the primitives of a part selectable by themselves, as long as its symbol is open for editing. */
 void PickDrawings(TGraphicsPartItem& part, bool on);
 
-/** Those of the items that can be selected, in their order. */
+/** The selectable ones among the items, in order. */
 QList<TGraphicsItem*> Selectable(const QList<TGraphicsItem*>& items);
 
 } // namespace Picking

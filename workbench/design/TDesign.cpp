@@ -26,7 +26,7 @@ void ShowTexts(const TBoard& board, TGraphicsItem* (TGraphicsPackageItem::*text)
     }
 }
 
-/** What can be told apart on the canvas's dark ground. */
+/** Adds the layers of a schematic, in colours that are distinguishable on the canvas's dark background. */
 void AddSchematicLayers(TLayerManager& layers)
 {
     const auto add = [&layers](Osmirel::Layer id, const char* name, const char* color) {
@@ -38,7 +38,7 @@ void AddSchematicLayers(TLayerManager& layers)
     add(Osmirel::SchematicTexts, QT_TRANSLATE_NOOP("TDesign", "Texts"), "#c9d2dc");
 }
 
-/** By which R9 comes before R10. */
+/** Natural order: R9 before R10. */
 std::tuple<QString, int, QString> NaturalOrder(const QString& designator)
 {
     static const QRegularExpression parts(QStringLiteral(R"(\A(\D*)(\d{0,9})(.*)\z)"));
@@ -71,7 +71,7 @@ TDesign::TDesign(TImportResult result)
       tree(std::make_unique<TProjectTree>())
 {
     const bool hasPages = !schematic->Pages().empty();
-    // A board alone is kept in step with its nets: they are shown, and its rat lines kept.
+    // A board without schematic is also in sync mode: its nets are shown and its rat lines recomputed.
     project.SetKind(board ? TProject::InStep : TProject::Separate);
     project.SetSchematic(schematic.get());
     project.SetBoard(board.get());

@@ -6,7 +6,7 @@
 #include <application/TProjectTree.h>
 #include <application/TSchematic.h>
 
-/** What one tab shows: the board, or a page of the schematic. A plain value; what it points to is the design's. */
+/** The document of one tab: the board, or a page of the schematic. A plain value that points into the design. */
 struct TDocument
 {
     int page = 0; ///< The page's number, 0 for the board.
@@ -16,11 +16,12 @@ struct TDocument
     bool IsBoard() const { return page == 0; }
 };
 
-/** The design that is edited: a board, a schematic, or both, the project that they make, and the tree that shows it. */
+/** The design that is edited: a board, a schematic, or both, their project, and the tree that shows it. */
 class TDesign
 {
 public:
-    /** Takes over what was read: a board, a schematic with pages, or both. Without a schematic the nets are empty. */
+    /** Takes ownership of what was read: a board, a schematic with pages, or both. Without a schematic the nets are
+     *  empty. */
     explicit TDesign(TImportResult result);
     ~TDesign();
     TDesign(const TDesign&) = delete;
@@ -30,17 +31,17 @@ public:
     TBoard* Board() const { return board.get(); }
     TSchematic& Schematic() { return *schematic; }
     TProject& Project() { return project; }
-    /** Owned by the design, whatever widget shows it. */
+    /** Owned by the design, whichever widget shows it. */
     TProjectTree& Tree() const { return *tree; }
 
     /** The board, if there is one, then the pages in the order of their numbers. */
     QVector<TDocument> Documents() const;
-    /** What the user calls a document: a page as the tree does. */
+    /** The document's name for the user: that of a page as in the tree. */
     QString NameOf(const TDocument& document) const;
-    /** All items that stand in a document now. */
+    /** All items that are in a document now. */
     QList<TGraphicsItem*> ItemsOf(const TDocument& document) const;
 
-    /** Opens the symbol of a component for editing, in place of the one that is open; null closes that. */
+    /** Opens the symbol of a component for editing, instead of the open one; null closes it. */
     void OpenSymbol(TPart* part);
     /** The part whose symbol is open, null if none is. */
     TPart* OpenPart() const { return openPart; }

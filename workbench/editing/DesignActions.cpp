@@ -32,7 +32,7 @@ bool HasAny(const TActionContext& context, std::initializer_list<ItemType::Numbe
     });
 }
 
-/** In a project that is kept in step, the packages of components are named on the schematic. */
+/** In a project that is kept in sync, the packages of components are named on the schematic. */
 bool HasPackageOfItsOwn(const TActionContext& context)
 {
     const bool inSync = ProjectContext::IsInSync(&context.design.Project());
@@ -152,7 +152,7 @@ TCommand MakeNode(const TActionContext& context)
     return wires.size() == 1 ? std::make_unique<TCmdWireAddNode>(wires.first(), context.point) : nullptr;
 }
 
-/** The two selected wires become one, or the selected one and the next one, if nothing else meets them there. */
+/** Joins the two selected wires, or the selected one and the next one, if no other item meets them at the node. */
 TCommand RemoveNode(const TActionContext& context)
 {
     const auto wires = Selected<TGraphicsWireItem>(context, ItemType::Wire);

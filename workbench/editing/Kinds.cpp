@@ -35,7 +35,7 @@ namespace {
 using TItems = QList<TGraphicsItem*>;
 using TLayers = QList<Osmirel::Layer>;
 
-/** Those of the layers that the board has. */
+/** The layers that the board has, out of those given. */
 TLayers OfBoard(const TLayers& layers, TDesign& design)
 {
     TLayers existing;
@@ -44,8 +44,8 @@ TLayers OfBoard(const TLayers& layers, TDesign& design)
     return existing;
 }
 
-/** The layers that texts and drawings can be moved to: all but those of packages and of the board's edge, or the one of
- *  a page. */
+/** The layers that texts and primitives can be moved to: all but those of packages and of the board's edge, or the one
+ *  of a page. */
 TLayers DrawingLayers(const TItems& selection, TDesign& design)
 {
     if (selection.first()->Workspace()->Mode() == TWorkspace::SchematicMode) {
@@ -58,28 +58,28 @@ TLayers DrawingLayers(const TItems& selection, TDesign& design)
     return layers;
 }
 
-/** A set that is made of the selection alone. */
+/** Creates a set from the selection alone. */
 template <class Set>
 std::unique_ptr<TPropertySet> MakeSet(const TItems& selection, TDesign&)
 {
     return std::make_unique<Set>(selection);
 }
 
-/** A set that is made of the selection and the project. */
+/** Creates a set from the selection and the project. */
 template <class Set>
 std::unique_ptr<TPropertySet> MakeProjectSet(const TItems& selection, TDesign& design)
 {
     return std::make_unique<Set>(selection, &design.Project());
 }
 
-/** A set that is made of the selection and the layers for texts and drawings. */
+/** Creates a set from the selection and the layers for texts and primitives. */
 template <class Set>
 std::unique_ptr<TPropertySet> MakeDrawingSet(const TItems& selection, TDesign& design)
 {
     return std::make_unique<Set>(selection, DrawingLayers(selection, design));
 }
 
-/** A set that is made of the selection and the schematic. */
+/** Creates a set from the selection and the schematic. */
 template <class Set>
 std::unique_ptr<TPropertySet> MakeSchematicSet(const TItems& selection, TDesign& design)
 {
@@ -130,7 +130,7 @@ const QVector<TKind>& Kinds::All()
 {
     constexpr auto makeSetForPrimitives = MakeDrawingSet<TPropertySetForPrimitives>;
     constexpr Osmirel::Layer anyLayer = Osmirel::NoLayer;
-    // An item is of the first kind that holds it.
+    // An item is of the first kind that matches it.
     static const QVector<TKind> kinds{
         {ItemType::Wire, QT_TRANSLATE_NOOP("Kinds", "wire"), QT_TRANSLATE_NOOP("Kinds", "wires"),
          MakeProjectSet<TPropertySetForWire>},
@@ -173,7 +173,7 @@ const QVector<TKind>& Kinds::All()
          makeSetForPrimitives},
         {ItemType::Ellipse, QT_TRANSLATE_NOOP("Kinds", "ellipse"), QT_TRANSLATE_NOOP("Kinds", "ellipses"),
          makeSetForPrimitives},
-        // The set of drawings shows no rows for these.
+        // The set of primitives shows no rows for these.
         {ItemType::Polyline, QT_TRANSLATE_NOOP("Kinds", "polyline"), QT_TRANSLATE_NOOP("Kinds", "polylines"),
          makeSetForPrimitives},
         {ItemType::Polygon, QT_TRANSLATE_NOOP("Kinds", "polygon"), QT_TRANSLATE_NOOP("Kinds", "polygons"),

@@ -10,18 +10,18 @@
 class TDesign;
 class TPropertySet;
 
-/** What the workbench knows of a kind of items: what users call it, and the set that edits it, null for none. */
+/** A kind of items for the workbench: its name for users, and the factory of the set that edits it, or null. */
 struct TKind
 {
     ItemType::Number type = ItemType::Line;
     const char* one = ""; ///< The words are translated in the context "Kinds".
     const char* many = "";
     std::unique_ptr<TPropertySet> (*makeSet)(const QList<TGraphicsItem*>& selection, TDesign& design) = nullptr;
-    Osmirel::Layer only = Osmirel::NoLayer; ///< The layer that makes the kind what it is, if one does.
+    Osmirel::Layer only = Osmirel::NoLayer; ///< The layer that defines the kind, if any.
     bool isOfPages = false;                 ///< Found on pages only, and not on a board.
 
     bool Holds(const TGraphicsItem& item) const;
-    /** The kind's word for more than one, translated. */
+    /** The kind's plural, translated. */
     QString Plural() const;
 };
 
@@ -30,10 +30,10 @@ namespace Kinds {
 /** The kinds that can be selected, in the order of menus and counts. */
 const QVector<TKind>& All();
 
-/** The kind of an item; null for one that nobody selects as such. */
+/** The kind of an item; null for an item that is not selected by kind. */
 const TKind* Of(const TGraphicsItem& item);
 
-/** The word for an item on a command line: that of its kind, in one word. */
+/** The name of an item's kind on a command line, in one word. */
 QString Word(const TGraphicsItem& item);
 
 /** Such as "784 vias"; items of several kinds are just "items". */

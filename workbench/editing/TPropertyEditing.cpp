@@ -51,7 +51,7 @@ void TPropertyEditing::ForwardKey(QKeyEvent* event)
         event->ignore();
         set->KeyPressEvent(event);
         if (event->isAccepted()) {
-            ShowSelection(); // The rows show what was there before.
+            ShowSelection(); // The rows show the former values.
         }
     }
 }
@@ -105,7 +105,7 @@ void TPropertyEditing::FocusRow(const QString& label) const
     }
     for (const TAbstractProperty* row : panel.PropertySet()->Properties()) {
         if (row->text(TAbstractProperty::labelColumn) == label && row->Editor()) {
-            row->Editor()->setFocus(Qt::OtherFocusReason); // Whoever hears of it may show other rows.
+            row->Editor()->setFocus(Qt::OtherFocusReason); // A focus handler may show other rows.
             return;
         }
     }

@@ -13,8 +13,8 @@ class TSelection;
 class TUndoCommand;
 
 /**
- * Embeds the panel: makes a set for each selection and shows it, pushes the set's commands onto the undo stack, and
- * shows the values anew after an undo or redo. Panel, selection and stack are the window's and outlive it.
+ * Embeds the panel: creates and shows a set for each selection, pushes the set's commands onto the undo stack, and
+ * rebuilds the set after an undo or redo. Panel, selection and stack belong to the window and outlive it.
  */
 class TPropertyEditing : public QObject
 {
@@ -26,14 +26,14 @@ public:
     /** The design whose items are edited; null for none. The panel is empty until something is selected. */
     void SetDesign(TDesign* newDesign);
 
-    /** Pushes a command of the application's own, and shows the values anew. */
+    /** Pushes a command of the application, and rebuilds the set. */
     void Push(std::unique_ptr<TUndoCommand> command);
 
-    /** Gives a key to the shown set. */
+    /** Forwards a key to the shown set. */
     void ForwardKey(QKeyEvent* event);
 
 public slots:
-    /** Shows a new set for the selection; an editor that has the focus hands it to that of the same row. */
+    /** Shows a new set for the selection; the focus moves from an editor to that of the same row. */
     void ShowSelection();
 
 signals:

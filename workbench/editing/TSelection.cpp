@@ -52,7 +52,7 @@ void TSelection::Order()
             selected.insert(designItem);
         }
     }
-    // Items that are no longer selected may be deleted: only their addresses are compared.
+    // Deselected items may be deleted: their pointers are compared but never dereferenced.
     QList<TGraphicsItem*> kept;
     for (TGraphicsItem* item : qAsConst(ordered)) {
         if (selected.remove(item)) {
@@ -72,7 +72,7 @@ void TSelection::Select(const QList<TGraphicsItem*>& items)
         return;
     }
     {
-        const QSignalBlocker blocker(scene); // One report for all of them.
+        const QSignalBlocker blocker(scene); // One signal for all of them.
         scene->clearSelection();
         for (TGraphicsItem* item : items) {
             item->setSelected(true);

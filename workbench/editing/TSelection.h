@@ -12,8 +12,8 @@ class TGraphicsItem;
 /**
  * The selected items of a scene in the order in which they were selected, which the scene itself does not keep.
  *
- * However many signals the scene sends, one gesture of the user is one change. Items that one gesture selects together
- * follow each other in the design's order; a later gesture's come after them.
+ * However many signals the scene emits, one gesture of the user is one change. Items that one gesture selects together
+ * are in the design's order; those of later gestures follow.
  */
 class TSelection : public QObject
 {
@@ -22,11 +22,11 @@ class TSelection : public QObject
 public:
     explicit TSelection(QObject* parent = nullptr);
 
-    /** Follows another scene; what it has selected is not reported. A scene that is left keeps its selection, in its
-     *  order, until none is followed. */
+    /** Tracks another scene, without reporting its selection. A scene that is no longer tracked keeps its selection, in
+     *  order, until no scene is tracked. */
     void SetScene(QGraphicsScene* newScene);
 
-    /** The items that are selected now, those of a gesture that goes on too. None of them is deleted. */
+    /** The items that are selected now, including those of an unfinished gesture. None of the pointers dangles. */
     const QList<TGraphicsItem*>& Items();
 
     /** Selects exactly these items, in the order given, and reports the change at once. */
@@ -37,7 +37,7 @@ public:
     void EndGesture();
 
 signals:
-    /** The selection is another one. Sent from the event loop, once for a gesture. */
+    /** The selection has changed. Emitted from the event loop, once per gesture. */
     void sigChanged();
 
 private slots:
@@ -50,8 +50,8 @@ private:
     QPointer<QGraphicsScene> scene;
     QTimer timer;
     QList<TGraphicsItem*> ordered;
-    QHash<const QGraphicsScene*, QList<TGraphicsItem*>> ofOthers; ///< The order in scenes that were left.
-    bool outdated = false; ///< The scene has changed since the items were put in order.
+    QHash<const QGraphicsScene*, QList<TGraphicsItem*>> ofOthers; ///< The order in scenes that are no longer tracked.
+    bool outdated = false; ///< The selection has changed since the items were sorted.
     bool unreported = false;
     bool inGesture = false;
 };

@@ -18,7 +18,7 @@ using TPerform = std::function<QString(TSession&)>;
 
 enum class Argument { None, Count, Required };
 
-/** An option that is a step: how it is written, what it does, and how its argument becomes something to do. */
+/** An option that is a step: its syntax, its help, and the parser of its argument. */
 struct TStepOption
 {
     const char* name;
@@ -62,7 +62,7 @@ TPerform ParseKey(const QString& name)
     return [key](TSession& session) { return session.Press(key); };
 }
 
-/** A step that switches something. */
+/** A step that switches something on or off. */
 template <QString (TSession::*step)(bool on)>
 TPerform ParseSwitch(const QString& state)
 {
@@ -73,14 +73,14 @@ TPerform ParseSwitch(const QString& state)
     return [on](TSession& session) { return (session.*step)(on); };
 }
 
-/** A step that takes its argument as it is. */
+/** A step with a free-form argument. */
 template <QString (TSession::*step)(const QString& argument)>
 TPerform ParseText(const QString& argument)
 {
     return [argument](TSession& session) { return (session.*step)(argument); };
 }
 
-/** A step that gives something another name. */
+/** A step that renames something. */
 template <QString (TSession::*step)(const QString& renaming)>
 TPerform ParseRenaming(const QString& renaming)
 {
@@ -90,14 +90,14 @@ TPerform ParseRenaming(const QString& renaming)
     return ParseText<step>(renaming);
 }
 
-/** A step that needs no argument. */
+/** A step without argument. */
 template <QString (TSession::*step)()>
 TPerform ParseNothing(const QString&)
 {
     return [](TSession& session) { return (session.*step)(); };
 }
 
-/** What an action asks for, as it is written in a help text. */
+/** The argument of an action in the help text. */
 const char* ArgumentOf(TDesignAction::Asks asks)
 {
     using Asks = TDesignAction::Asks;
@@ -112,7 +112,7 @@ const char* ArgumentOf(TDesignAction::Asks asks)
     return "";
 }
 
-/** Checks the argument of an action; returns what lengths it says. */
+/** Checks the argument of an action; returns its lengths. */
 QPointF ParseAsked(const TDesignAction& action, const QString& given)
 {
     using Asks = TDesignAction::Asks;
@@ -262,7 +262,7 @@ bool IsCount(const QString& text)
     });
 }
 
-/** Takes the argument that belongs to an option away from those that are left. */
+/** Removes the argument of an option from the remaining ones. */
 QString TakeArgument(const TStepOption& option, QStringList& left)
 {
     switch (option.takes) {
@@ -277,7 +277,7 @@ QString TakeArgument(const TStepOption& option, QStringList& left)
     return left.takeFirst();
 }
 
-/** The argument as it would be typed. */
+/** The argument as typed in a shell. */
 QString Quoted(const QString& argument)
 {
     static const QRegularExpression plain(QStringLiteral(R"(\A[\w.,:=/+-]+\z)"));

@@ -8,14 +8,14 @@
 
 class TSession;
 
-/** One thing that a command line asks for. */
+/** One step of a command line. */
 struct TStep
 {
     QString text;                              ///< As given, such as "--select via".
     std::function<QString(TSession&)> perform; ///< Returns the result; throws `TSessionError`.
 };
 
-/** What a command line asks for. */
+/** A parsed command line. */
 struct TCommandLine
 {
     QString file; ///< Empty for the sample.
@@ -23,12 +23,12 @@ struct TCommandLine
     bool timing = false;
     bool help = false;
 
-    /** Whether all is told beforehand and nobody needs to look at a screen. */
+    /** Whether it runs unattended, without a screen. */
     bool IsScript() const { return timing || !steps.isEmpty(); }
 
-    /** Reads the arguments, without the program's name. Throws `TSessionError` before anything is done. */
+    /** Parses the arguments, without the program's name. Throws `TSessionError` before any step runs. */
     static TCommandLine Parse(const QStringList& arguments);
 
-    /** What to say about the options. */
+    /** The help text. */
     static QString Usage();
 };

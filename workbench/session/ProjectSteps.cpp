@@ -19,8 +19,8 @@ QString Described(const QString& number, const QString& name)
 }
 
 /**
- * The row that a text means: the one of that number for a text of digits, otherwise the one of that name. Throws
- * `TSessionError` if there is none or there are several.
+ * The row that a text refers to: by number if it is all digits, otherwise by name. Throws `TSessionError` if there is
+ * none or there are several.
  */
 template <class Row, class NumberOf, class NameOf>
 Row& FindRow(const QList<Row*>& rows, const QString& text, const QString& kind, NumberOf numberOf, NameOf nameOf)
@@ -53,7 +53,7 @@ Row& FindRow(const QList<Row*>& rows, const QString& text, const QString& kind, 
     return *found.first();
 }
 
-/** The two sides of `Entry=name`. */
+/** Both sides of `Entry=name`. */
 QPair<QString, QString> SplitRenaming(const QString& renaming)
 {
     const int equals = renaming.indexOf(QLatin1Char('='));

@@ -15,7 +15,7 @@ int RunSteps(const QVector<TStep>& steps, bool timing, TSession& session, const 
             QElapsedTimer timer;
             timer.start();
             const QString result = step.perform(session);
-            QCoreApplication::processEvents(); // With what the step caused: the drawing, too.
+            QCoreApplication::processEvents(); // Including the repaint that the step caused.
             const qint64 elapsed = timer.nsecsElapsed();
             if (!result.isEmpty()) {
                 streams.results << result << '\n';

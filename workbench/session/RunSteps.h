@@ -7,7 +7,7 @@
 /** The exit code after an error. */
 constexpr int exitCodeOfErrors = 2;
 
-/** Where a session's results go, and where everything else. */
+/** The stream for a session's results, and that for everything else. */
 struct TStreams
 {
     QTextStream& results;
@@ -15,8 +15,8 @@ struct TStreams
 };
 
 /**
- * Does the steps one after another, with the events of each, and writes their results. After an error, which is
- * written with the number and the text of its step, no further step is done. Returns the exit code.
+ * Runs the steps in order, processing events after each, and writes their results. Stops at the first error, which is
+ * written with the number and the text of its step. Returns the exit code.
  */
 int RunSteps(const QVector<TStep>& steps, bool timing, TSession& session, const TStreams& streams);
 

@@ -15,7 +15,7 @@ QString LabelOf(const TAbstractProperty& row)
     return row.text(TAbstractProperty::labelColumn);
 }
 
-/** What follows the label: nothing or a part, and then the value. */
+/** What follows the label: an optional part, and the value. */
 std::optional<TAssignment> AfterLabel(const QString& text, const QString& label)
 {
     static const QRegularExpression pattern(QStringLiteral(R"(\A(?:\.([A-Za-z0-9]+))?=(.*)\z)"),

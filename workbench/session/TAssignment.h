@@ -5,7 +5,7 @@
 
 class TAbstractProperty;
 
-/** An edit of a row, as a command line says it: `Label=value` or `Label.part=value`. */
+/** An edit of a row on a command line: `Label=value` or `Label.part=value`. */
 struct TAssignment
 {
     TAbstractProperty* row = nullptr;
@@ -13,7 +13,7 @@ struct TAssignment
     QString value;
 
     /**
-     * Finds the row that a text means: of those whose label, with or without its last colon, begins the text and is
+     * Finds the row that a text refers to: of those whose label, with or without its final colon, begins the text and is
      * followed by a part or the equals sign, the one of the longest label. Throws `TSessionError` if there is none.
      */
     static TAssignment Resolve(const QString& text, const QList<TAbstractProperty*>& rows);

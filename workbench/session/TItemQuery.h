@@ -13,13 +13,12 @@ class TGraphicsItem;
 class TItemQuery
 {
 public:
-    /** Throws `TSessionError` for a text that is no query. */
+    /** Throws `TSessionError` for an invalid query. */
     static TItemQuery Parse(const QString& text);
 
     /**
-     * Those of the items of a document that are meant, in the order of the query's terms, each once. Throws
-     * `TSessionError`, with @p place for the document, for a kind that it has no item of, and for a position beyond the
-     * last.
+     * The matching items of a document, in the order of the query's terms, each once. Throws `TSessionError`, in which
+     * @p place names the document, for a kind without items in it, and for a position beyond the last.
      */
     QList<TGraphicsItem*> Find(const QList<TGraphicsItem*>& items, const QString& place) const;
 

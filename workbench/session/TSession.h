@@ -13,28 +13,27 @@ class TPropertySet;
 class TSchPage;
 
 /**
- * Uses a window as a person would: selects, edits rows through their editors, presses keys, undoes and redoes.
+ * Operates a window as a user would: selects, edits rows through their editors, presses keys, undoes and redoes.
  *
- * Each operation returns what it has to say, one or more lines without a last line break, or throws `TSessionError`
- * and has done nothing. The window must show a
- * design.
+ * Each operation returns its result, one or more lines without a final line break, or throws `TSessionError` without
+ * any effect. The window must show a design.
  */
 class TSession
 {
 public:
     explicit TSession(TMainWindow& shownWindow) : window(shownWindow) {}
 
-    /** Show a page, given by its number or its name, or the board: what is selected next is selected there. */
+    /** Show a page, given by its number or its name, or the board; later selections are made there. */
     QString ShowPage(const QString& page);
     QString ShowBoard();
-    /** What the project tree says, a line for each row. */
+    /** The project tree, one line per row. */
     QString Tree() const;
     /** Open a page, or a part's symbol, as from the tree: with an undo step. A part is given by its designator, or by
      *  the number of its component. */
     QString OpenPage(const QString& page);
     QString OpenPart(const QString& part);
     QString CloseSymbol();
-    /** Give an entry of the tree another name; the renaming is `Page=name` or `Part=name`. */
+    /** Rename an entry of the tree; the renaming is `Page=name` or `Part=name`. */
     QString RenamePage(const QString& renaming);
     QString RenamePart(const QString& renaming);
     /** Selects in the document that is shown. */
@@ -45,9 +44,9 @@ public:
     QString Set(const QString& assignment);
     /** Gives the focus to the canvas and presses a key there. */
     QString Press(const QKeySequence& key);
-    /** Sets or clears the flag of the selected items by which their edits leave no undo step. */
+    /** Sets or clears the flag of the selected items by which their edits bypass undo. */
     QString Bypass(bool on);
-    /** Does what the application does itself with the selected items; the point is one of the scene. */
+    /** Performs an action of the application on the selected items; the point is in scene coordinates. */
     QString Do(const TDesignAction& action, const QString& text, const QPointF& point);
     /** Shows or hides the designators, or the values, of all packages. */
     QString ShowDesignators(bool on);
@@ -67,9 +66,9 @@ public:
 private:
     /** The shown set; throws if nothing is selected or the panel is empty. */
     TPropertySet& ShownSet() const;
-    /** The texts of the commands that were pushed since the stack had this index. */
+    /** The texts of the commands pushed since the stack had this index. */
     QStringList PushedSince(int index) const;
-    /** Those texts, or what to say if there are none. */
+    /** Those texts, or a substitute if there are none. */
     QString Outcome(int index, const QString& none) const;
     TSchPage& FindPage(const QString& page) const;
     TPart& FindPart(const QString& part) const;

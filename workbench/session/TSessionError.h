@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-/** Why a command line is not understood, or a step of it cannot be done. Never thrown through the event loop. */
+/** Why a command line is invalid, or a step of it cannot be done. Never thrown through the event loop. */
 class TSessionError : public std::runtime_error
 {
 public:

@@ -13,7 +13,7 @@ struct TStop
 {
     const char* words;
     QStringList steps;
-    int kind = 0; ///< The kind of item that the stop is about, 0 for none.
+    int kind = 0; ///< The kind of item that the stop shows, 0 for none.
 };
 
 QVector<TStop> BoardStops()
@@ -79,7 +79,7 @@ QVector<TStop> LastStops()
     };
 }
 
-/** The kinds of what can be selected in a document; 0 stands for none. */
+/** The kinds of the selectable items of a document; 0 stands for none. */
 QSet<int> KindsIn(const TDesign& design, const TDocument& document)
 {
     QSet<int> kinds{0};
@@ -90,7 +90,7 @@ QSet<int> KindsIn(const TDesign& design, const TDocument& document)
     return kinds;
 }
 
-/** Visits the stops that are about one of the kinds. */
+/** Visits the stops for the given kinds. */
 int Visit(const QVector<TStop>& stops, const QSet<int>& kinds, TSession& session, const TStreams& streams)
 {
     for (const TStop& stop : stops) {

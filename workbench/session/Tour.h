@@ -5,7 +5,7 @@
 class TMainWindow;
 
 /**
- * Shows on the design of a window, on its board and its first page, what the workbench does, says at each step what
- * that is, and leaves a picture in the current folder. Returns the exit code.
+ * Demonstrates the workbench on the design of a window, on its board and its first page, with an explanation of each
+ * step, and saves a picture in the current folder. Returns the exit code.
  */
 int RunTour(TMainWindow& window, const TStreams& streams);

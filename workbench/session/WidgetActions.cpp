@@ -17,7 +17,7 @@
 
 namespace {
 
-/** The number of a text such as "0.8", "0.80" or "0.8 mm", in the form that every language reads the same. */
+/** The number in a text such as "0.8", "0.80" or "0.8 mm", in locale-independent form. */
 double ParseNumber(const QString& text, const QString& suffix, int decimals)
 {
     static const QRegularExpression pattern(QStringLiteral(R"(\A[+-]?(?:\d+(?:\.(\d*?)0*)?|\.(\d+?)0*)\z)"));
@@ -40,7 +40,7 @@ double ParseNumber(const QString& text, const QString& suffix, int decimals)
     return value;
 }
 
-/** Number boxes would cut off silently what lies outside of their range. */
+/** Number boxes would silently clamp values outside their range. */
 template <class Box>
 void GiveNumber(Box& box, const QString& text, int decimals)
 {
@@ -101,7 +101,7 @@ void Type(TLineEdit& line, const QString& text)
     QMouseEvent doubleClick(QEvent::MouseButtonDblClick, middle, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(line.label, &doubleClick);
 
-    QLineEdit& edit = *line.edit; // All of its text is selected now: the first key replaces it.
+    QLineEdit& edit = *line.edit; // Its text is all selected now: the first key replaces it.
     if (text.isEmpty()) {
         PressKey(edit, Qt::Key_Delete);
     }

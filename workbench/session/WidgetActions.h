@@ -4,15 +4,15 @@
 
 class QWidget;
 
-/** What a person does with the widgets that edit a value: number boxes, choices, texts and check boxes. */
+/** User actions on the widgets that edit a value: number boxes, choices, texts and check boxes. */
 namespace WidgetActions {
 
-/** What the widget shows: a number with its suffix, a text in quotes, a box as `[x]` or `[ ]`. */
+/** The shown value: a number with its suffix, a text in quotes, a box as `[x]` or `[ ]`. */
 QString ShownText(const QWidget& widget);
 
 /**
- * Gives the widget a value, with the widget's own signals. Throws `TSessionError`, whose cause goes on from the name
- * of what the widget belongs to, for a value that a person could not give it. The widget may be gone afterwards.
+ * Sets the widget's value, with the widget's own signals. Throws `TSessionError`, whose cause continues the name of the
+ * widget's row, for a value that a user could not enter. The widget may be gone afterwards.
  */
 void Give(QWidget& widget, const QString& value);
 

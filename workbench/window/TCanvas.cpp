@@ -25,7 +25,7 @@ constexpr double smallestScale = 0.02;
 constexpr double largestScale = 200.0;
 constexpr double zoomStep = 1.25;
 
-/** The grid's step in scene units: the power of ten of a millimetre whose lines lie far enough apart. */
+/** The grid's step in scene units: the smallest power of ten in millimetres whose lines are far enough apart. */
 double GridStep(double pixelsPerUnit)
 {
     constexpr double fewestPixels = 12.0;
@@ -69,7 +69,7 @@ void TCanvas::Show(QGraphicsScene* newScene)
 {
     setScene(newScene);
     content = newScene ? newScene->itemsBoundingRect() : QRectF();
-    // Room on all sides, so that every point of the document can be brought to every point of the view.
+    // Margins on all sides, so that every point of the document can be moved to every point of the view.
     const double room = std::max(content.width(), content.height()) + 100;
     setSceneRect(content.adjusted(-room, -room, room, room));
     FitAll();
@@ -189,7 +189,7 @@ void TCanvas::mouseMoveEvent(QMouseEvent* event)
         return;
     }
     if (!(event->buttons() & Qt::MiddleButton)) {
-        EndPan(); // The button was released where nobody told.
+        EndPan(); // The release event went to another widget.
         return;
     }
     ScrollBy(panFrom - event->pos());

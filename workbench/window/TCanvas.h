@@ -3,7 +3,7 @@
 #include <QGraphicsView>
 
 /**
- * Shows a board or a page on a dark ground with a grid of millimetres. The wheel zooms around the cursor, the middle
+ * Shows a board or a page on a dark background with a millimetre grid. The wheel zooms around the cursor, the middle
  * button pans, the left one selects.
  */
 class TCanvas : public QGraphicsView
@@ -13,21 +13,21 @@ class TCanvas : public QGraphicsView
 public:
     explicit TCanvas(QWidget* parent = nullptr);
 
-    /** Shows a scene, all of it, or nothing. */
+    /** Shows a scene, zoomed to fit; null for none. */
     void Show(QGraphicsScene* newScene);
 
-    /** Brings an item into view, near enough to be seen. */
+    /** Scrolls and zooms to make an item visible. */
     void Reveal(const QGraphicsItem& item);
 
 public slots:
-    /** Zooms so that everything, or what is selected, can be seen. */
+    /** Zooms to fit everything, or the selection. */
     void FitAll();
     void FitSelection();
     void ZoomIn();
     void ZoomOut();
 
 signals:
-    /** The left button goes down, and up again: what is selected in between is one gesture. */
+    /** The left button was pressed, or released: selections in between are one gesture. */
     void sigGestureBegun();
     void sigGestureEnded();
     /** The cursor is above this point, in scene units. */
@@ -47,13 +47,13 @@ protected:
 
 private:
     void Fit(const QRectF& area);
-    /** Zooms as far as the limits allow; what is seen at a point of the viewport stays there. */
+    /** Zooms within the limits around a point of the viewport. */
     void ZoomBy(double factor, const QPoint& around);
     void ScrollBy(const QPoint& pixels);
     void EndPan();
 
-    QRectF content;       ///< Where the items lie.
-    bool showsAll = true; ///< Until the user zooms or pans, all is shown whatever the size of the window.
+    QRectF content;       ///< The bounding rectangle of the items.
+    bool showsAll = true; ///< Until the user zooms or pans, everything is shown at any window size.
     bool isPanning = false;
     QPoint panFrom;
 };

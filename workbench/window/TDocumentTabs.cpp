@@ -21,7 +21,7 @@ void TDocumentTabs::SetDesign(TDesign* newDesign)
     const QSignalBlocker blocker(this);
     const QList<TCanvas*> old = Canvases();
     clear();
-    qDeleteAll(old); // Now, while their scenes are there.
+    qDeleteAll(old); // Now, while their scenes exist.
     design = newDesign;
     documents = design ? design->Documents() : QVector<TDocument>();
     lastPage = 0;

@@ -17,7 +17,7 @@ class TDocumentTabs : public QTabWidget
 public:
     explicit TDocumentTabs(QWidget* parent = nullptr);
 
-    /** Makes the tabs of a design, which must outlive them; null for none. */
+    /** Creates the tabs of a design, which must outlive them; null for none. */
     void SetDesign(TDesign* newDesign);
 
     /** The canvas and the document of the tab that is shown; only with a design. */
@@ -28,15 +28,15 @@ public:
 
     /** Shows the tab of a page, of the board for 0. False if there is no such tab. */
     bool ShowPage(int page);
-    /** The page that is shown, or was when the board came in front of it; 0 if there are no pages. */
+    /** The page that is shown, or was shown before the board; 0 if there are no pages. */
     int LastPage() const { return lastPage; }
 
 public slots:
-    /** Takes over the names of the pages. */
+    /** Updates the names of the pages. */
     void UpdateNames();
 
 signals:
-    /** Another document is shown. Not sent while the tabs of a design are made. */
+    /** Another document is shown. Not emitted while the tabs of a design are created. */
     void sigShown();
 
 private slots:

@@ -14,11 +14,11 @@ public:
 
     /** Codes such as "en" and "de", English first. */
     static QStringList Available();
-    /** What a language calls itself. */
+    /** The native name of a language. */
     static QString NameOf(const QString& code);
 
     const QString& Current() const { return current; }
-    /** Translates all texts that are made from now on; a code that is not available stands for English. */
+    /** Translates all texts that are created from now on; an unknown code means English. */
     void Switch(const QString& code);
 
 signals:

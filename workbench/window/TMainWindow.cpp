@@ -43,7 +43,7 @@ TMainWindow::TMainWindow(QWidget* parent)
     setWindowTitle(tr("Workbench"));
     setCentralWidget(tabs);
     MakeDocks();
-    // Made first, it has opened what a command asks for when the panel is brought up to date.
+    // Created first, so that it has opened what a command requests before the panel is updated.
     navigation = std::make_unique<TNavigation>(*tabs, *undoStack);
     editing = std::make_unique<TPropertyEditing>(*panel, *selection, *undoStack);
     menus = new TMenus(*menuBar(), *undoStack, docks);
@@ -176,7 +176,7 @@ void TMainWindow::slotDocumentShown()
         return;
     }
     if (panel->isAncestorOf(QApplication::focusWidget())) {
-        Canvas().setFocus(); // What is half typed belongs to the document that was shown.
+        Canvas().setFocus(); // Commits half-typed text to the document that was shown.
     }
     const TDocument& document = tabs->Document();
     layerList->SetLayers(&document.workspace->Layers());
@@ -319,7 +319,7 @@ void TMainWindow::SelectOnlyVisible()
 void TMainWindow::slotLayerVisibility()
 {
     SelectOnlyVisible();
-    const QList<TCanvas*> canvases = tabs->Canvases(); // Pages have their layers in common.
+    const QList<TCanvas*> canvases = tabs->Canvases(); // Pages share their layers.
     for (const TCanvas* canvas : canvases) {
         canvas->viewport()->update();
     }

@@ -33,7 +33,7 @@ public:
     explicit TMainWindow(QWidget* parent = nullptr);
     ~TMainWindow() override;
 
-    /** Shows what was read, a board or pages at least; the design shown before, its panel and its history go. */
+    /** Shows what was read, which must have a board or pages; the former design and its history are discarded. */
     void ShowDesign(TImportResult result, const QString& name);
 
     /** Null before the first one is shown. */
@@ -42,7 +42,7 @@ public:
     TBoard* Board() const;
     TDocumentTabs& Tabs() const { return *tabs; }
     TNavigation& Navigation() const { return *navigation; }
-    /** What is selected in the document that is shown. */
+    /** The selection in the shown document. */
     TSelection& Selection() const { return *selection; }
     QUndoStack& UndoStack() const { return *undoStack; }
     TPropertyEditing& Editing() const { return *editing; }
@@ -51,8 +51,8 @@ public:
     TCanvas& Canvas() const;
     TLayerList& Layers() const { return *layerList; }
 
-    /** Does something with what is selected; false if the selection does not suit it, or nothing is shown. The point
-     *  is one of the scene. */
+    /** Performs an action on the selection; false if the selection is unsuitable, or nothing is shown. The point is in
+     *  scene coordinates. */
     bool Do(const TDesignAction& action, const QString& text, const QPointF& point);
 
     /** Shows or hides the designators, or the values, of all packages. */
@@ -60,7 +60,7 @@ public:
     void ShowValues(bool on);
 
 public slots:
-    /** Opens a file. Without success the shown board stays, and one message says why. */
+    /** Opens a file. On failure the shown design stays, and one message says why. */
     void OpenFile(const QString& file);
 
 private slots:
@@ -100,5 +100,5 @@ private:
 
     std::unique_ptr<TNavigation> navigation;
     std::unique_ptr<TPropertyEditing> editing;
-    QPointF cursor; ///< Where it was last above a canvas, in scene units.
+    QPointF cursor; ///< Its last position above a canvas, in scene units.
 };

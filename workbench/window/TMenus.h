@@ -16,7 +16,7 @@ class TGraphicsItem;
 struct TDesignAction;
 struct TKind;
 
-/** The entries of a window's menu bar. They say what the user wants; whoever receives that knows how it is done. */
+/** The entries of a window's menu bar. They emit the user's requests and do not execute them. */
 class TMenus : public QObject
 {
     Q_OBJECT
@@ -24,18 +24,18 @@ class TMenus : public QObject
 public:
     using TViewChange = void (TCanvas::*)();
 
-    /** Belongs to the bar. */
+    /** Owned by the bar. */
     TMenus(QMenuBar& menuBar, QUndoStack& undoStack, const QList<QDockWidget*>& docks);
 
-    /** The actions whose keys belong to the canvases: in an editor they mean something else. */
+    /** The actions whose shortcuts apply to the canvases only: in an editor these keys have another meaning. */
     const QList<QAction*>& CanvasActions() const { return canvasActions; }
     TLanguages& Languages() { return languages; }
 
-    /** Takes over which texts of packages a board shows; null for no board. Reports nothing. */
+    /** Reads which texts of packages a board shows; null for no board. Emits nothing. */
     void TakeBoard(const TBoard* board);
     void TickDesignators(bool on);
     void TickValues(bool on);
-    /** Offers the selection of those kinds only that the items are of. */
+    /** Offers to select only the kinds that the items are of. */
     void OfferKindsOf(const QList<TGraphicsItem*>& items);
 
 signals:
@@ -43,13 +43,13 @@ signals:
     void sigQuit();
     /** Select all visible items of a kind, or of all kinds for null. */
     void sigSelect(const TKind* kind);
-    /** The edit menu is about to be seen. */
+    /** The edit menu is about to be shown. */
     void sigEditMenuOpens();
     void sigAction(const TDesignAction& action);
     void sigCloseSymbol();
     void sigDesignators(bool on);
     void sigValues(bool on);
-    /** Change what is seen of the document. */
+    /** Change the view of the document. */
     void sigView(TMenus::TViewChange change);
 
 private:

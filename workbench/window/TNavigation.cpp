@@ -20,8 +20,8 @@ void SetBold(QTreeWidgetItem& row, bool on)
     }
 }
 
-/** Whether a command edits what is shown on the canvas, and does not only rename an entry of the tree. False for null,
- *  as the stack gives out for a command that it has thrown away. */
+/** Whether a command edits items on the canvas, and does not just rename an entry of the tree. False for null, which
+ * the stack returns for a discarded command. */
 bool IsSeenOnCanvas(const QUndoCommand* command)
 {
     return command && !dynamic_cast<const TTreeEntryCommand*>(command);
@@ -45,7 +45,7 @@ void TNavigation::SetDesign(TDesign* newDesign)
 
 void TNavigation::OpenPage(TSchPage& page)
 {
-    // The command is pushed when the page is open; its first answer counts on that.
+    // The command is pushed once the page is open; its first answer relies on that.
     const auto previous = static_cast<unsigned char>(tabs.LastPage());
     tabs.ShowPage(page.Number());
     if (previous != page.Number()) {
@@ -93,7 +93,7 @@ void TNavigation::Push(std::unique_ptr<TUndoCommand> command, const QString& wha
 
 void TNavigation::NotePushed(int index)
 {
-    // A new command was made while those that it throws away were there, so that its address is none of theirs.
+    // A new command was created while those that it discards existed, so that its address differs from theirs.
     const bool isPushed =
         index > 0 && (steps.size() < index || steps[index - 1].command != undoStack.command(index - 1));
     if (isPushed) {
@@ -111,7 +111,7 @@ void TNavigation::slotIndexChanged(int index)
     bool isPartLast = false;
     for (int i = lastIndex; i != index; i += step) {
         const int position = step > 0 ? i : i - 1;
-        // The question for the page changes the answer to the next one, and the stack gives out constants only.
+        // Asking for the page changes the next answer, and the stack returns only const pointers.
         // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
         auto* command = const_cast<QUndoCommand*>(undoStack.command(position));
         if (auto* opensPage = dynamic_cast<TCmdPageOpen*>(command)) {

@@ -14,9 +14,9 @@ class TSchPage;
 class TUndoCommand;
 
 /**
- * Opens and renames pages and parts for the user through commands, and follows the undo stack: whatever was done or
- * undone, one step or many at once, the last command that opens a page or a part tells which one is open, and an edit
- * that is undone or redone is shown where it was made.
+ * Opens and renames pages and parts for the user through commands, and tracks the undo stack: after any undo or redo,
+ * of one step or several, the last command that opens a page or a part determines which one is open, and an edit that
+ * is undone or redone is shown where it was made.
  */
 class TNavigation : public QObject
 {
@@ -34,7 +34,7 @@ public slots:
     /** Opens a part's symbol for editing and shows it; a part that is open already is only shown. */
     void OpenPart(TPart& part);
     void CloseSymbol();
-    /** Give an entry of the tree another name; none, or the one that it has, changes nothing. */
+    /** Rename an entry of the tree; a no-op for an empty name, or the current one. */
     void RenamePage(TSchPage& page, const QString& name);
     void RenamePart(TPart& part, const QString& name);
 
@@ -42,14 +42,14 @@ private slots:
     void slotIndexChanged(int index);
 
 private:
-    /** A command on the undo stack, compared only, and the page that was shown when it was pushed: 0 for the board. */
+    /** A command on the undo stack, never dereferenced, and the page that was shown at its push: 0 for the board. */
     struct Step
     {
         const QUndoCommand* command;
         int page;
     };
 
-    /** Keeps `steps` up to date with the stack when it has come to an index. */
+    /** Updates `steps` after the stack's index has changed. */
     void NotePushed(int index);
     void Push(std::unique_ptr<TUndoCommand> command, const QString& what);
     void Reveal(const TPart& part);

@@ -11,7 +11,7 @@
 
 namespace {
 
-/** Tells what was typed instead of writing it: names are changed by commands. */
+/** Reports the typed text instead of writing it: names are changed by commands. */
 class TNameDelegate : public QStyledItemDelegate
 {
 public:
@@ -51,7 +51,7 @@ TProjectDock::TProjectDock(QWidget* parent)
 
 void TProjectDock::SetTree(TProjectTree* newTree)
 {
-    edited = nullptr; // A name that is half typed ends with its tree.
+    edited = nullptr; // A half-typed name is discarded with its tree.
     if (tree) {
         tree->disconnect(this);
         tree->hide();

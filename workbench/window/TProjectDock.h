@@ -8,7 +8,7 @@ class TPart;
 class TProjectTree;
 class TSchPage;
 
-/** Shows the tree of a project, and lets the user open and rename what stands in it. It changes nothing by itself. */
+/** Shows the tree of a project, and lets the user open and rename its entries. It changes nothing by itself. */
 class TProjectDock : public QDockWidget
 {
     Q_OBJECT
@@ -16,7 +16,7 @@ class TProjectDock : public QDockWidget
 public:
     explicit TProjectDock(QWidget* parent = nullptr);
 
-    /** Shows a tree, which stays its owner's and is taken out again with null. */
+    /** Shows a tree without taking ownership; null removes it. */
     void SetTree(TProjectTree* newTree);
 
 signals:

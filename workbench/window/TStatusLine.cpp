@@ -14,7 +14,7 @@ QLabel* MakeLabel(QStatusBar& bar)
     return label;
 }
 
-/** Shows as much of a text as the status bar has room for, and all of it as a tool tip. */
+/** Elides a text to the width of the status bar, with the full text as tool tip. */
 void ShowShortened(QLabel& label, const QString& text)
 {
     constexpr int widest = 460;

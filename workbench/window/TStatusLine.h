@@ -8,14 +8,13 @@ class QStatusBar;
 class QStringList;
 class TWorkspace;
 
-/** What a status bar says: what a document holds, what is not shown of it, what is selected, and where the cursor is.
- */
+/** The content of a status bar: the items of a document, what is not shown of it, the selection, and the cursor. */
 class TStatusLine : public QObject
 {
     Q_OBJECT
 
 public:
-    /** Belongs to the bar. */
+    /** Owned by the bar. */
     explicit TStatusLine(QStatusBar& bar);
 
     void ShowContent(const QString& summary);

@@ -3,8 +3,8 @@
 #include <QObject>
 
 /**
- * Lets undo and redo keys through to the window while a number box has the focus: the box would keep them for its
- * text, but every change of the text has already changed the design.
+ * Passes undo and redo keys on to the window while a number box has the focus: the box would use them for its text, but
+ * every change of the text has already changed the design.
  */
 class TUndoKeys : public QObject
 {

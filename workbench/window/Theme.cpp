@@ -12,7 +12,7 @@
 
 namespace {
 
-/** Rows that are high enough for a number box. */
+/** Makes rows high enough for a number box. */
 class TRoomyRows : public QProxyStyle
 {
 public:
@@ -55,7 +55,7 @@ void Theme::Apply()
     QApplication::setPalette(palette);
 
     if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
-        QFont font = QApplication::font(); // No desktop has chosen one.
+        QFont font = QApplication::font(); // No desktop environment has set one.
         font.setPointSizeF(9.5);
         QApplication::setFont(font);
     }

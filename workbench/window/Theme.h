@@ -2,13 +2,13 @@
 
 class TPropertyWidget;
 
-/** How the workbench looks. */
+/** The appearance of the workbench. */
 namespace Theme {
 
 /** A light style around the dark canvas, the same wherever the application runs. */
 void Apply();
 
-/** Gives the panel rows in which an editor has room for its frame. */
+/** Makes the panel's rows high enough for the frame of an editor. */
 void MakeRoomy(TPropertyWidget& panel);
 
 } // namespace Theme
