@@ -13,53 +13,52 @@
 #include <functional>
 #include <memory>
 
-/** A design that was read from files, or else why there is none. */
+/** A design that was read from files, or the reason why there is none. */
 struct TImportResult
 {
-    /** Null if there is none, if a file could not be read, and if reading was cancelled. A board is never half of what
-     *  is in its file. */
+    /** Null if there is none, if a file could not be read, and if reading was cancelled. A board is never partial.
+     */
     std::unique_ptr<TBoard> board;
 
-    /** Where the nets have their classes and colours. It has no pages where only a board was read; null if a file could
-     *  not be read, and if reading was cancelled. */
+    /** Holds the classes and colours of the nets. Without pages if only a board was read; null if a file could not be
+     *  read, and if reading was cancelled. */
     std::unique_ptr<TSchematic> schematic;
 
-    /** What the schematic's pages are called, in their order. */
+    /** The names of the schematic's pages, in order. */
     QStringList pageNames;
 
-    /** What the tags of the schematic show, by their names. */
+    /** The values of the schematic's tags, by name. */
     QMap<QString, QString> tagValues;
 
-    /** What the files hold and the design does not, with counts: ("track segments", 17921). */
+    /** Elements of the files that the design lacks, with counts: ("track segments", 17921). */
     QList<QPair<QString, int>> notShown;
 
-    /** What could not be read besides the design, "file: cause" or "file:line: cause". It is whole all the same.
-     */
+    /** Problems that do not affect the design's completeness, "file: cause" or "file:line: cause". */
     QStringList warnings;
 
-    /** "file:line: cause"; empty if all is well, and if reading was cancelled. */
+    /** "file:line: cause"; empty on success, and if reading was cancelled. */
     QString error;
 
     bool cancelled = false;
 };
 
-/** Called with the part that is done, 1 to 100 percent, each time that it has grown. False cancels. */
+/** Called with the progress, 1 to 100 percent, whenever it has grown. Returning false cancels. */
 using TImportProgress = std::function<bool(int percent)>;
 
 /**
  * Reads a board file (`.kicad_pcb`, formats 20171130 to 20241229), and the project file (`.kicad_pro`) beside it for
- * the net classes and colours. Resources can be read like files.
+ * the net classes and colours. Resource paths work like file names.
  */
 TImportResult ImportBoard(const QString& fileName, const TImportProgress& progress = {});
 
-/** Texts of files, with the names that stand for them in messages. */
+/** Contents of files, with their names for messages. */
 struct TImportSource
 {
     QByteArray text;
     QString name;
     QByteArray projectText; ///< Empty for none.
     QString projectName;
-    QString projectProblem; ///< Why there is none, to be told if the board needs one.
+    QString projectProblem; ///< Why there is none, for a message if the board needs one.
 };
 
 /** Reads the texts of a board file and its project file. */

@@ -36,15 +36,15 @@ public:
         }
     }
 
-    /** The component key; empty if there is none. A designator counts only where the path of no other item leads to
-     * that component. */
+    /** The component key; empty if there is none. A designator counts only if no other item's path leads to that
+     * component. */
     QString Key(const QString& path, const QString& designator) const
     {
         const auto byPath = keyOfPath.constFind(path);
         if (byPath != keyOfPath.constEnd()) {
             return *byPath;
         }
-        // The sheets may have moved within the hierarchy; a symbol that is used once is the same one still.
+        // The sheets may have moved within the hierarchy; a symbol that is used only once still matches.
         const QStringList byUuid = keysOfUuid.value(path.section(QLatin1Char('/'), -1));
         if (byUuid.size() == 1) {
             return byUuid.first();
@@ -56,10 +56,10 @@ private:
     QHash<QString, QString> keyOfPath;
     QHash<QString, QStringList> keysOfUuid;
     QSet<QString> keys;
-    QSet<QString> found; ///< Those that paths of the board lead to.
+    QSet<QString> found; ///< The components that paths of the board lead to.
 };
 
-/** Drops names that would make one net of two; what nets are called that get another one is free to be taken. */
+/** Drops names that would merge two nets; the former names of renamed nets are free for others. */
 void KeepApart(const TSheetHierarchy& hierarchy, QMap<int, QString>& wanted)
 {
     for (bool isDone = false; !isDone;) {
@@ -101,7 +101,7 @@ struct TPinsOfNets
     QHash<int, int> count;                     ///< By the net.
 };
 
-/** What the pads are on whose pins are on each net; empty for no net. */
+/** For each net, the net names of the pads of its pins; the empty name for pads without net. */
 QHash<int, QSet<QString>> NamesOnBoard(const TPinsOfNets& pins, const TSheetHierarchy& hierarchy,
                                        const TBoardDraft& board)
 {
@@ -131,7 +131,7 @@ void MatchNumbers(TBoardDraft& board, const TSheetHierarchy& hierarchy, const QH
 {
     const TSymbolFinder finder(hierarchy, board);
     const QList<TGraphicsItem*> items = board.board->Scene()->DesignItems();
-    // Ties that no symbol belongs to keep clear of the numbers of those that have one.
+    // Ties without a symbol avoid the numbers of those that have one.
     int nextFree = numbers.size() + 1;
     for (TGraphicsItem* item : items) {
         if (auto* package = dynamic_cast<TGraphicsPackageItem*>(item)) {
@@ -151,7 +151,7 @@ void TakeBoardNames(TSheetHierarchy& hierarchy, const TBoardDraft& board)
     for (auto names = boardNames.begin(); names != boardNames.end(); ++names) {
         const TDesignNet& net = hierarchy.nets[static_cast<std::size_t>(names.key())];
         if (pins.count.value(names.key()) > 1) {
-            names->remove(QString()); // The board has not got it yet. A pin that is alone may be on no net, as there.
+            names->remove(QString()); // The pads are not updated yet. Only a lone pin may have no net there.
         }
         const QString name = names->size() == 1 ? *names->begin() : net.name;
         if (name != net.name && (!net.isNamed || net.otherNames.contains(name))) {

@@ -7,10 +7,10 @@
 struct TBoardDraft;
 
 /**
- * Gives packages and net ties of a board the numbers of their symbols: of those whose path theirs ends with, or else
- * that have the same designator.
+ * Gives packages and net ties of a board the numbers of their symbols, matched by path (theirs ends with the symbol's),
+ * or else by designator.
  */
 void MatchNumbers(TBoardDraft& board, const TSheetHierarchy& hierarchy, const QHash<QString, quint16>& numbers);
 
-/** Gives nets that nobody has named the names that the board's pads have for them. */
+/** Gives unnamed nets the net names of the board's pads. */
 void TakeBoardNames(TSheetHierarchy& hierarchy, const TBoardDraft& board);

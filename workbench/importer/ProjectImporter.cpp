@@ -14,11 +14,11 @@
 
 namespace {
 
-/** What of the whole work is done when the sheets, and when the board's text has been read, in percent. */
+/** Progress in percent after reading the sheets, and after parsing the board's text. */
 constexpr int sheetsRead = 15;
 constexpr int boardParsed = 55;
 
-/** Files that make up a design; a name is empty where there is none. */
+/** The files of a design; a name is empty if there is none. */
 struct TDesignFiles
 {
     QString board;

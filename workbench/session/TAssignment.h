@@ -13,8 +13,8 @@ struct TAssignment
     QString value;
 
     /**
-     * Finds the row that a text refers to: of those whose label, with or without its final colon, begins the text and is
-     * followed by a part or the equals sign, the one of the longest label. Throws `TSessionError` if there is none.
+     * Finds the row that a text refers to: of those whose label, with or without its final colon, begins the text and
+     * is followed by a part or the equals sign, the one of the longest label. Throws `TSessionError` if there is none.
      */
     static TAssignment Resolve(const QString& text, const QList<TAbstractProperty*>& rows);
 };

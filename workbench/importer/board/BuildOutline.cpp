@@ -16,7 +16,7 @@ namespace {
 
 using TCorners = QVector<OutlinePointStruct>;
 
-/** Ends that lie no further apart meet, in scene units. */
+/** The largest gap at which ends meet, in scene units. */
 constexpr double largestGap = 0.1 * 300 / 25.4;
 
 constexpr int corner = 0;
@@ -33,7 +33,7 @@ struct TEdge
     QPointF End() const { return {corners.last().x, corners.last().y}; }
 };
 
-/** Corners in the scene that end where they begin, without the last one. */
+/** A closed curve of scene corners, without repeating the first one at the end. */
 struct TLoop
 {
     TCorners corners;
@@ -79,7 +79,7 @@ TCorners CornersOf(const TEdgeShape& edge)
     return corners;
 }
 
-/** The unused edge that goes on from a place, turned so that it begins there; null if there is none. */
+/** The nearest unused edge that continues from a point, reversed if needed to begin there; null if there is none. */
 TEdge* Continuation(std::vector<TEdge>& edges, const QPointF& from)
 {
     TEdge* nearest = nullptr;
@@ -105,7 +105,7 @@ TLoop Loop(const TCorners& corners, const TEdgeShape& source)
     return {corners, drawn.Path(), ShapeValues::StrokeWidth(source.shape)};
 }
 
-/** Follows an edge from end to end. What it leads to is a loop, or else all of it has no place in the outline. */
+/** Follows edges from end to end. The chain is a loop, or else none of its edges is part of the outline. */
 void Follow(TEdge& first, std::vector<TEdge>& edges, std::vector<TLoop>& loops, std::vector<const TEdgeShape*>& open)
 {
     std::vector<const TEdge*> chain;

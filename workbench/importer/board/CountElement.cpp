@@ -6,14 +6,14 @@
 
 namespace {
 
-/** The elements of boards and footprints that are not read yet, in the words of the user. */
+/** The elements of boards and footprints that are not supported yet, with their names for users. */
 constexpr std::pair<std::string_view, const char*> kinds[] = {
     {"dimension", "dimensions"}, {"group", "groups"}, {"generated", "length-tuning patterns"},
     {"image", "images"},         {"table", "tables"}, {"target", "alignment targets"},
     {"model", "3D models"},
 };
 
-/** What is said about the board or the footprint itself. */
+/** Properties of the board or the footprint itself. */
 constexpr std::string_view properties[] = {
     "version",
     "host",

@@ -24,7 +24,7 @@ struct TWireEnd
     TGridPoint place;
 };
 
-/** The ends that meet in one place. */
+/** The ends that meet at one point. */
 struct TNode
 {
     TGridPoint place;
@@ -99,7 +99,7 @@ TGraphicsJunctionItem* AddJunction(const TNode& node, TBoard& board)
     return added;
 }
 
-/** Whether the two ends are head and tail of different wires, in exactly one place. */
+/** Whether the two ends are head and tail of different wires, at exactly the same point. */
 bool AreHeadAndTail(const TWireEnd& one, const TWireEnd& other)
 {
     return one.wire != other.wire && one.end != other.end && one.place == other.place;
@@ -128,7 +128,7 @@ void Link(const TNode& node, TBoard& board)
 void LinkTracks(TBoardDraft& draft)
 {
     const QMap<TGroupKey, std::shared_ptr<TTrackGroup>> groups = Groups(draft);
-    // Wires stand on the board in the order of the file.
+    // Wires are placed on the board in file order.
     std::vector<QPair<const TTrackGroup*, const TTrackPiece*>> pieces;
     for (const std::shared_ptr<TTrackGroup>& group : groups) {
         group->Join();

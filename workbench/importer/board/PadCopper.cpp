@@ -14,7 +14,7 @@ namespace {
 
 using Measures::SceneLength;
 
-/** The shape of the anchor of a custom pad, to which the primitives add. */
+/** The anchor shape of a custom pad, to which the primitives are added. */
 TGraphicsPadItem::TypePadShape AnchorShape(const TSexpression& pad)
 {
     const std::optional<TSexpression> options = pad.Find("options");
@@ -52,7 +52,7 @@ QSizeF Size(const TSexpression& pad, bool isCircle)
     return {width, isCircle ? width : SceneLength(size.Value(1).Extent())};
 }
 
-/** Where the copper's centre lies, seen from the hole. */
+/** The offset of the copper's centre from the hole. */
 QPointF CopperOffset(const TSexpression& pad)
 {
     const std::optional<TSexpression> drill = pad.Find("drill");
@@ -60,7 +60,7 @@ QPointF CopperOffset(const TSexpression& pad)
     return offset ? ElementValues::Position(*offset) : QPointF();
 }
 
-/** The file says by how much the ends differ from the pad's own size: first from its width, the lower end growing. */
+/** The file has the differences of the sides to the pad's size: first to its width, the lower side growing. */
 QSizeF Taper(const TSexpression& delta)
 {
     const double widthAtBottom = SceneLength(delta.Value(0).Millionths());
@@ -68,10 +68,10 @@ QSizeF Taper(const TSexpression& delta)
     return {2 * heightAtLeft, -2 * widthAtBottom};
 }
 
-/** Whether the chamfers make a regular octagon, as far as the file's decimals can say it. */
+/** Whether the chamfers form a regular octagon, to the precision of the file. */
 bool IsOctagon(const TSexpression& pad, const TSexpression& chamferedCorners)
 {
-    constexpr double chamferOfOctagon = 0.292893; // 1 - sqrt(1/2), of the side
+    constexpr double chamferOfOctagon = 0.292893; // 1 - sqrt(1/2), as a fraction of the side
     constexpr double tolerance = 0.005;
     const std::optional<TSexpression> ratio = pad.Find("chamfer_ratio");
     return chamferedCorners.FindValue(3) && ratio && std::abs(ratio->Value(0).Decimal() - chamferOfOctagon) < tolerance;

@@ -4,5 +4,5 @@ class TGraphicsPadItem;
 class TSexpression;
 struct TBoardDraft;
 
-/** Gives a pad the size and the shape of its copper, and the place of the copper seen from the hole. */
+/** Sets the size and the shape of a pad's copper, and its offset from the hole. */
 void ReadPadCopper(const TSexpression& pad, TGraphicsPadItem& item, TBoardDraft& draft);

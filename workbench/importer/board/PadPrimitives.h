@@ -5,6 +5,5 @@
 class TSexpression;
 struct TBoardDraft;
 
-/** The copper that the `(primitives ...)` of a pad of custom shape draw, in scene units, seen from the copper's centre.
- */
+/** The copper of the `(primitives ...)` of a custom pad, in scene units relative to the copper's centre. */
 QPainterPath ReadPadPrimitives(const TSexpression& primitives, TBoardDraft& draft);

@@ -16,7 +16,7 @@ struct TElementReader
     void (*read)(const TSexpression& element, TBoardDraft& draft);
 };
 
-/** Read before all items, wherever they stand in the file. */
+/** Read before all items, wherever they are in the file. */
 constexpr TElementReader definitionReaders[] = {
     {"layers", ElementReaders::ReadLayers},
     {"setup", ElementReaders::ReadSetup},

@@ -6,7 +6,7 @@ class TSexpression;
 struct TBoardDraft;
 
 /**
- * Reads a whole board into an empty draft, calling back with the part that is done, in percent, as it grows. Throws
+ * Reads a whole board into an empty draft, and reports progress in percent whenever it has grown. Throws
  * `TImportError`.
  */
 void ReadBoard(const TSexpression& root, TBoardDraft& draft, const std::function<void(int percent)>& progress);

@@ -6,7 +6,7 @@
 
 namespace {
 
-/** The measure of a list such as `(name measure)`, unchanged if there is no such list. */
+/** Reads the measure of a list such as `(name measure)`; unchanged if there is no such list. */
 template <class Measure>
 void ReadExtent(const TSexpression& element, std::string_view name, Measure& measure)
 {
@@ -15,7 +15,7 @@ void ReadExtent(const TSexpression& element, std::string_view name, Measure& mea
     }
 }
 
-/** Whether the mask covers vias: newer files name the covered sides, older ones have a switch for both. */
+/** Whether vias are tented: newer files name the covered sides, older ones have a switch for both. */
 bool AreViasTented(const TSexpression& setup)
 {
     if (const std::optional<TSexpression> tenting = setup.Find("tenting")) {

@@ -10,7 +10,7 @@
 
 namespace {
 
-/** Takes over a text or property that says the component's reference designator or value. */
+/** Reads a text or property that is the component's reference designator or value. */
 void ReadField(const TSexpression& field, TGraphicsPackageItem& package)
 {
     const bool isText = field.Name() == "fp_text";

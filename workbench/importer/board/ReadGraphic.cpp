@@ -37,7 +37,7 @@ std::unique_ptr<TGraphicsPenItem> Arc(const TSexpression& shape)
     return arc;
 }
 
-/** A rectangle, or what fills one. Sizes are kept in single precision, as the commands have them. */
+/** A rectangle, or a shape that fills one. Sizes are rounded to single precision, as in the commands. */
 template <class Item>
 std::unique_ptr<TGraphicsPenItem> Box(const TSexpression& shape, const QPointF& centre, const QSizeF& size)
 {
@@ -97,7 +97,7 @@ std::unique_ptr<TGraphicsPenItem> Item(const TSexpression& shape, Osmirel::Layer
     return item;
 }
 
-/** Counts what the item cannot say. */
+/** Counts attributes that the item lacks. */
 void CountLosses(const TSexpression& shape, TBoardDraft& draft)
 {
     if (!draft.NetOf(shape).isEmpty()) {

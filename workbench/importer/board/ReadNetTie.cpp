@@ -25,7 +25,7 @@ std::vector<TSexpression> Pads(const TSexpression& footprint)
     return pads;
 }
 
-/** Whether the footprint says that its pads are joined; the oldest files have only its name and keywords for that. */
+/** Whether the footprint is declared as a net tie; in the oldest files only its name and keywords tell. */
 bool JoinsNets(const TSexpression& footprint)
 {
     if (footprint.Find("net_tie_pad_groups")) {
@@ -39,7 +39,7 @@ bool JoinsNets(const TSexpression& footprint)
     return isSaidIn(footprint.Value(0).Text()) || (tags && isSaidIn(tags->Value(0).Text()));
 }
 
-/** The copper layer of a surface pad; none for one that has copper on several layers. */
+/** The copper layer of a surface pad; none for a pad with copper on several layers. */
 Osmirel::Layer CopperLayer(const TSexpression& pad, const TBoardDraft& draft)
 {
     const QList<Osmirel::Layer> layers = draft.layers.Resolve(pad.Get("layers"));
@@ -48,7 +48,7 @@ Osmirel::Layer CopperLayer(const TSexpression& pad, const TBoardDraft& draft)
     return isDrilled || copper != 1 ? Osmirel::NoLayer : *std::find_if(layers.begin(), layers.end(), Osmirel::IsCopper);
 }
 
-/** The width of the copper drawn between the pads: that of a line, or the shorter side of an area. */
+/** The width of the copper between the pads: that of a line, or the shorter side of an area. */
 double WireWidth(const TSexpression& footprint, double otherwise, const TBoardDraft& draft)
 {
     for (const TSexpression shape : footprint) {
@@ -117,7 +117,7 @@ void ElementReaders::ReadNetTie(const TSexpression& footprint, TBoardDraft& draf
     tie->SetLayer(CopperLayer(pads[0], draft));
     tie->setPos(between.center());
     tie->setRotation(-between.angle());
-    // Single precision survives any undo.
+    // Single precision is unchanged by any undo.
     tie->SetPadSize(static_cast<double>(static_cast<float>(padSize)));
     tie->SetPadDistance(between.length());
     tie->Pen().setWidthF(static_cast<double>(static_cast<float>(WireWidth(footprint, padSize, draft))));

@@ -14,7 +14,7 @@ namespace {
 
 using Measures::SceneLength;
 
-/** A hole of so many nanometres; both 0 if there is none, and different if it is oblong. */
+/** The size of a hole in nanometres; both 0 without a hole, different for an oblong hole. */
 struct TDrill
 {
     qint64 width = 0;
@@ -41,7 +41,7 @@ bool IsPlated(const TSexpression& pad)
     return !pad.Value(1).IsWord("np_thru_hole");
 }
 
-/** Whether there is nothing but a round hole: no plating, and no copper around it. */
+/** Whether the pad is only a round hole, without plating and copper. */
 bool IsBareHole(const TSexpression& pad, const TDrill& drill)
 {
     const TSexpression size = pad.Get("size");
@@ -49,7 +49,7 @@ bool IsBareHole(const TSexpression& pad, const TDrill& drill)
            && size.Value(1).Extent() <= drill.width;
 }
 
-/** Holes lie on the board by themselves, so that they can be picked and edited there. */
+/** Holes are placed on the board directly, so that they can be selected and edited there. */
 void ReadHole(const TSexpression& pad, const TDrill& drill, const TGraphicsPackageItem& package, TBoardDraft& draft)
 {
     const auto diameter = static_cast<float>(SceneLength(drill.Diameter()));
@@ -61,7 +61,7 @@ void ReadHole(const TSexpression& pad, const TDrill& drill, const TGraphicsPacka
     draft.board->Attach(std::move(hole));
 }
 
-/** The layer of a pad on one layer: its copper; else the opening that it is, of the paste or what comes first. */
+/** The layer of a single-layer pad: its copper layer; else that of its opening, paste or the first one. */
 Osmirel::Layer SurfaceLayer(const QList<Osmirel::Layer>& layers, Osmirel::Layer ofPackage)
 {
     const auto isPaste = [](Osmirel::Layer layer) {
@@ -89,7 +89,7 @@ void ApplyLayers(const TSexpression& pad, TGraphicsPadItem& item, const TFootpri
     item.SetPasteEnabled(layers.contains(Osmirel::PasteTop) || layers.contains(Osmirel::PasteBottom));
 }
 
-/** The clearances depend on the size, which must have been read. */
+/** The clearances depend on the size, which must be read first. */
 void ApplyDefaults(const TPadDefaults& defaults, TGraphicsPadItem& item, TBoardDraft& draft)
 {
     const double pasteMargin =

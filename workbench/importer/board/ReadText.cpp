@@ -17,7 +17,7 @@ QString Content(const TSexpression& atom, const TextVariables::TValues& values)
     return text == QLatin1String("~") ? QString() : TextVariables::Resolved(text, values);
 }
 
-/** All that a text says of itself but its place and its angle. */
+/** Reads all attributes of a text except its position and angle. */
 std::unique_ptr<TGraphicsTextItem> Text(const TSexpression& element, const QString& content, Osmirel::Layer layer,
                                         TBoardDraft& draft)
 {
@@ -40,7 +40,7 @@ QPolygonF BoxCorners(const TSexpression& textBox)
     return QVector<QPointF>{box.topLeft(), box.topRight(), box.bottomRight(), box.bottomLeft()};
 }
 
-/** The text and the border of a text box, in the coordinates of what it stands in. */
+/** The text and the border of a text box, in the coordinates of its parent. */
 QVector<TGraphicsItem*> TextBox(const TSexpression& textBox, const QString& content, qint64 angleOfParent,
                                 Osmirel::Layer layer, TBoardDraft& draft)
 {
@@ -77,7 +77,7 @@ TextVariables::TValues WithLayer(TextVariables::TValues values, const TSexpressi
     return values;
 }
 
-/** Takes over the texts that say the component's reference designator and value; others are drawn only. */
+/** Reads the texts that are the component's reference designator and value; others become plain texts. */
 void Place(std::unique_ptr<TGraphicsTextItem> text, const QString& kind, bool isLocked, TGraphicsPackageItem& package)
 {
     TGraphicsTextItem* item = text.release();
@@ -116,7 +116,7 @@ void ElementReaders::ReadFootprintText(const TSexpression& element, const TFootp
     const std::optional<TSexpression> at = element.Find("at");
     const bool isField = element.Name() == "property";
     if (isField && !at) {
-        return; // A property without a place is not drawn.
+        return; // A property without a position is not drawn.
     }
     const Osmirel::Layer layer = KnownLayer(element, draft);
     if (layer == Osmirel::NoLayer) {

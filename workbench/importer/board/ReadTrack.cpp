@@ -8,7 +8,7 @@
 
 namespace {
 
-/** The oldest files have a word of bits, one of which locks the track. */
+/** The oldest files have a bit field, one bit of which locks the track. */
 bool IsLockedByStatus(const TSexpression& element)
 {
     constexpr uint lockBit = 0x40000;
@@ -16,7 +16,7 @@ bool IsLockedByStatus(const TSexpression& element)
     return status && (status->Value(0).Text().toUInt(nullptr, 16) & lockBit) != 0;
 }
 
-/** What a track says besides its place. */
+/** The attributes of a track besides its position. */
 TTrack Track(const TSexpression& element, const TBoardDraft& draft)
 {
     TTrack track;

@@ -7,7 +7,7 @@
 
 namespace {
 
-/** The drill pair of the two layers between which a via goes; that through the board if it names none. */
+/** The drill pair of the two layers that a via connects; that through the whole board if it names none. */
 QString DrillPair(const TSexpression& via, TBoardDraft& draft)
 {
     Osmirel::Layer ends[] = {Osmirel::CopperTop, Osmirel::CopperBottom};
@@ -45,7 +45,7 @@ void ElementReaders::ReadVia(const TSexpression& via, TBoardDraft& draft)
     auto item = std::make_unique<TGraphicsViaItem>();
     item->SetWorkspace(draft.board->Workspace());
     item->setPos(ElementValues::Position(via.Get("at")));
-    // Commands keep a via's diameter in single precision: only a size that is one is the same again after an undo.
+    // Commands store a via's diameter in single precision: only a size rounded to that survives an undo.
     const auto diameter = static_cast<double>(static_cast<float>(Measures::SceneLength(size)));
     item->SetSize(diameter, diameter);
     item->SetDrill(static_cast<float>(Measures::SceneLength(Drill(via, net, size, draft))));

@@ -13,7 +13,7 @@
 
 namespace {
 
-/** Kept from the board's edge where neither the board nor its project says it, in nanometres. */
+/** Default clearance to the board's edge, if neither board nor project has one, in nanometres. */
 constexpr qint64 usualEdgeClearance = 250'000;
 
 double Length(const TSexpression& list, std::string_view name, double otherwise = 0)
@@ -45,7 +45,7 @@ std::unique_ptr<TGraphicsKeepoutItem> Keepout(const TSexpression& zone, const QP
     keepout->SetArea(area);
     const std::optional<TSexpression> pours = zone.Get("keepout").Find("copperpour");
     if (pours && pours->Value(0).IsWord("allowed")) {
-        // It would keep off what it lets in: it stays, and acts on no layer.
+        // Active, it would keep out the pours that it allows: it is placed, but acts on no layer.
         draft.notShown.Count("keepouts that allow pours (acting on no layer)");
     } else {
         const QList<Osmirel::Layer> layers = Layers(zone, draft);
@@ -66,14 +66,14 @@ int FillType(const std::optional<TSexpression>& fill)
     return mode && mode->Value(0).IsWord("hatch") ? Qt::CrossPattern : Qt::SolidPattern;
 }
 
-/** Which pieces of copper that touch nothing of their net are left out. */
+/** Reads which islands, copper that touches nothing of its net, are removed. */
 void ApplyIslandRemoval(const std::optional<TSexpression>& fill, TGraphicsPourItem& pour)
 {
     enum Removal : int { Always = 0, Never = 1, BelowArea = 2 };
     const std::optional<TSexpression> mode = fill ? fill->Find("island_removal_mode") : std::nullopt;
     const int removal = mode ? mode->Value(0).Integer() : Always;
     const std::optional<TSexpression> area = fill ? fill->Find("island_area_min") : std::nullopt;
-    // Of no net, all copper would be an island.
+    // Without a net, all copper would be an island.
     pour.SetOnlyConnected(removal == Always && !pour.OwnNet().isEmpty());
     pour.SetMinimumArea(removal == BelowArea && area ? area->Value(0).Decimal() : 0);
 }
@@ -117,7 +117,7 @@ std::unique_ptr<TGraphicsPourItem> Pour(const TSexpression& zone, const QPolygon
     return pour;
 }
 
-/** What a zone on a layer without copper is: a drawn area. */
+/** A zone on a layer other than copper: a polygon. */
 std::unique_ptr<TGraphicsPolygonItem> Area(const TSexpression& zone, const QPolygonF& area, Osmirel::Layer layer)
 {
     auto polygon = std::make_unique<TGraphicsPolygonItem>();
@@ -166,7 +166,7 @@ void ElementReaders::ReadFootprintZone(const TSexpression& zone, const TFootprin
         AttachPours(zone, draft);
         return;
     }
-    // A keepout goes with its package, though its corners are those on the board.
+    // A keepout moves with its package, though its corners are in board coordinates.
     const QVector<QPolygonF> outlines = Outlines(zone);
     for (const QPolygonF& area : outlines) {
         Keepout(zone, footprint.package.mapFromScene(area), draft).release()->setParentItem(&footprint.package);

@@ -15,7 +15,7 @@
 #include <optional>
 #include <vector>
 
-/** What a pad does not say itself it takes over from its footprint, and a footprint from the board. */
+/** Properties that a pad inherits from its footprint, and a footprint from the board. */
 struct TPadDefaults
 {
     qint64 maskMargin = 0;         ///< How far the mask opening reaches beyond the copper, in nanometres.
@@ -24,33 +24,33 @@ struct TPadDefaults
     std::optional<int> connection; ///< How zones connect, in the file's numbers.
 };
 
-/** Drill diameters, in nanometres, of the vias that do not say theirs. */
+/** Default drill diameters of vias, in nanometres. */
 struct TViaDrills
 {
     std::optional<qint64> via;
     std::optional<qint64> microVia;
 };
 
-/** A board in the making, and what its elements refer to while they are read. */
+/** A board under construction, and the definitions that its elements refer to while they are read. */
 struct TBoardDraft
 {
     std::unique_ptr<TBoard> board = std::make_unique<TBoard>();
     TFileLayers layers;
     QHash<int, QString> nets; ///< Names by the numbers that the file uses,
-    QStringList netNames;     ///< and in the order of the file.
+    QStringList netNames;     ///< and in file order.
     TNetSettings netSettings;
     TPadDefaults padDefaults;
     TViaDrills viaDrills;                    ///< Of the whole board,
     QHash<QString, TViaDrills> netViaDrills; ///< and of the nets whose class has its own.
-    bool viasTented = true;                  ///< The solder mask covers vias that do not say otherwise.
+    bool viasTented = true;                  ///< The solder mask covers vias by default.
     TextVariables::TValues textVariables;
-    std::vector<TTrack> tracks;    ///< To become wires when all that they can be linked to has been read.
-    std::vector<TEdgeShape> edges; ///< What the outline is made of, in the order of the file.
+    std::vector<TTrack> tracks;    ///< Become wires once everything they can be linked to has been read.
+    std::vector<TEdgeShape> edges; ///< The shapes of the outline, in file order.
     QHash<const TGraphicsItem*, QStringList> netsOfTies; ///< Which nets each net tie joins.
     QHash<const TGraphicsItem*, QString> paths;          ///< Of the symbols that packages and net ties belong to.
     TNotShown notShown;
 
-    /** The name of the drill pair of two layers, in any order; the board gets the pair if it has none yet. */
+    /** The name of the drill pair of two layers, in any order; adds the pair to the board if it is missing. */
     QString DrillPair(Osmirel::Layer one, Osmirel::Layer other);
     /** The name of the net that an element is on, by its `(net number ...)`; empty if it is on none. */
     QString NetOf(const TSexpression& element) const;

@@ -12,13 +12,13 @@ class TCopperContacts
 public:
     explicit TCopperContacts(const QVector<TGraphicsItem*>& copper);
 
-    /** The item whose copper is there, the one with the nearest centre of several; null if there is none. */
+    /** The item with copper at a place, the one with the nearest centre if there are several; null if there is none. */
     TGraphicsItem* At(const TGridPoint& place) const;
-    /** Where the items' own positions are. */
+    /** The positions of the items. */
     const QVector<TGridPoint>& Centres() const { return centres; }
 
 private:
     QHash<TGridPoint, QVector<TGraphicsItem*>> cells;
-    QVector<TGraphicsItem*> large; ///< What would fill too many cells.
+    QVector<TGraphicsItem*> large; ///< Items that would occupy too many cells.
     QVector<TGridPoint> centres;
 };

@@ -6,10 +6,11 @@
 
 class TGraphicsPackageItem;
 
-/** A shape on the layer of the board's edge, and what takes its coordinates to the scene. */
+/** A shape on the edge layer of the board, and the transformation of its coordinates to the scene. */
 struct TEdgeShape
 {
     TSexpression shape;
     QTransform toScene;
-    TGraphicsPackageItem* package = nullptr; ///< The one whose footprint it belongs to; null for one of the board.
+    TGraphicsPackageItem* package =
+        nullptr; ///< The package whose footprint has the shape; null for a shape of the board.
 };

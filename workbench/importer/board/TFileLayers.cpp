@@ -8,7 +8,7 @@
 
 namespace {
 
-/** The fixed names of layers that are not copper. A wildcard stands for the layers of both sides. */
+/** The fixed names of layers other than copper. A wildcard matches the layers of both sides. */
 constexpr std::pair<const char*, Osmirel::Layer> fixedNames[] = {
     {"F.Mask", Osmirel::MaskTop},          {"B.Mask", Osmirel::MaskBottom},      {"F.Paste", Osmirel::PasteTop},
     {"B.Paste", Osmirel::PasteBottom},     {"F.SilkS", Osmirel::SilkTop},        {"B.SilkS", Osmirel::SilkBottom},
@@ -26,7 +26,7 @@ struct TLayerStyle
     bool visible = true;
 };
 
-/** The layers that every board has besides its copper, for a dark canvas. */
+/** The layers that every board has besides its copper, with colours for a dark canvas. */
 constexpr TLayerStyle plainLayers[] = {
     {Osmirel::DrawingsTop, "F.Fab", 0x9aa5b8},
     {Osmirel::PackagesTop, "Packages top", 0xe0a080},
@@ -42,7 +42,7 @@ constexpr TLayerStyle plainLayers[] = {
     {Osmirel::Milling, "Milling", 0xb08a5a},
 };
 
-/** Those that only boards have whose file lists them. */
+/** The layers that a board has only if its file lists them. */
 constexpr TLayerStyle optionalLayers[] = {
     {Osmirel::CourtyardTop, "F.CrtYd", 0xc86ec8},   {Osmirel::CourtyardBottom, "B.CrtYd", 0x6ec8c8},
     {Osmirel::AdhesiveTop, "F.Adhes", 0xa06e8c},    {Osmirel::AdhesiveBottom, "B.Adhes", 0x6e6ea0},
@@ -57,7 +57,7 @@ constexpr int userLayers = Osmirel::User9 - Osmirel::User1 + 1;
 constexpr QRgb copperColors[Osmirel::maxCopperLayers] = {0xd9504c, 0x7cb855, 0xe39a3f, 0x45b9b4,
                                                          0xdb6fae, 0x9d7fe6, 0xbcc24e, 0x4c84dd};
 
-/** The layers of a table's row that hold copper say so by their type. */
+/** Whether a row of the layer table is a copper layer, by its type. */
 bool IsCopperRow(const TSexpression& row)
 {
     constexpr std::string_view copperTypes[] = {"signal", "power", "mixed", "jumper"};
@@ -67,8 +67,8 @@ bool IsCopperRow(const TSexpression& row)
 }
 
 /**
- * Where a copper layer lies in the board, counted from the top. Its standard name tells. A name of the user's own
- * replaces that only in the oldest files, in which the row's number tells.
+ * The position of a copper layer in the board, counted from the top: by its standard name, or by the row's number in
+ * the oldest files, where a user-defined name replaces the standard one.
  */
 int CopperPosition(const QString& name, const TSexpression& row)
 {
@@ -93,14 +93,14 @@ int CopperPosition(const QString& name, const TSexpression& row)
     return ordinal;
 }
 
-/** The user's name for a layer, which stands in its row besides the fixed one; empty for none. */
+/** The user's name for a layer, which its row has besides the fixed one; empty for none. */
 QString UserName(const TSexpression& row)
 {
     const std::optional<TSexpression> last = row.FindValue(2);
     return last && !last->IsWord("hide") ? last->Text() : QString();
 }
 
-/** Tells each layer of its counterpart on the other side. */
+/** Sets the counterpart of each layer on the other side. */
 void PairSides(TLayerManager& board)
 {
     for (const Osmirel::Layer id : board.Layers()) {

@@ -6,7 +6,7 @@
 
 #include <QHash>
 
-/** What the layer names of a file stand for: its own names of copper layers, and the fixed names of all others. */
+/** The layers by the names of a file: its own names of copper layers, and the fixed names of all others. */
 class TFileLayers
 {
 public:
@@ -16,10 +16,10 @@ public:
      * layer that the user calls "Milling" is the milling layer. */
     void Read(const TSexpression& table, TLayerManager& board);
 
-    /** The layer of that name; `Osmirel::NoLayer` for one that a board has no place for. */
+    /** The layer of that name; `Osmirel::NoLayer` for a layer that boards do not have here. */
     Osmirel::Layer Find(const QString& name) const { return layers.value(name, Osmirel::NoLayer); }
 
-    /** The layers that a list names or its wildcards stand for, from the top down; unknown names are left out. */
+    /** The layers that a list names or its wildcards match, from the top down; unknown names are skipped. */
     QList<Osmirel::Layer> Resolve(const TSexpression& list) const;
 
 private:

@@ -4,8 +4,7 @@
 
 class TGraphicsPackageItem;
 
-/** What the elements of a footprint take from it: they lie in its coordinates, but their angles are those of the board.
- */
+/** The coordinate frame of a footprint's elements: positions are relative to it, angles to the board. */
 struct TFootprintFrame
 {
     TGraphicsPackageItem& package;

@@ -6,7 +6,7 @@
 
 #include <QString>
 
-/** A straight piece of track as the file has it, or as it was cut from one. */
+/** A straight piece of track from the file, or a part cut from one. */
 struct TTrack
 {
     TGridPoint start;

@@ -15,7 +15,7 @@ double Distance(const TGridPoint& one, const TGridPoint& other)
     return std::hypot(static_cast<double>(one.x - other.x), static_cast<double>(one.y - other.y));
 }
 
-/** The place on a track's middle line that is nearest to another. */
+/** The point on a track's centre line that is nearest to another. */
 TGridPoint Foot(const TTrack& track, const TGridPoint& place)
 {
     const auto dx = static_cast<double>(track.end.x - track.start.x);
@@ -30,7 +30,7 @@ TGridPoint Foot(const TTrack& track, const TGridPoint& place)
     return {track.start.x + std::llround(share * dx), track.start.y + std::llround(share * dy)};
 }
 
-/** Whether a place is between the ends of a track, and not at one of them. */
+/** Whether a point is strictly between the ends of a track. */
 bool IsBetweenEnds(const TTrack& track, const TGridPoint& place)
 {
     return Distance(place, track.start) > onMiddleLine && Distance(place, track.end) > onMiddleLine;
@@ -113,7 +113,7 @@ void TTrackGroup::FindContacts()
 
 QVector<TGridPoint> TTrackGroup::LooseEnds() const
 {
-    QHash<TGridPoint, int> met; // A track of no length meets nothing by having both its ends there.
+    QHash<TGridPoint, int> met; // A track of zero length does not count as two tracks meeting.
     for (const TTrackPiece& piece : pieces) {
         ++met[piece.track.start];
         if (piece.track.end != piece.track.start) {

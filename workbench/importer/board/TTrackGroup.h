@@ -6,22 +6,22 @@
 
 #include <vector>
 
-/** A track, or what was cut from one, between two places at which its ends meet others. */
+/** A track, or a part cut from one, between two nodes at which its ends meet others. */
 struct TTrackPiece
 {
     TTrack track;
     int source = 0;       ///< Which of the file's tracks it comes from.
-    TGridPoint startNode; ///< The end itself, unless it lies beside what it meets.
+    TGridPoint startNode; ///< The end itself, unless it is beside what it meets.
     TGridPoint endNode;
 };
 
 /**
- * The tracks of one net on one layer, which can only meet each other. It cuts them where others end on them, and says
- * what they meet at their ends.
+ * The tracks of one net on one layer, which can only meet each other. Cuts them where others end on them, and
+ * determines what they meet at their ends.
  *
- * A track is cut where another one ends, or a via or a pad has its centre, on its middle line or within a micrometre of
- * it. An end that so far meets nothing joins the copper of a track that it lies on anywhere, unless the two hang
- * together already: tracks that are shorter than wide lie on each other.
+ * A track is cut where another one ends, or a via or a pad has its centre, on its centre line or within a micrometre of
+ * it. An end that then still meets nothing is joined to a track whose copper it lies on, unless the two are already
+ * connected: tracks shorter than their width overlap.
  */
 class TTrackGroup
 {
@@ -40,7 +40,7 @@ public:
 private:
     struct TTouch
     {
-        double distance = 0; ///< From the middle line, in nanometres.
+        double distance = 0; ///< From the centre line, in nanometres.
         std::size_t piece = 0;
         TGridPoint foot;
     };
@@ -50,7 +50,7 @@ private:
     void JoinLooseEnds();
     QHash<TGridPoint, TTouch> TouchesOf(const TPlaceGrid& loose) const;
     QVector<TGridPoint> LooseEnds() const;
-    /** A number for each piece, the same for those that hang together. */
+    /** A number for each piece, equal for connected pieces. */
     std::vector<int> Islands() const;
     void Cut(std::vector<QVector<TGridPoint>>& places);
     void JoinNodes(const TGridPoint& node, const TGridPoint& with);

@@ -17,7 +17,7 @@ QRectF SquareAround(const QPointF& centre, double radius)
 
 std::optional<ArcPath::TArc> ArcPath::Through(const QPointF& start, const QPointF& middle, const QPointF& end)
 {
-    // The centre, seen from the start, is as far from the start as from the two other points.
+    // Relative to the start, the centre is equidistant from the start and both other points.
     const QPointF toMiddle = middle - start;
     const QPointF toEnd = end - start;
     const double cross = toMiddle.x() * toEnd.y() - toMiddle.y() * toEnd.x();

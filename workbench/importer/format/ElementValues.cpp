@@ -14,7 +14,7 @@ constexpr std::pair<const char*, char> writtenOutCharacters[] = {
     {"space", ' '}, {"dollar", '$'},     {"tab", '\t'},   {"return", '\n'},
 };
 
-/** Braces behind these characters mark up text: `~{RESET}` has a bar above it. */
+/** Braces after these characters mark up text: `~{RESET}` has an overbar. */
 bool MarksUp(QChar character)
 {
     return QLatin1String("~$^_").contains(character);

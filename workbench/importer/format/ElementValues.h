@@ -6,10 +6,10 @@
 class TSexpression;
 struct TGridPoint;
 
-/** What elements of many kinds have in common. */
+/** Values shared by elements of many kinds. */
 namespace ElementValues {
 
-/** The place that a list such as `(at x y ...)` names. */
+/** The position in a list such as `(at x y ...)`. */
 TGridPoint GridPoint(const TSexpression& list);
 
 /** The same in scene units. */
@@ -18,13 +18,13 @@ QPointF Position(const TSexpression& list);
 /** The angle that ends `(at x y [angle])`, counterclockwise, in millionths of a degree; 0 if there is none. */
 qint64 Angle(const TSexpression& at);
 
-/** A name of the user's, with the written-out characters such as `{slash}` as themselves; a lone `~` is empty. */
+/** A user-defined name, with escapes such as `{slash}` resolved; a lone `~` is empty. */
 QString UserName(const TSexpression& atom);
 
-/** The same for a name that stands elsewhere than in the board file. */
+/** The same for a name that is not from the board file. */
 QString WithoutWrittenOutCharacters(QString name);
 
-/** A footprint's name with its library behind an at sign, where the file has it in front of a colon. */
+/** A footprint's name with its library after an at sign; the file has it before a colon. */
 QString PackageName(const QString& libraryName);
 
 /** Whether a list such as `(tenting front back)` or `(tenting (front yes) (back no))` names both sides. */

@@ -59,9 +59,9 @@ QPainterPath PolygonPath(const TSexpression& polygon)
 
 struct TShapeKind
 {
-    std::string_view name; ///< Without the prefix that says where it is drawn.
+    std::string_view name; ///< Without the prefix for the parent.
     QPainterPath (*path)(const TSexpression&);
-    bool isArea; ///< Has an inside that can be filled.
+    bool isArea; ///< Whether it has an inside that can be filled.
 };
 
 constexpr TShapeKind shapeKinds[] = {
@@ -113,7 +113,7 @@ std::optional<ArcPath::TArc> ShapeValues::Arc(const TSexpression& arc)
     const QPointF start = Point(arc, "start");
     const QPointF end = Point(arc, "end");
     if (const std::optional<TSexpression> clockwise = arc.Find("angle")) {
-        const QLineF toStart(start, end); // From the centre to where it begins.
+        const QLineF toStart(start, end); // From the centre to the start.
         return ArcPath::TArc{start, toStart.length(), toStart.angle(), -clockwise->Value(0).Decimal()};
     }
     return ArcPath::Through(start, Point(arc, "mid"), end);
@@ -181,7 +181,7 @@ Qt::BrushStyle ShapeValues::FillStyle(const TSexpression& shape)
 
 QPolygonF ShapeValues::Corners(const QPainterPath& path)
 {
-    // The toolkit makes curves straight to within half a unit of what it draws: here, of a micrometre or so.
+    // The toolkit flattens curves to within half a unit: here about a micrometre.
     constexpr double fineness = 40;
     const QList<QPolygonF> polygons = path.toSubpathPolygons(QTransform::fromScale(fineness, fineness));
     const QPolygonF corners = polygons.value(0);

@@ -5,7 +5,7 @@
 
 #include <utility>
 
-/** A place on the file's own grid, in nanometres: equal places are the same however they were computed. */
+/** A point on the file's grid, in integer nanometres, so that equality is exact. */
 struct TGridPoint
 {
     qint64 x = 0;

@@ -12,10 +12,10 @@ public:
         : std::runtime_error(cause.toStdString()), line(atLine), file(inFile)
     {}
 
-    /** The line of the file, from 1; 0 if the cause lies in no line. */
+    /** The line of the file, from 1; 0 if the cause is not in a line. */
     int Line() const { return line; }
     QString Cause() const { return QString::fromUtf8(what()); }
-    /** The file, where one of several is read; else empty. */
+    /** The file, if several are read; else empty. */
     const QString& File() const { return file; }
 
 private:
@@ -23,7 +23,7 @@ private:
     QString file;
 };
 
-/** Does a step of reading a file, whose errors then name that file unless they name one already. */
+/** Performs a step of reading a file; its errors then name that file unless they already name one. */
 template <class Step>
 auto InFile(const QString& file, const Step& step)
 {

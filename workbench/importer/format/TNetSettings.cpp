@@ -13,8 +13,7 @@
 
 namespace {
 
-/** Such as "rgba(0, 132, 0, 1.000)" or "rgb(0, 132, 0)"; one that cannot be seen through is none, and so is any other
- * text. */
+/** Such as "rgba(0, 132, 0, 1.000)" or "rgb(0, 132, 0)"; invalid for other texts and full transparency. */
 QColor Color(const QString& text)
 {
     static const QRegularExpression pattern(
@@ -59,7 +58,7 @@ void TNetSettings::AssignPattern(const QString& pattern, const QString& netClass
         Assign(ElementValues::WithoutWrittenOutCharacters(pattern), netClass);
         return;
     }
-    // A net's name has slashes in it, which the toolkit's own wildcards would not match.
+    // Net names contain slashes, which the toolkit's wildcards do not match.
     QString expression = QRegularExpression::escape(pattern);
     expression.replace(QStringLiteral("\\*"), QStringLiteral(".*")).replace(QStringLiteral("\\?"), QStringLiteral("."));
     patterns.append({QRegularExpression(QRegularExpression::anchoredPattern(expression)), netClass});

@@ -20,21 +20,21 @@ class TNetSettings
 {
 public:
     void AddClass(const QString& name);
-    /** Puts a net into a class. Of several classes that claim a net the first one has it. */
+    /** Assigns a net to a class. If several classes claim a net, the first one wins. */
     void Assign(const QString& net, const QString& netClass);
 
     /**
-     * Takes over what a project file says of nets, and the clearance that copper keeps from the board's edge. Returns
-     * what is wrong with the text, in which case nothing is taken over; empty if all is well.
+     * Reads the nets of a project file, and the clearance of copper to the board's edge. Returns the error in the text,
+     * in which case nothing is read; empty on success.
      */
     QString ReadProject(const QByteArray& json);
 
     QString ClassOf(const QString& net) const;
     const QStringList& Classes() const { return classes; }
-    /** In nanometres, if the project says it. */
+    /** In nanometres, if the project has it. */
     std::optional<qint64> EdgeClearance() const { return edgeClearance; }
 
-    /** Gives a schematic the classes, and its net model the nets of these names. */
+    /** Adds the classes to a schematic, and the nets of these names to its net model. */
     void Fill(TSchematic& schematic, const QStringList& nets) const;
 
 private:
@@ -42,7 +42,7 @@ private:
 
     QStringList classes;
     QHash<QString, QString> classOfNet;
-    QVector<QPair<QRegularExpression, QString>> patterns; ///< Of nets, with the class that they put them into.
+    QVector<QPair<QRegularExpression, QString>> patterns; ///< Patterns of net names, with the class of the nets.
     QHash<QString, QColor> colorOfNet;
     QHash<QString, QColor> boardColorOfClass;
     QHash<QString, QColor> schematicColorOfClass;

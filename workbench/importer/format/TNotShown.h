@@ -4,13 +4,13 @@
 #include <QPair>
 #include <QString>
 
-/** Counts what a file holds and the board does not, by kinds that are named in the words of the user. */
+/** Counts the elements of a file that the design lacks, by kinds with names for users. */
 class TNotShown
 {
 public:
     void Count(const char* kind, int count = 1);
 
-    /** The kinds, in the order in which the file brought them up, with their counts. */
+    /** The kinds with their counts, in order of first occurrence in the file. */
     const QList<QPair<QString, int>>& Kinds() const { return kinds; }
 
 private:

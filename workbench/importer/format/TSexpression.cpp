@@ -9,7 +9,7 @@
 
 namespace {
 
-/** An atom as it is quoted in a message. */
+/** An atom as quoted in a message. */
 QString Shown(std::string_view characters)
 {
     constexpr std::size_t longestShown = 40;
@@ -26,7 +26,7 @@ int DigitValue(char character)
     return value;
 }
 
-/** Reads the digits of a numeric escape, moves on behind them, and gives the byte that they name. */
+/** Reads the digits of a numeric escape, advances past them, and returns the byte. */
 char NumberedByte(std::string_view::const_iterator& at, std::string_view::const_iterator end, int base, int mostDigits)
 {
     int byte = 0;

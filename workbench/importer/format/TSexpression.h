@@ -12,21 +12,21 @@ class TSexpression;
 
 /**
  * The tree of a parenthesised text: one list of atoms and further lists. It holds the text, and nodes that point
- * into it, in the order in which they begin.
+ * into it, in order of their beginnings.
  */
 class TSexpressionTree
 {
 public:
-    /** Lists that lie deeper in each other than this are refused. */
+    /** Lists that are nested deeper than this are refused. */
     static constexpr int maxDepth = 100;
 
-    /** Called with the part of the text that is behind, in percent, each time that it has grown. */
+    /** Called with the part of the text that is parsed, in percent, whenever it has grown. */
     using TProgress = std::function<void(int percent)>;
 
-    /** Parses a text. Throws `TImportError` unless it is exactly one list, with all that it opens closed. */
+    /** Parses a text. Throws `TImportError` unless it is exactly one list with balanced parentheses. */
     explicit TSexpressionTree(const QByteArray& parsedText, const TProgress& progress = {});
 
-    /** The list that the whole text is. It and all that is reached from it lives as long as the tree. */
+    /** The root list. It, and everything reached from it, is valid as long as the tree. */
     TSexpression Root() const;
 
 private:
@@ -38,8 +38,8 @@ private:
     struct TNode
     {
         quint32 begin;  ///< Where an atom's characters begin in the text, without the quotes.
-        quint32 length; ///< How many there are, escapes not yet resolved.
-        quint32 end;    ///< Index of the first node behind this one and all that it holds.
+        quint32 length; ///< Their number, with unresolved escapes.
+        quint32 end;    ///< Index of the first node after this one and its descendants.
         qint32 line;
         Kind kind;
     };
@@ -50,8 +50,7 @@ private:
 
 /**
  * An atom or a list of a tree, to be passed by value. A list's leading word is its name; what follows are its values,
- * counted from 0. What kind of value an atom is only its reader knows: reading one as what it is not throws
- * `TImportError`.
+ * counted from 0. Atoms are untyped: reading one as a type that it does not have throws `TImportError`.
  */
 class TSexpression
 {
@@ -74,7 +73,7 @@ public:
     bool IsList() const { return Node().kind == TSexpressionTree::Kind::List; }
     /** Whether it is this unquoted atom. */
     bool IsWord(std::string_view word) const;
-    /** The name of a list; empty for an atom, and for a list that begins with anything but a word. */
+    /** The name of a list; empty for an atom, and for a list that does not begin with a word. */
     std::string_view Name() const;
     int Line() const { return Node().line; }
 
@@ -90,8 +89,7 @@ public:
     std::optional<TSexpression> Find(std::string_view name) const;
     TSexpression Get(std::string_view name) const;
 
-    /** Whether a flag is set: a bare word among the values, from the one at @p from on, or a list that does not deny
-     * it. */
+    /** Whether a flag is set: a bare word among the values from index @p from on, or a list that does not negate it. */
     bool HasFlag(std::string_view flag, int from = 0) const;
 
     /** The atom with its escapes resolved. */
@@ -102,7 +100,7 @@ public:
     double Decimal() const;
     /** The atom, as a number of millimetres or degrees, in millionths; at most 10 000 of the unit. */
     qint64 Millionths() const;
-    /** The same for measures that cannot be negative. */
+    /** The same for measures that must not be negative. */
     qint64 Extent() const;
 
     /** Throws a `TImportError` of this line. */
@@ -110,9 +108,9 @@ public:
 
 private:
     const TSexpressionTree::TNode& Node() const { return tree->nodes[index]; }
-    /** The characters of an atom as they stand in the text. */
+    /** The raw characters of an atom. */
     std::string_view Characters() const;
-    /** The same, where an atom is due. */
+    /** The same; an error unless it is an atom. */
     std::string_view Atom() const;
     [[noreturn]] void FailToBe(const char* what) const;
 

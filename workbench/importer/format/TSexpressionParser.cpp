@@ -11,7 +11,7 @@ constexpr bool IsSpace(char character)
     return character == ' ' || character == '\n' || character == '\t' || character == '\r';
 }
 
-/** Control characters have no place in these files: where one stands, something else than text is being read. */
+/** Control characters are invalid in these files: the input is probably not text. */
 constexpr bool IsControl(char character)
 {
     return static_cast<unsigned char>(character) < ' ';

@@ -3,7 +3,7 @@
 #include "workbench/importer/format/TSexpression.h"
 
 /**
- * Cuts a text into words, quoted texts and lists, in one pass and without recursion. A word ends at white space or at
+ * Parses a text into words, quoted texts and lists, in one pass and without recursion. A word ends at white space or at
  * a parenthesis and has no escapes; a quoted text ends on the line on which it begins.
  */
 class TSexpressionParser
@@ -29,7 +29,7 @@ private:
     const char* at;
     qint32 line = 1;
     std::vector<TSexpressionTree::TNode>& nodes;
-    std::vector<quint32> open; ///< The nodes of the lists that are not closed yet, outermost first.
+    std::vector<quint32> open; ///< The nodes of the open lists, outermost first.
     const TSexpressionTree::TProgress& progress;
     int reported = 0;
 };

@@ -9,7 +9,7 @@ namespace {
 
 constexpr double usualHeight = 1'000'000; // Nanometres.
 
-/** The text is centred both ways where the file does not say otherwise. */
+/** The text is centred in both directions by default. */
 int Alignment(const std::optional<TSexpression>& justify)
 {
     const auto isSaid = [&justify](std::string_view side) { return justify && justify->HasFlag(side); };
@@ -29,7 +29,7 @@ void ApplyFont(const TSexpression& font, TGraphicsTextItem& text)
     const std::optional<TSexpression> thickness = font.Find("thickness");
     const auto height = size ? static_cast<double>(size->Value(0).Extent()) : usualHeight;
     const bool isBold = font.HasFlag("bold");
-    // Where the stroke has no width of its own, it is this part of the height.
+    // The default stroke width, as a fraction of the height.
     const double usualThickness = height / (isBold ? 5 : 8);
     const double width = thickness ? static_cast<double>(thickness->Value(0).Extent()) : usualThickness;
     text.Font().setPixelSize(std::max(1, qRound(Measures::SceneLength(std::llround(height)))));

@@ -4,16 +4,16 @@
 
 #include <graphics/TGraphicsTextItem.h>
 
-/** What texts of boards and sheets say of how they look. */
+/** The appearance of texts of boards and sheets. */
 namespace TextEffects {
 
-/** Takes over the font and the alignment of an element's `effects`, and lays the text out. */
+/** Applies the font and the alignment of an element's `effects`, and lays the text out. */
 void Apply(const TSexpression& element, TGraphicsTextItem& text);
 
-/** Whether the element or its effects say so, the element from one of its values on. */
+/** Whether the element is hidden, by a flag among its values from one on, or by one in its effects. */
 bool IsHidden(const TSexpression& element, int from);
 
-/** Where a text box has its text: at the side, or in the middle, as the text is aligned. */
+/** The position of the text in a text box, by its alignment. */
 QPointF AnchorIn(const QRectF& box, int alignment);
 
 } // namespace TextEffects

@@ -5,21 +5,21 @@
 
 class TSexpression;
 
-/** Names in texts that stand for other texts: `${REFERENCE}`, and in the oldest files `%R`. */
+/** Variables in texts: `${REFERENCE}`, and in the oldest files `%R`. */
 namespace TextVariables {
 
 using TValues = QHash<QString, QString>;
 
-/** Those that a board's title block gives. */
+/** The variables of a board's title block. */
 TValues OfTitleBlock(const TSexpression& titleBlock);
 
-/** Those that a project file gives; none if it cannot be read. */
+/** The variables of a project file; none if it cannot be read. */
 TValues OfProject(const QByteArray& json);
 
-/** Those that a footprint gives: its fields and its name. */
+/** The variables of a footprint: its fields and its name. */
 TValues OfFootprint(const TSexpression& footprint);
 
-/** The text with all known names replaced; unknown ones stay as they are. */
+/** The text with all known variables replaced; unknown ones are kept. */
 QString Resolved(const QString& text, const TValues& values);
 
 } // namespace TextVariables

@@ -11,7 +11,7 @@
 
 namespace {
 
-/** What the elements that are not read are called. */
+/** The names of unsupported elements for users. */
 const char* KindName(const TSexpression& element)
 {
     constexpr std::pair<std::string_view, const char*> kinds[] = {
@@ -27,7 +27,7 @@ const char* KindName(const TSexpression& element)
     return known == std::end(kinds) ? "other elements" : known->second;
 }
 
-/** What the names in the texts of one page stand for. */
+/** The variables in the texts of one page. */
 TextVariables::TValues PageVariables(const TSheetPage& page, const TSchematicDraft& draft)
 {
     TextVariables::TValues values = draft.variables;

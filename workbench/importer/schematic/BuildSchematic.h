@@ -8,6 +8,6 @@ QHash<QString, quint16> NumberComponents(const TSheetHierarchy& hierarchy);
 /** The names of a design's nets, sorted, each once. */
 QStringList NetNames(const TSheetHierarchy& hierarchy);
 
-/** Makes the pages with their items, and the entries of the components. The schematic has its nets already. Throws
- * `TImportError`, with the file. */
+/** Creates the pages with their items, and the entries of the components. The schematic must already have its nets.
+ * Throws `TImportError`, with the file. */
 void BuildSchematic(TSchematicDraft& draft);

@@ -26,7 +26,7 @@ QStringList VectorNets(const QString& name)
     return nets;
 }
 
-/** The prefix and the content of `PREFIX{...}`. Braces behind some characters mark up text instead. */
+/** The prefix and the content of `PREFIX{...}`. Braces after some characters mark up text instead. */
 bool SplitGroup(const QString& name, QString& prefix, QString& content)
 {
     const int open = name.indexOf(QLatin1Char('{'));

@@ -16,16 +16,16 @@ namespace {
 
 using LinkEnd = TGraphicsItem::LinkEnd;
 
-/** A line of the file, or what was cut from one. */
+/** A line of the file, or a part cut from one. */
 struct TPiece
 {
     TGridPoint places[2];
-    int source = 0;        ///< Which of the file's lines it is from.
-    bool isTurned = false; ///< Its item begins where it ends.
+    int source = 0;        ///< The index of its line in the file.
+    bool isTurned = false; ///< Its item runs from its end to its start.
     TGraphicsSectionItem* item = nullptr;
 };
 
-/** Cuts lines where others meet them, and notes where the pieces end. */
+/** Cuts lines where others meet them, and records the ends of the pieces. */
 std::vector<TPiece> Cut(const std::vector<TSheetLine>& lines, TConnectionPoints& connectionPoints)
 {
     const TLineFinder finder(lines);
@@ -59,7 +59,7 @@ std::vector<TPiece> Cut(const std::vector<TSheetLine>& lines, TConnectionPoints&
     return pieces;
 }
 
-/** Turns pieces so that wherever two meet the one ends and the other begins. */
+/** Orients pieces so that wherever two meet one ends and the other begins. */
 void TurnHeadToTail(std::vector<TPiece>& pieces, TConnectionPoints& connectionPoints)
 {
     const auto next = [&](const TConnectionPoint::TEnd& leaving) -> std::optional<TConnectionPoint::TEnd> {
@@ -212,7 +212,7 @@ private:
         return added;
     }
 
-    /** Links ends with each other, over a junction if there is one or if they are more than two. */
+    /** Links ends with each other, through a junction if there is one or if there are more than two ends. */
     void LinkEnds(const TConnectionPoint& point, std::vector<TPiece>& pieces, Osmirel::Layer layer, const QString& net)
     {
         if (point.IsBend()) {
@@ -270,7 +270,7 @@ private:
         }
     }
 
-    /** Links two items that lie on one place, and cannot be linked otherwise, by a wire without length. */
+    /** Links two items at one point that cannot be linked otherwise, by a wire of zero length. */
     void AddLink(TGraphicsItem* one, TGraphicsItem* other, const TGridPoint& place, const QString& net)
     {
         auto wire = std::make_unique<TGraphicsNetItem>();
@@ -284,8 +284,8 @@ private:
         added->LinkToLast(other);
     }
 
-    /** Pins on one place are linked: those of a symbol with the first one, and others each with each. Those that get no
-     *  net from a wire or a port know it themselves. */
+    /** Links pins at one point: all with the first one, and pins of different symbols pairwise. Pins that get no net from
+     *  a wire or a port store it themselves. */
     static void LinkPins(const TConnectionPoint& point)
     {
         const bool hasPort = std::any_of(point.pins.begin(), point.pins.end(),

@@ -10,7 +10,7 @@ class TGraphicsPenItem;
 class TGraphicsPinItem;
 class TGraphicsTextItem;
 
-/** A page in the making. */
+/** A page under construction. */
 struct TPageDraft
 {
     const TSheetPage& page;
@@ -20,45 +20,45 @@ struct TPageDraft
     TConnectionPoints busMeetings;      ///< and where buses can.
 };
 
-/** The items of a page, one function for each kind. What can be linked is noted at its place. */
+/** The items of a page, one function for each kind. Items that can be linked are recorded at their positions. */
 namespace PageItems {
 
 void AddParts(TPageDraft& page, TSchematicDraft& draft);
 void AddPorts(TPageDraft& page, TSchematicDraft& draft);
-/** The ports that stand for a power symbol, one for each pin. */
+/** The ports for a power symbol, one for each pin. */
 void AddPowerPorts(const TPageSymbol& symbol, TPageDraft& page, TSchematicDraft& draft);
 /** The boxes of other sheets, without their pins. */
 void AddBoxes(TPageDraft& page);
-/** Local labels, which are texts: their nets are those of the wires. */
+/** Local labels, which become texts: the wires have their nets. */
 void AddLabels(TPageDraft& page);
 void AddGraphics(TPageDraft& page, TSchematicDraft& draft);
 void AddNoConnects(TPageDraft& page);
 
-/** Makes net wires, buses, entries and junctions, and links all that meets: to be called last. */
+/** Creates net wires, buses, entries and junctions, and links everything that meets: to be called last. */
 void LinkPage(TPageDraft& page, TSchematicDraft& draft);
 
-/** Whether a symbol is no more than two pins that are joined on purpose. */
+/** Whether a symbol is a net tie: two pins that are joined on purpose. */
 bool IsNetTie(const TPageSymbol& symbol);
 
-/** Whether a symbol stands for the nets of its pins, and becomes ports. */
+/** Whether a symbol only names the nets of its pins, and becomes ports. */
 bool IsPort(const TPageSymbol& symbol);
 
-/** What parts of one component have in common; empty for symbols that are no components. */
+/** The key shared by all parts of one component; empty for symbols that are not components. */
 QString ComponentKey(const TPageSymbol& symbol);
 
-/** Where a place of the file is drawn. */
+/** The scene position of a point of the file. */
 using TMap = std::function<TGridPoint(const TGridPoint&)>;
 
-/** A drawing of a sheet or of a symbol; null for what is none. */
+/** A primitive of a sheet or of a symbol; null for other elements. */
 std::unique_ptr<TGraphicsPenItem> Shape(const TSexpression& element, const TMap& map);
 
 /**
- * A text that lies in a symbol which is turned: its content, and its alignment and angle as they are drawn, upright or
- * to be read from the right. The place is left to the caller.
+ * A text in a rotated symbol: its content, and its alignment and angle as drawn, upright or to be read from the right.
+ * The caller sets its position.
  */
 std::unique_ptr<TGraphicsTextItem> Text(const TSexpression& element, const QString& content, int quarters,
                                         const TSymbolFrame& frame);
-/** Clockwise degrees of a step along one of the axes, as an item is rotated to lie along it. */
+/** The rotation, in clockwise degrees, that aligns an item with a step along one of the axes. */
 double RotationAlong(const TGridPoint& step);
 
 } // namespace PageItems

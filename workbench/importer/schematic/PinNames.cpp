@@ -4,7 +4,7 @@
 
 namespace {
 
-/** The first format in which the value of a power symbol, and not its pin, says the net. */
+/** The first format in which the value of a power symbol, not its pin, names the net. */
 constexpr int valueNamesNet = 20230121;
 
 bool HasNameAlone(const PinNames::TPinOnNet& on)
@@ -15,7 +15,7 @@ bool HasNameAlone(const PinNames::TPinOnNet& on)
            == 1;
 }
 
-/** The pin as the net's name shows it. */
+/** The pin in the name of a net. */
 QString ShownPin(const PinNames::TPinOnNet& on, bool isAlone)
 {
     QString pad = QStringLiteral("Pad") + on.pin->pin->number;

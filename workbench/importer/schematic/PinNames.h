@@ -4,10 +4,10 @@
 
 #include <QVector>
 
-/** Names of nets that come from pins. */
+/** Net names that come from pins. */
 namespace PinNames {
 
-/** The net that a pin names for the whole design; empty for a pin that names none. */
+/** The global net that a pin names; empty for a pin that names none. */
 QString PowerNet(const TPageSymbol& symbol, const TPagePin& pin, int version);
 
 struct TPinOnNet
@@ -17,10 +17,10 @@ struct TPinOnNet
     int version; ///< Of the sheet's format.
 };
 
-/** The names of power pins on a net that has another name: boards that were made with an older version have these. */
+/** The names of power pins on a net that has another name: boards from older versions have these names. */
 QStringList OtherNames(const QVector<TPinOnNet>& pins, const QString& name);
 
-/** The name of a net that only its pins can give one; empty if there is none that can. */
+/** The name of an unlabelled net, made of one of its pins; empty if no pin can name it. */
 QString UnnamedNet(const QVector<TPinOnNet>& pins);
 
 } // namespace PinNames

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr std::size_t mostPages = 255; // As many as a schematic can have.
+constexpr std::size_t mostPages = 255; // The limit of a schematic.
 
 class THierarchyReader
 {
@@ -93,7 +93,7 @@ private:
         hierarchy.pages.push_back(std::move(page));
     }
 
-    /** The number that newer files have in the box, for the path to it, and older ones in the root sheet. */
+    /** The page number, which newer files have in the box, by its path, and older ones in the root sheet. */
     QString PageNumber(const TSheetBox& box, const TSheetPage& page) const
     {
         if (const std::optional<TSexpression> path =
@@ -113,7 +113,7 @@ private:
         return path;
     }
 
-    /** What an element says of itself where its sheet is reached by these uuids. A file may be in several projects. */
+    /** The instance data of an element for the sheet with this path of uuids. A file may be in several projects. */
     std::optional<TSexpression> InstancePath(const TSexpression& element, const QStringList& uuids) const
     {
         const std::optional<TSexpression> instances = element.Find("instances");
@@ -146,7 +146,7 @@ private:
         for (std::size_t i = 0; i < order.size(); ++i) {
             order[i] = static_cast<int>(i);
         }
-        // The root stays in front whatever its number is.
+        // The root is first, whatever its number.
         std::stable_sort(order.begin() + 1, order.end(), [&](int one, int other) {
             return allNumbered ? pages[Index(one)].number.toInt() < pages[Index(other)].number.toInt()
                                : IsInFrontOf(Index(one), Index(other));
@@ -162,7 +162,7 @@ private:
         pages = std::move(sorted);
     }
 
-    /** Where pages have no numbers, each is followed by those below it. */
+    /** Without page numbers, each page is followed by those below it. */
     bool IsInFrontOf(std::size_t one, std::size_t other) const
     {
         const std::vector<int> wayToOne = Way(one);

@@ -56,7 +56,7 @@ Pin::TypePinLength LengthClass(qint64 nanometres)
         std::clamp<qint64>((nanometres + step / 2) / step, Pin::LengthZero, Pin::LengthLong));
 }
 
-/** Everything of a pin but its place, which depends on what it is a part of. */
+/** Reads a pin except its position, which depends on its parent. */
 TGraphicsPinItem* AddPin(const TPagePin& pin, const TLibrarySymbol& library, TGraphicsItem& parent,
                          TSchematicDraft& draft)
 {
@@ -181,7 +181,8 @@ private:
     TGraphicsTextItem* FieldText(const TSymbolField& field, const TSexpression& at, const QString& content)
     {
         std::unique_ptr<TGraphicsTextItem> text = PageItems::Text(field.element, content, Quarters(at), placed.frame);
-        const TGridPoint place = ElementValues::GridPoint(at); // On the sheet, though the angle is the symbol's.
+        const TGridPoint place =
+            ElementValues::GridPoint(at); // In sheet coordinates, though the angle is relative to the symbol.
         text->setPos(Measures::ScenePoint({place.x - placed.frame.origin.x, place.y - placed.frame.origin.y}));
         text->setParentItem(part.get());
         return text.release();
@@ -208,7 +209,7 @@ private:
     std::unique_ptr<TGraphicsPartItem> part;
 };
 
-/** A net tie lies between its pins, along the line from the first to the second. */
+/** A net tie is placed between its pins, along the line from the first to the second. */
 void AddNetTie(const TPageSymbol& symbol, TPageDraft& page, TSchematicDraft& draft)
 {
     const TPagePin& first = symbol.pins[0];
@@ -253,7 +254,7 @@ QString PageItems::ComponentKey(const TPageSymbol& symbol)
     if (symbol.reference.startsWith(QLatin1Char('#')) || IsPort(symbol)) {
         return {};
     }
-    // Components that have got no designator yet are not all the same.
+    // Components without a designator are not all the same one.
     const bool isNamed = !symbol.reference.isEmpty() && !symbol.reference.endsWith(QLatin1Char('?'));
     return isNamed ? symbol.reference : symbol.path;
 }

@@ -27,12 +27,12 @@ Port::TypePortShape PortShape(const QString& word)
 struct TPortPlace
 {
     TGridPoint place;
-    TGridPoint along; ///< The step on the sheet in which the port lies.
+    TGridPoint along; ///< The direction of the port on the sheet.
     Port::TypePortShape shape = Port::ShapePassive;
     bool showsName = true;
 };
 
-/** A port names a net; where buses are, it bears the bus's name and is on no net. */
+/** A port names a net; on a bus, it has the bus's name and no net. */
 void AddPort(const TPortPlace& at, const QString& name, bool isOnNet, TPageDraft& page, TSchematicDraft& draft)
 {
     auto port = std::make_unique<TGraphicsPortItem>();
@@ -47,7 +47,7 @@ void AddPort(const TPortPlace& at, const QString& name, bool isOnNet, TPageDraft
     page.target.Attach(std::move(port));
 }
 
-/** @p turns more quarters than the label says, counterclockwise, is where the port lies. */
+/** The port is rotated by @p turns more quarters counterclockwise than the label. */
 void AddLabelPort(const TSheetLabel& label, const QString& shape, int turns, int net, TPageDraft& page,
                   TSchematicDraft& draft)
 {
@@ -81,7 +81,7 @@ void PageItems::AddPorts(TPageDraft& page, TSchematicDraft& draft)
             AddLabelPort(label, shape ? shape->Value(0).Text() : QString(), 0, page.page.labelNets[i], page, draft);
         }
     }
-    constexpr int inwards = 2; // A pin says on which edge of its box it is; it lies inside.
+    constexpr int inwards = 2; // A pin's angle is that of its box edge; the port extends to the inside.
     for (std::size_t box = 0; box < file.boxes.size(); ++box) {
         for (std::size_t i = 0; i < file.boxes[box].pins.size(); ++i) {
             const TSheetLabel& pin = file.boxes[box].pins[i];

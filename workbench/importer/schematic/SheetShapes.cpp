@@ -23,7 +23,7 @@ QPointF Point(const TSexpression& shape, std::string_view name, const TMap& map)
     return Measures::ScenePoint(map(ElementValues::GridPoint(shape.Get(name))));
 }
 
-/** Only what is filled in the colour of the lines: a background would hide what lies behind. */
+/** Only fills in the line colour: a background fill would hide what is behind. */
 Qt::BrushStyle FillStyle(const TSexpression& shape)
 {
     const std::optional<TSexpression> fill = shape.Find("fill");

@@ -13,7 +13,7 @@
 
 namespace {
 
-/** The alignment that has the same effect where a text would run the other way. */
+/** The alignment with the same effect for a text that is rotated by 180 degrees. */
 int Swapped(int alignment, int one, int other)
 {
     const int sides = one | other;
@@ -26,7 +26,7 @@ bool HasVariable(const QString& text)
     return text.contains(QLatin1String("${"));
 }
 
-/** A text of the sheet: a tag, if it shows what the project says. */
+/** A text of the sheet: a tag, if it shows a project variable. */
 std::unique_ptr<TGraphicsTextItem> TextOrTag(const TSexpression& element, const TPageDraft& page,
                                              TSchematicDraft& draft)
 {
@@ -34,7 +34,7 @@ std::unique_ptr<TGraphicsTextItem> TextOrTag(const TSexpression& element, const 
     const QString content = element.Value(0).Text();
     const QString onPage = TextVariables::Resolved(content, page.variables);
     const QString inProject = TextVariables::Resolved(content, draft.variables);
-    // What a page says differently is no tag, as those of a name are alike on all pages.
+    // A variable with page-specific values is not a tag, as tags of one name are equal on all pages.
     if (!HasVariable(content) || onPage != inProject) {
         auto text = std::make_unique<TGraphicsTextItem>();
         text->SetText(onPage);
@@ -51,7 +51,7 @@ std::unique_ptr<TGraphicsTextItem> TextOrTag(const TSexpression& element, const 
     return tag;
 }
 
-/** A text that lies on the sheet: it is upright, or to be read from the right, whatever its angle. */
+/** A text on the sheet: upright, or to be read from the right, at every angle. */
 void Place(std::unique_ptr<TGraphicsTextItem> text, const TSexpression& element, TPageDraft& page)
 {
     constexpr qint64 half = 180'000'000;
@@ -115,7 +115,7 @@ std::unique_ptr<TGraphicsTextItem> PageItems::Text(const TSexpression& element, 
     text->SetText(content);
     text->SetLayer(Osmirel::SchematicTexts);
     TextEffects::Apply(element, *text);
-    // It is upright, or to be read from the right; where it would run the other way it changes sides.
+    // Upright, or to be read from the right; if it were rotated further, the alignment is mirrored instead.
     const TGridPoint along = frame.Turned(UnitStep(quarters));
     const TGridPoint up = frame.Turned(UnitStep(quarters + 1));
     const bool isVertical = along.x == 0;

@@ -10,7 +10,7 @@ class TGraphicsBusEntryItem;
 class TGraphicsJunctionItem;
 class TGraphicsPinItem;
 
-/** What meets in one place of a page. */
+/** The items that meet at one point of a page. */
 struct TConnectionPoint
 {
     struct TPin
@@ -28,17 +28,17 @@ struct TConnectionPoint
 
     TGridPoint place;
     QVector<TPin> pins;
-    bool hasJunction = false; ///< Whether the file has one here.
+    bool hasJunction = false; ///< Whether the file has a junction here.
     QVector<TGraphicsBusEntryItem*> entries;
     QVector<TEnd> ends;
 
-    /** Whether lines are cut here on whose middle it is. */
+    /** Whether lines that pass through the point are cut here. */
     bool CutsLines() const { return hasJunction || !pins.isEmpty() || !entries.isEmpty(); }
-    /** Whether nothing is here but the ends of two lines. */
+    /** Whether only the ends of two lines are here. */
     bool IsBend() const { return !CutsLines() && ends.size() == 2 && ends[0].line != ends[1].line; }
 };
 
-/** The places of a page where something is, in the order in which they came up. */
+/** The points of a page with connections, in order of first occurrence. */
 class TConnectionPoints
 {
 public:

@@ -8,7 +8,7 @@ constexpr qint64 usualNameOffset = 508'000; // Nanometres.
 
 TLibraryPin ReadPin(const TSexpression& element, int unit, int bodyStyle)
 {
-    constexpr int firstFlag = 2; // Behind the two words that say what the pin is and how it looks.
+    constexpr int firstFlag = 2; // After the two words for the pin's type and style.
     const TSexpression at = element.Get("at");
     const std::optional<TSexpression> length = element.Find("length");
     TLibraryPin pin{element,
@@ -30,7 +30,7 @@ TLibraryPin ReadPin(const TSexpression& element, int unit, int bodyStyle)
     return pin;
 }
 
-/** Reads the unit and the body style that end a name such as "TL072_2_1". */
+/** Reads the unit and the body style at the end of a name such as "TL072_2_1". */
 void ReadUnit(const TSexpression& nameAtom, int& unit, int& bodyStyle)
 {
     const QString name = nameAtom.Text();

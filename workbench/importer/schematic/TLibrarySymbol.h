@@ -8,10 +8,10 @@
 
 #include <vector>
 
-/** A pin as the symbol has it; places are the symbol's, with y upwards. */
+/** A pin in the symbol's coordinates, with y upwards. */
 struct TLibraryPin
 {
-    /** What a pin may be used as instead, by name. */
+    /** An alternate function of a pin, by name. */
     struct TUse
     {
         QString electrical;
@@ -19,8 +19,8 @@ struct TLibraryPin
     };
 
     TSexpression element;
-    int unit = 0;      ///< 0 for a pin that every unit has.
-    int bodyStyle = 0; ///< 0 for a pin that every body style has.
+    int unit = 0;      ///< 0 for a pin of all units.
+    int bodyStyle = 0; ///< 0 for a pin of all body styles.
     TUse use;          ///< The words of the file, such as "power_in" and "inverted".
     TGridPoint place;  ///< Where it is connected,
     int quarters = 0;  ///< from where it points this way towards the body,
@@ -31,7 +31,7 @@ struct TLibraryPin
     QHash<QString, TUse> alternates;
 };
 
-/** A drawing or a text of a symbol's body. */
+/** A primitive or a text of a symbol's body. */
 struct TLibraryShape
 {
     TLibraryShape(const TSexpression& ofElement, int ofUnit, int ofBodyStyle)
@@ -43,13 +43,13 @@ struct TLibraryShape
     int bodyStyle = 0;
 };
 
-/** A symbol as the sheet keeps a copy of it. */
+/** The sheet's copy of a symbol. */
 struct TLibrarySymbol
 {
-    bool isPower = false; ///< Names the net of its pin for the whole design.
+    bool isPower = false; ///< Names the net of its pin globally.
     bool showsPinNames = true;
     bool showsPinNumbers = true;
-    qint64 nameOffset = 0; ///< Of the pins' names from the body; 0 has them outside.
+    qint64 nameOffset = 0; ///< Distance of pin names from the body; 0 places them outside.
     QString keywords;
     std::vector<TLibraryPin> pins;
     std::vector<TLibraryShape> shapes;

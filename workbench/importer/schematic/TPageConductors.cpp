@@ -76,7 +76,7 @@ TPageConductors::TName TPageConductors::AddName(const TSheetLabel& label, TKind&
     TName name{&label, 0, BusNames::Members(label.text, page.file->aliases)};
     const bool isOnBus = !busKind.finder.LinesOver(label.place).isEmpty();
     const bool isOnWire = !wireKind.finder.LinesOver(label.place).isEmpty();
-    // A wire has one net, whatever its label looks like.
+    // A wire has one net, even if its label looks like a bus name.
     if (isOnWire && !isOnBus) {
         name.members.clear();
     }

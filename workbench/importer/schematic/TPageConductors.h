@@ -6,8 +6,8 @@
 #include <graphics/engine/DisjointSets.h>
 
 /**
- * What conducts on a page, joined where it touches: ends of wires in one place; pins, labels, junctions and entries
- * with the wires on whose ends or middles they lie, and with each other. Wires that cross, or of which one ends on the
+ * The conductors of a page, joined by union-find where they touch: wire ends at one point; pins, labels, junctions and
+ * entries with the wires that they lie on, and with each other. Wires that cross, or of which one ends on the
  * middle of another, are not joined. The same holds for buses among themselves; an entry joins no bus with a wire.
  */
 class TPageConductors
@@ -34,7 +34,7 @@ public:
     std::vector<int> noConnects;
 
 private:
-    /** Wires, or buses, with the places at which their ends lie. */
+    /** Wires, or buses, with the positions of their ends. */
     struct TKind
     {
         const std::vector<TSheetLine>& lines;

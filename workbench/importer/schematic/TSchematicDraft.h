@@ -8,14 +8,14 @@
 
 #include <QMap>
 
-/** A schematic in the making, and what its items refer to while they are made. */
+/** A schematic under construction, and the data that its items refer to meanwhile. */
 struct TSchematicDraft
 {
     TSchematic& schematic;
     const TSheetHierarchy& hierarchy;
     TextVariables::TValues variables; ///< Of the whole project.
     QHash<QString, quint16> numbers;  ///< Of components and net ties, by `ComponentKey`.
-    QMap<QString, QString> tagValues; ///< What tags show, by their names.
+    QMap<QString, QString> tagValues; ///< The values of tags, by name.
     TNotShown notShown;
 
     /** The name of a net; empty for -1. */

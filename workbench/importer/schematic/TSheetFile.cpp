@@ -7,7 +7,7 @@
 
 namespace {
 
-/** A line of several points as its straight pieces. */
+/** The straight pieces of a polyline. */
 void AddLines(const TSexpression& element, std::vector<TSheetLine>& lines)
 {
     std::optional<TGridPoint> last;
@@ -33,7 +33,7 @@ LabelKind KindOf(const TSexpression& label)
                                                   : LabelKind::Local;
 }
 
-/** The elements that say something of the sheet itself. */
+/** The elements that describe the sheet itself. */
 constexpr std::string_view properties[] = {
     "version", "generator",   "generator_version", "uuid",           "paper",
     "page",    "title_block", "embedded_fonts",    "embedded_files",
@@ -131,7 +131,7 @@ void TSheetFile::ReadSymbol(const TSexpression& element)
     TPlacedSymbol symbol{
         element, Uuid(element), element.Get("lib_id").Value(0).Text(), nullptr, TSymbolFrame::Read(element), 1, 1, {},
         {}};
-    // A copy that was changed on this sheet alone has a name of its own.
+    // A copy that was modified for this sheet has its own name.
     const std::optional<TSexpression> ownName = element.Find("lib_name");
     symbol.library = library.value(ownName ? ownName->Value(0).Text() : symbol.libraryName).get();
     for (const TSexpression part : element) {

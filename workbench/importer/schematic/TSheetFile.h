@@ -23,7 +23,7 @@ struct TSheetLine
     TGridPoint end;
 };
 
-/** A junction, or a mark that nothing is to be connected. */
+/** A junction, or a no-connect mark. */
 struct TSheetPoint
 {
     explicit TSheetPoint(const TSexpression& ofElement)
@@ -34,12 +34,12 @@ struct TSheetPoint
     TGridPoint place;
 };
 
-/** What gives a net its name, the weakest first. */
+/** The sources of a net's name, the weakest first. */
 enum class LabelKind {
     SheetPin,
     Hierarchical,
     Local,
-    Power, ///< A pin that does so, not a label.
+    Power, ///< A power pin, not a label.
     Global,
 };
 
@@ -52,7 +52,7 @@ struct TSheetLabel
     int quarters = 0;
 };
 
-/** The box that stands for another sheet. */
+/** The box of another sheet. */
 struct TSheetBox
 {
     TSexpression element;
@@ -69,24 +69,24 @@ struct TSymbolField
     QString value;
 };
 
-/** A symbol that lies on a sheet. */
+/** A symbol on a sheet. */
 struct TPlacedSymbol
 {
     TSexpression element;
     QString uuid;
-    QString libraryName;                     ///< With the library in front of a colon.
+    QString libraryName;                     ///< With the library before a colon.
     const TLibrarySymbol* library = nullptr; ///< Null if the sheet has no copy of it.
     TSymbolFrame frame;
     int unit = 1;
     int bodyStyle = 1;
     std::vector<TSymbolField> fields;
-    QHash<QString, QString> alternates; ///< What pins are used as, by their numbers.
+    QHash<QString, QString> alternates; ///< Alternate functions of pins, by pin number.
 
     /** The value of a field; empty if there is none. */
     QString Field(const QString& key) const;
 };
 
-/** What a sheet file holds, whoever uses it. All places are the sheet's, in nanometres. */
+/** The contents of a sheet file, independent of its uses. All positions are in sheet coordinates, in nanometres. */
 class TSheetFile
 {
 public:
@@ -109,11 +109,11 @@ public:
     std::vector<TSheetPoint> noConnects;
     std::vector<TSheetLabel> labels;
     std::vector<TSheetBox> boxes;
-    std::vector<TSexpression> graphics;         ///< Drawings and texts.
-    std::vector<TSexpression> others;           ///< What is not read.
-    QHash<QString, QStringList> aliases;        ///< Members of buses by the name that stands for them.
-    QHash<QString, TSexpression> symbolsByPath; ///< What the oldest root sheets say of all symbols,
-    QHash<QString, QString> pageNumbers;        ///< and root sheets of all pages.
+    std::vector<TSexpression> graphics;         ///< Primitives and texts.
+    std::vector<TSexpression> others;           ///< Unsupported elements.
+    QHash<QString, QStringList> aliases;        ///< Members of buses by alias.
+    QHash<QString, TSexpression> symbolsByPath; ///< Instance data of all symbols in the oldest root sheets,
+    QHash<QString, QString> pageNumbers;        ///< and of all pages in root sheets.
 
 private:
     using TReader = void (TSheetFile::*)(const TSexpression& element);

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-/** Pages, nets, wires and lines know each other by their numbers in lists of these. */
+/** Pages, nets, wires and lines refer to each other by index in lists of these. */
 constexpr std::size_t Index(int number)
 {
     return static_cast<std::size_t>(number);
@@ -15,22 +15,22 @@ struct TPagePin
 {
     const TLibraryPin* pin = nullptr;
     TGridPoint place;
-    TLibraryPin::TUse use; ///< That of the pin, or the one chosen for this symbol.
+    TLibraryPin::TUse use; ///< The pin's own, or the alternate chosen for this symbol.
     int net = -1;          ///< Index into the design's nets.
 };
 
-/** A symbol with what the page's path says of it. */
+/** A symbol with its instance data for the page's path. */
 struct TPageSymbol
 {
     const TPlacedSymbol* symbol = nullptr;
-    QString reference; ///< Such as "R12"; '#' in front marks symbols that are no components.
+    QString reference; ///< Such as "R12"; a leading '#' marks symbols that are not components.
     int unit = 1;
     QString value;
     QString footprint;
-    QString path; ///< The uuids of the sheets below the root and of the symbol, each behind a slash.
+    QString path; ///< The uuids of the sheets below the root and of the symbol, each after a slash.
     std::vector<TPagePin> pins;
 
-    /** Whether a pin of it names a net for the whole design. */
+    /** Whether one of its pins names a global net. */
     bool IsPower() const { return symbol->library && symbol->library->isPower; }
 };
 
@@ -38,16 +38,16 @@ struct TPageSymbol
 struct TSheetPage
 {
     const TSheetFile* file = nullptr;
-    QString name;         ///< That of the box which stands for it; the root's is its file's.
+    QString name;         ///< The name of its box; for the root, that of its file.
     QString path;         ///< The names from the root's down, each followed by a slash: "/", "/Power/".
-    QString number;       ///< As the file has it; may be empty.
+    QString number;       ///< As in the file; may be empty.
     QStringList uuids;    ///< Of the boxes from the root's sheet down, the root's own uuid first.
     int parent = -1;      ///< Index of the page on which its box is; -1 for the root,
     int boxInParent = -1; ///< and the index of that box.
 
     std::vector<TPageSymbol> symbols;
 
-    // Indices into the design's nets, parallel to the file's lists; -1 for what is on none.
+    // Indices into the design's nets, parallel to the file's lists; -1 for none.
     std::vector<int> wireNets;
     std::vector<int> labelNets;
     std::vector<int> junctionNets;
@@ -60,12 +60,12 @@ struct TSheetPage
 /** A net of the whole hierarchy. */
 struct TDesignNet
 {
-    QString name;           ///< Empty only for a pin that is alone and, as the board says, on no net.
-    bool isNamed = false;   ///< By a label or a power symbol; else the name is made of one of its pins.
-    QStringList otherNames; ///< Those of power pins whose symbol says another one.
+    QString name;           ///< Empty only for a lone pin that has no net on the board.
+    bool isNamed = false;   ///< By a label or a power symbol; else the name is generated from one of its pins.
+    QStringList otherNames; ///< The names of power pins whose symbol has another one.
 };
 
-/** A root sheet and all that hangs below it, page by page. */
+/** A root sheet and the hierarchy below it, page by page. */
 struct TSheetHierarchy
 {
     std::vector<std::unique_ptr<TSheetFile>> files; ///< The root's first, each once.
@@ -73,11 +73,11 @@ struct TSheetHierarchy
     std::vector<TDesignNet> nets;                   ///< In the order of their names.
 };
 
-/** What stands in a file. Throws a `TImportError` without line for one that cannot be read. */
+/** The contents of a file. Throws a `TImportError` without line if it cannot be read. */
 using TFileReader = std::function<QByteArray(const QString& fileName)>;
 
 /** Reads a root sheet and all sheets below it, without nets. Throws `TImportError`, with the file. */
 TSheetHierarchy ReadHierarchy(const QString& rootFile, const TFileReader& readFile);
 
-/** Finds out what is connected, and what the nets are called. */
+/** Traces the connections, and names the nets. */
 void TraceNets(TSheetHierarchy& hierarchy);

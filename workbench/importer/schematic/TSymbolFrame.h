@@ -5,8 +5,8 @@
 class TSexpression;
 
 /**
- * How a symbol lies on its sheet: symbols are drawn with y upwards, turned by quarters, then mirrored, and set down on
- * a sheet whose y grows downwards.
+ * The placement of a symbol on its sheet: symbols have y upwards, are rotated by quarters, then mirrored, and placed on
+ * a sheet with y downwards.
  */
 struct TSymbolFrame
 {
@@ -15,20 +15,20 @@ struct TSymbolFrame
     bool mirrorsX = false;
     bool mirrorsY = false;
 
-    /** A place of the symbol on the sheet. */
+    /** A point of the symbol in sheet coordinates. */
     TGridPoint ToSheet(const TGridPoint& inSymbol) const
     {
         const TGridPoint step = Turned(inSymbol);
         return {origin.x + step.x, origin.y + step.y};
     }
 
-    /** A step within the symbol as a step on the sheet. */
+    /** A direction in the symbol as a direction on the sheet. */
     TGridPoint Turned(const TGridPoint& inSymbol) const;
 
     static TSymbolFrame Read(const TSexpression& symbol);
 };
 
-/** The step of one nanometre that an angle of quarters, counterclockwise, points to in a frame with y upwards. */
+/** The step of one nanometre in the direction of an angle in counterclockwise quarters, with y upwards. */
 TGridPoint UnitStep(int quarters);
 
 /** The angle that ends `(at x y [angle])` as a number of quarters, 0 to 3; any other angle is an error. */

@@ -6,11 +6,11 @@
 
 namespace {
 
-/** A name that a net can have, and how much it counts. */
+/** A candidate name of a net, and its rank. */
 struct TCandidate
 {
     LabelKind kind = LabelKind::SheetPin;
-    int depth = 0; ///< Of the sheet where it is given; global names have none.
+    int depth = 0; ///< Of its sheet in the hierarchy; global names have none.
     QString name;
 
     bool Beats(const TCandidate& other) const
@@ -73,10 +73,10 @@ private:
         }
     }
 
-    /** What is behind all labels of a bus under one key. */
+    /** The nodes behind all labels of a bus under one key. */
     int MemberNode(int busNode, const QString& key)
     {
-        // Buses do not grow any more: their labels and entries have been joined.
+        // Buses are complete: their labels and entries have been joined.
         const QPair<int, QString> member(sets.Root(busNode), key);
         if (!memberNodes.contains(member)) {
             memberNodes.insert(member, sets.Add());
@@ -90,7 +90,7 @@ private:
         if (isGlobal) {
             JoinByName(globals, text, node);
         }
-        // Labels of one name on one sheet are one net, of whatever kind they are.
+        // Labels of one name on one sheet are one net, whatever their kind.
         if (kind != LabelKind::SheetPin && kind != LabelKind::Power) {
             JoinByName(locals, QPair<int, QString>(page, text), node);
         }
@@ -117,7 +117,7 @@ private:
         }
     }
 
-    /** Joins the hierarchical labels of a page with the pins of the box that stands for it. */
+    /** Joins the hierarchical labels of a page with the pins of its box. */
     void JoinWithParent(int page)
     {
         if (Page(page).parent < 0) {
@@ -160,7 +160,7 @@ private:
         }
         QHash<int, QVector<PinNames::TPinOnNet>> pinsOf;
         VisitConductors([&](int page, int node, int&, const TPageSymbol* symbol, const TPagePin* pin) {
-            QVector<PinNames::TPinOnNet>& pins = pinsOf[sets.Root(node)]; // There is a net even without pins.
+            QVector<PinNames::TPinOnNet>& pins = pinsOf[sets.Root(node)]; // A net may have no pins.
             if (pin) {
                 pins.append({symbol, pin, Page(page).file->version});
             }
@@ -169,7 +169,7 @@ private:
         for (auto net = pinsOf.constBegin(); net != pinsOf.constEnd(); ++net) {
             const auto best = bestOf.constFind(net.key());
             const QString name = best == bestOf.constEnd() ? PinNames::UnnamedNet(*net) : best->name;
-            // A wire that nothing names and no pin is on is no net.
+            // A wire with no label and no pin forms no net.
             if (!name.isEmpty()) {
                 named.append({name, net.key()});
             }
@@ -179,7 +179,7 @@ private:
         QHash<QString, int> timesTaken;
         for (const auto& [plainName, set] : named) {
             netOfSet.insert(set, static_cast<int>(hierarchy.nets.size()));
-            // Symbols without a number of their own make names that are not unique.
+            // Symbols without a number produce ambiguous names.
             const int times = bestOf.contains(set) ? 0 : timesTaken[plainName]++;
             const QString name = times == 0 ? plainName : QStringLiteral("%1_%2").arg(plainName).arg(times);
             hierarchy.nets.push_back({name, bestOf.contains(set), PinNames::OtherNames(pinsOf.value(set), name)});
@@ -190,7 +190,7 @@ private:
         NameBuses();
     }
 
-    /** Calls back with the page, the node and the place for the net of all that can be on one. */
+    /** Calls back with page, node and the variable for the net index of everything that can be on a net. */
     template <class Function>
     void VisitConductors(const Function& visit)
     {
