@@ -56,6 +56,28 @@ TGraphicsItem* TGraphicsItem::CreateCopy() const
     return copy.release();
 }
 
+void TGraphicsItem::Assign(const TGraphicsItem& other)
+{
+    if (&other == this) {
+        return;
+    }
+    prepareGeometryChange();
+    setSelected(false);
+    const QList<QGraphicsItem*> own = childItems();
+    for (QGraphicsItem* child : own) {
+        if (dynamic_cast<TGraphicsItem*>(child)) {
+            delete child;
+        }
+    }
+    TWorkspace* const ownWorkspace = workspace;
+    CopyFrom(other);
+    if (owner) {
+        SetWorkspace(ownWorkspace);
+    }
+    MarkNet();
+    Refresh();
+}
+
 void TGraphicsItem::CopyFrom(const TGraphicsItem& source)
 {
     flagWord = source.flagWord & ~static_cast<unsigned>(Selected);

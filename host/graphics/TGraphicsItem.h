@@ -85,6 +85,12 @@ public:
      */
     TGraphicsItem* CreateCopy() const;
 
+    /**
+     * Takes over all attributes of another item of the same kind, as `CreateCopy` copies them, and has copies of its
+     * children instead of its own. The item keeps its links, its scene and its parent, is not selected, and repaints.
+     */
+    void Assign(const TGraphicsItem& other);
+
     /** The items that this one holds a link to, once for each link; in an order only where the kind says so. */
     virtual QVector<TGraphicsItem*> Links() const { return {}; }
     /**

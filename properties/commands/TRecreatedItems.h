@@ -5,14 +5,6 @@
 #include <memory>
 #include <vector>
 
-class TGraphicsViaItem;
-class TGraphicsWireItem;
-
-/** @{ Gives an item all attributes that a copy of @p model would have. Links are not attributes. */
-void MakeLike(TGraphicsViaItem& via, const TGraphicsViaItem& model);
-void MakeLike(TGraphicsWireItem& wire, const TGraphicsWireItem& model);
-/** @} */
-
 /**
  * The items that a command creates at every redo and removes at undo. The design owns them while the command is done,
  * and this object while it is not.
@@ -35,7 +27,7 @@ public:
             away.emplace_back();
         }
         if (away[next]) {
-            MakeLike(*away[next], *fresh);
+            away[next]->Assign(*fresh);
             fresh = std::move(away[next]);
         }
         placeOf.insert(fresh.get(), next++);

@@ -34,6 +34,28 @@ void TAbstractProperty::KeepEditorIn(QWidget* holder)
     }
 }
 
+void TAbstractProperty::AddPart(const QString& name, QWidget* widget)
+{
+    parts.append({name, widget});
+}
+
+QVector<TAbstractProperty::Part> TAbstractProperty::Parts() const
+{
+    QVector<Part> shown;
+    const auto add = [&shown](const QString& name, QWidget* widget) {
+        shown.append({name, widget, widget->property("readOnly").toBool()});
+    };
+    if (parts.isEmpty() && editor) {
+        add(QString(), editor);
+    }
+    for (const NamedPart& part : parts) {
+        if (part.widget && !part.widget->isHidden()) {
+            add(part.name, part.widget);
+        }
+    }
+    return shown;
+}
+
 void TAbstractProperty::SetMixed(bool on, Value value)
 {
     mixed = on ? mixed | value : mixed & ~static_cast<unsigned>(value);

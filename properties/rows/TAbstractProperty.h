@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QTreeWidgetItem>
+#include <QVector>
 #include <QWidget>
 
 #include <functional>
@@ -39,6 +40,19 @@ public:
     /** The widget that edits the value; null for a row without an editor. */
     QWidget* Editor() const { return editor; }
 
+    /** A widget of the editor that edits one value. */
+    struct Part
+    {
+        QString name; ///< Empty for the row's own value; others are named, such as "width". Not translated.
+        QWidget* widget = nullptr;
+        bool isReadOnly = false; ///< Whether the widget, enabled or not, never edits the value.
+
+        bool CanBeEdited() const { return widget->isEnabled() && !isReadOnly; }
+    };
+
+    /** The parts that are not hidden in the editor, from left to right; none without an editor. */
+    QVector<Part> Parts() const;
+
     /** Reparents the editor of a row that is not shown to a widget, hidden, so that it is not a window. The row still
      *  owns it. */
     void KeepEditorIn(QWidget* holder);
@@ -61,14 +75,24 @@ protected:
      */
     void Report(Value value, const std::function<void()>& emitSignals);
 
-    /** Nulls the row's pointer to a part of its editor when that is gone. */
-    template <class Part>
-    void ForgetWhenGone(Part*& part)
+    /** Names a part of the editor, from left to right. A row whose editor is its only part names none. */
+    void AddPart(const QString& name, QWidget* widget);
+    /** The same for a part that the row points to: the pointer is null once the part is gone. */
+    template <class Widget>
+    void AddOwnPart(const QString& name, Widget*& widget)
     {
-        connect(part, &QObject::destroyed, this, [&part] { part = nullptr; });
+        AddPart(name, widget);
+        connect(widget, &QObject::destroyed, this, [&widget] { widget = nullptr; });
     }
 
 private:
+    struct NamedPart
+    {
+        QString name;
+        QPointer<QWidget> widget;
+    };
+
+    QVector<NamedPart> parts; ///< Empty where the editor is the only part.
     QPointer<QWidget> editor;
     QPointer<QWidget> editorHolder; ///< Parent of the editor of a row that is not shown, or null.
     bool hidden = false;

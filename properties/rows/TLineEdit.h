@@ -19,6 +19,7 @@ class QLineEdit;
 class PROPERTIES_EXPORT TLineEdit : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(bool readOnly READ IsReadOnly)
 
 public:
     /** With @p markWhenEmpty an empty text is shown on a red background. */
@@ -37,6 +38,7 @@ public:
     /** Whether a double click starts editing; true from construction. */
     bool IsEditable() const { return editable; }
     void SetEditable(bool on) { editable = on; }
+    bool IsReadOnly() const { return !editable; }
 
     QLabel* const label;
     QLineEdit* const edit; ///< Hidden except while editing.

@@ -11,6 +11,7 @@ TPropertyCheck::TPropertyCheck(const QString& label) : TAbstractProperty(label, 
     constexpr int leftMargin = 5;
     EditorBox::LayOut(container, {{box, 0}})->setContentsMargins(leftMargin, 0, 0, 0);
     container->setFocusProxy(box);
+    AddPart(QString(), box);
     connect(box, &QCheckBox::toggled, this,
             [this](bool on) { Report(FirstValue, [this, on] { emit sigStateChanged(on); }); });
 }

@@ -9,6 +9,8 @@ TPropertyCheck2::TPropertyCheck2(const QString& label, const QString& text1, con
 {
     auto* boxes = new TCheckBox2Widget(text1, text2, nullptr);
     SetEditor(boxes);
+    AddPart(QStringLiteral("1"), boxes->box1);
+    AddPart(QStringLiteral("2"), boxes->box2);
     connect(boxes, &TCheckBox2Widget::sigChecked1, this,
             [this](bool on) { Report(FirstValue, [this, on] { emit sigChecked1(on); }); });
     connect(boxes, &TCheckBox2Widget::sigChecked2, this,

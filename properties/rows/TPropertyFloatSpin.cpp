@@ -21,8 +21,8 @@ TPropertyFloatSpin::TPropertyFloatSpin(const QString& label, double min, double 
     spin->setSingleStep(step);
     check->hide();
 
-    ForgetWhenGone(spin);
-    ForgetWhenGone(check);
+    AddOwnPart(QStringLiteral("check"), check);
+    AddOwnPart(QString(), spin);
     connect(spin, SIGNAL(valueChanged(double)), this, SLOT(slotDoubleToFloat(double)));
     connect(check, &QCheckBox::clicked, this,
             [this](bool on) { Report(SecondValue, [this, on] { emit sigCheckChanged(on); }); });

@@ -21,8 +21,8 @@ TPropertySize::TPropertySize(const QString& label, double min, double max, doubl
         spin->setSingleStep(step);
     }
 
-    ForgetWhenGone(width);
-    ForgetWhenGone(height);
+    AddOwnPart(QStringLiteral("width"), width);
+    AddOwnPart(QStringLiteral("height"), height);
     const auto reportWidth = [this](double value) {
         Report(FirstValue, [this, value] { emit sigWidthChanged(value); });
     };

@@ -15,8 +15,8 @@ TPropertyText::TPropertyText(const QString& label, const QString& text, bool mar
     EditorBox::LayOut(box, {{line, 1}, {visible, 0}});
     visible->hide();
     visible->setChecked(true);
-    ForgetWhenGone(line);
-    ForgetWhenGone(visible);
+    AddOwnPart(QString(), line);
+    AddOwnPart(QStringLiteral("show"), visible);
     line->WhenTextIsSet([this] { SetMixed(false); });
     connect(line, &TLineEdit::textChanged, this, [this](const QString& committed) {
         Report(FirstValue, [this, committed] { emit sigTextChanged(committed); });

@@ -186,6 +186,54 @@ private slots:
         QCOMPARE(before.Differences(StateFields(item->StateLine())), change.fields);
     }
 
+    void copiesAndAssignedItemsHaveEveryAttribute_data() { everyAttributeChangesTheLine_data(); }
+
+    void copiesAndAssignedItemsHaveEveryAttribute()
+    {
+        QFETCH(int, row);
+        const Change& change = StateChanges().at(row);
+        Test::TestBoard board;
+        TGraphicsItem* item = change.place(board);
+        const std::unique_ptr<TGraphicsItem> assigned(item->CreateCopy());
+        const StateFields before(assigned->StateLine());
+        change.change(*item);
+        const std::unique_ptr<TGraphicsItem> copy(item->CreateCopy());
+        const bool isOwn = item->Links().isEmpty() && !change.fields.contains("in.at");
+        QCOMPARE(before.Differences(StateFields(copy->StateLine())), isOwn ? change.fields : QStringList());
+        assigned->Assign(*item);
+        QCOMPARE(assigned->StateLine(), copy->StateLine());
+    }
+
+    void assigningLeavesLinksAndSceneAlone()
+    {
+        Test::TestBoard board;
+        TGraphicsViaItem* via = board.AddVia();
+        WireBeside(*via)->LinkToFirst(via);
+        TGraphicsViaItem other;
+        other.SetSize(33, 33);
+        via->Assign(other);
+        QCOMPARE(via->Width(), 33.0);
+        QCOMPARE(via->Owner(), board.Scene());
+        QCOMPARE(via->Workspace(), board.Scene()->Workspace());
+        QCOMPARE(via->LinkedWires().size(), 1);
+        const QString state = via->StateLine();
+        via->Assign(*via);
+        QCOMPARE(via->StateLine(), state);
+    }
+
+    void assigningAPackageTakesItsChildren()
+    {
+        Test::TestBoard board;
+        TGraphicsPackageItem* package = board.AddPackage();
+        board.AddSurfacePad(1.0, 0.5, package);
+        TGraphicsPackageItem* other = board.AddPackage();
+        board.AddSurfacePad(2.0, 2.5, other);
+        board.AddSurfacePad(3.0, 2.5, other);
+        package->Assign(*other);
+        QCOMPARE(package->Pads().size(), 2);
+        QCOMPARE(package->StateLine(), other->StateLine());
+    }
+
     void everyFieldOfALineHasAChange()
     {
         Test::TestBoard board;

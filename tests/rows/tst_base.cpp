@@ -11,6 +11,7 @@
 #include "properties/rows/TPropertyIntSpin.h"
 #include "properties/rows/TPropertyPadShape.h"
 #include "properties/rows/TPropertyPenStyle.h"
+#include "properties/rows/TPropertySeparator.h"
 #include "properties/rows/TPropertySize.h"
 #include "properties/rows/TPropertyText.h"
 
@@ -59,6 +60,10 @@ TAbstractProperty* MakeNumber()
 {
     return new TPropertyFloatSpin("Label", 0, 9, 1, 1);
 }
+TAbstractProperty* MakeWholeNumber()
+{
+    return new TPropertyIntSpin("Label", 0, 9, 1);
+}
 TAbstractProperty* MakeSize()
 {
     return new TPropertySize("Label", 0, 9, 1, 1);
@@ -105,7 +110,10 @@ const MixedRow mixedRows[] = {
 
 } // namespace
 
+using MakeRow = TAbstractProperty* (*)();
+
 Q_DECLARE_METATYPE(const MixedRow*)
+Q_DECLARE_METATYPE(MakeRow)
 
 class TestRow : public QObject
 {
@@ -224,6 +232,53 @@ private slots:
         TPropertyText text("Label", "", false);
         delete text.Editor();
         QVERIFY(!text.line && !text.visible);
+    }
+
+    void tellsItsPartsFromLeftToRight_data()
+    {
+        QTest::addColumn<MakeRow>("make");
+        QTest::addColumn<QStringList>("parts");
+        QTest::newRow("list") << MakeRow(MakeChoice) << QStringList{"QComboBox"};
+        QTest::newRow("whole number") << MakeRow(MakeWholeNumber) << QStringList{"QSpinBox"};
+        QTest::newRow("one box") << MakeRow(Make<TPropertyCheck>) << QStringList{"QCheckBox"};
+        QTest::newRow("two boxes") << MakeRow(MakeTwoChecks) << QStringList{"1 QCheckBox", "2 QCheckBox"};
+        QTest::newRow("number") << MakeRow(MakeNumber) << QStringList{"TDoubleSpinBox"};
+        QTest::newRow("size") << MakeRow(MakeSize) << QStringList{"width TDoubleSpinBox", "height TDoubleSpinBox"};
+        QTest::newRow("text") << MakeRow(MakeText) << QStringList{"TLineEdit"};
+        QTest::newRow("heading") << MakeRow(Make<TPropertySeparator>) << QStringList{};
+    }
+    void tellsItsPartsFromLeftToRight()
+    {
+        QFETCH(MakeRow, make);
+        QFETCH(QStringList, parts);
+        const std::unique_ptr<TAbstractProperty> row(make());
+        QStringList told;
+        for (const TAbstractProperty::Part& part : row->Parts()) {
+            told.append((part.name + ' ' + part.widget->metaObject()->className()).trimmed());
+            QVERIFY(part.CanBeEdited());
+        }
+        QCOMPARE(told, parts);
+        row->SetEnabled(false);
+        for (const TAbstractProperty::Part& part : row->Parts()) {
+            QVERIFY(!part.CanBeEdited());
+        }
+        delete row->Editor();
+        QVERIFY(row->Parts().isEmpty());
+    }
+
+    void partsThatAreShownLaterAreToldThen()
+    {
+        TPropertyFloatSpin number("Label", 0, 9, 1, 1);
+        number.check->show();
+        QCOMPARE(number.Parts().first().name, QString("check"));
+        QCOMPARE(number.Parts().first().widget, static_cast<QWidget*>(number.check));
+        TPropertyText text("Label", "", false);
+        text.visible->show();
+        QCOMPARE(text.Parts().last().name, QString("show"));
+        QVERIFY(!text.Parts().first().isReadOnly);
+        text.line->SetEditable(false);
+        QVERIFY(text.Parts().first().isReadOnly);
+        QVERIFY(!text.Parts().first().CanBeEdited());
     }
 
     void withoutItsEditorStillEnablesAndHides()

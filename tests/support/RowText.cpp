@@ -1,111 +1,91 @@
 #include "tests/support/RowText.h"
 
 #include "properties/rows/TLineEdit.h"
-#include "properties/rows/TPropertyCheck.h"
-#include "properties/rows/TPropertyCheck2.h"
 #include "properties/rows/TPropertyColor.h"
-#include "properties/rows/TPropertyFloatSpin.h"
-#include "properties/rows/TPropertyIntSpin.h"
-#include "properties/rows/TPropertySize.h"
-#include "properties/rows/TPropertyText.h"
 #include "properties/TPropertySet.h"
-
-#include <workspace/TDoubleSpinBox.h>
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
 #include <QSpinBox>
 
 namespace Test {
 
 namespace {
 
-QString RangeOf(const QDoubleSpinBox* box)
+/** What a widget lets one choose: the range of a number, the items of a list. Null for other widgets. */
+QString ChoiceOf(const QWidget* widget, bool isColor)
 {
-    return QStringLiteral("%1..%2 step %3 decimals %4")
-        .arg(box->minimum())
-        .arg(box->maximum())
-        .arg(box->singleStep())
-        .arg(box->decimals());
-}
-
-QString BoxText(const QCheckBox* box)
-{
-    return (box->isChecked() ? "[x] " : "[ ] ") + box->text();
-}
-
-QString Value(const TPropertyFloatSpin& row)
-{
-    const QString check = row.check->isHidden() ? "" : row.check->isChecked() ? "[x] " : "[ ] ";
-    return RangeOf(row.spin) + " = " + check + row.spin->text();
-}
-
-QString Value(const TPropertySize& row)
-{
-    const QString width = RangeOf(row.width);
-    const QString height = RangeOf(row.height);
-    return (width == height ? width : width + " x " + height) + " = " + row.width->text() + " x " + row.height->text()
-           + (row.height->isEnabled() ? "" : ", height locked");
-}
-
-QString Value(const TPropertyText& row)
-{
-    const QString show = row.visible->isHidden() ? "" : ", " + BoxText(row.visible);
-    return "= " + row.line->label->text() + show + (row.line->IsEditable() ? "" : ", read-only");
-}
-
-QString Value(const QSpinBox* box)
-{
-    return QStringLiteral("%1..%2 step %3 = %4")
-        .arg(box->minimum())
-        .arg(box->maximum())
-        .arg(box->singleStep())
-        .arg(box->text());
-}
-
-/** All check boxes of an editor, in their order. */
-QString BoxTexts(const QWidget* editor)
-{
-    QStringList boxes;
-    for (const QCheckBox* box : editor->findChildren<QCheckBox*>()) {
-        boxes.append(BoxText(box).trimmed());
+    const auto rangeOf = [](const auto* box) {
+        return QStringLiteral("%1..%2 step %3").arg(box->minimum()).arg(box->maximum()).arg(box->singleStep());
+    };
+    if (const auto* number = qobject_cast<const QDoubleSpinBox*>(widget)) {
+        return rangeOf(number) + QStringLiteral(" decimals %1").arg(number->decimals());
     }
-    return "= " + boxes.join(' ');
+    if (const auto* whole = qobject_cast<const QSpinBox*>(widget)) {
+        return rangeOf(whole);
+    }
+    const auto* list = qobject_cast<const QComboBox*>(widget);
+    if (!list || isColor) {
+        return list ? QStringLiteral("%1 colours").arg(list->count()) : QString();
+    }
+    QString items(QLatin1String(""));
+    for (int i = 0; i < list->count(); ++i) {
+        const QVariant data = list->itemData(i);
+        items += (i > 0 ? ", " : "") + list->itemText(i)
+                 + (data.isValid() ? QStringLiteral(" %1").arg(data.toInt()) : QString());
+    }
+    return items;
 }
 
-QString Value(const QComboBox* box)
+QString ShownIn(const QWidget* widget)
 {
-    QStringList items;
-    for (int i = 0; i < box->count(); ++i) {
-        const QVariant data = box->itemData(i);
-        items.append(box->itemText(i) + (data.isValid() ? QStringLiteral(" %1").arg(data.toInt()) : QString()));
+    if (const auto* number = qobject_cast<const QAbstractSpinBox*>(widget)) {
+        return number->text();
     }
-    return items.join(", ") + " = " + (box->currentIndex() < 0 ? "none" : box->currentText());
+    if (const auto* list = qobject_cast<const QComboBox*>(widget)) {
+        return list->currentIndex() < 0 ? QStringLiteral("none") : list->currentText();
+    }
+    if (const auto* box = qobject_cast<const QCheckBox*>(widget)) {
+        return ((box->isChecked() ? "[x] " : "[ ] ") + box->text()).trimmed();
+    }
+    const auto* line = qobject_cast<const TLineEdit*>(widget);
+    return line ? line->Text() : QStringLiteral("of an unknown kind");
+}
+
+/** A part as it follows those before it: an enable box without its text, since it stands in front of what it enables.
+ */
+QString Joined(const TAbstractProperty::Part& part, bool isFirst)
+{
+    const QString shown = ShownIn(part.widget);
+    if (part.name == QLatin1String("check")) {
+        return shown.left(3);
+    }
+    const QString separator = part.name == QLatin1String("height") ? " x "
+                              : part.name == QLatin1String("show") ? ", "
+                                                                   : " ";
+    return (isFirst ? QString() : separator) + shown;
 }
 
 QString ValueOf(const TAbstractProperty* row)
 {
-    if (const auto* number = qobject_cast<const TPropertyFloatSpin*>(row)) {
-        return Value(*number);
+    QStringList choices;
+    QString value;
+    QString state;
+    const QVector<TAbstractProperty::Part> parts = row->Parts();
+    for (const TAbstractProperty::Part& part : parts) {
+        const QString choice = ChoiceOf(part.widget, qobject_cast<const TPropertyColor*>(row));
+        if (!choice.isNull() && !choices.contains(choice)) {
+            choices.append(choice);
+        }
+        value += Joined(part, part.widget == parts.first().widget);
+        if (part.isReadOnly) {
+            state += QStringLiteral(", read-only");
+        }
+        if (part.name == QLatin1String("height") && !part.widget->isEnabled()) {
+            state += QStringLiteral(", height locked");
+        }
     }
-    if (const auto* size = qobject_cast<const TPropertySize*>(row)) {
-        return Value(*size);
-    }
-    if (const auto* text = qobject_cast<const TPropertyText*>(row)) {
-        return Value(*text);
-    }
-    if (qobject_cast<const TPropertyCheck*>(row) || qobject_cast<const TPropertyCheck2*>(row)) {
-        return BoxTexts(row->Editor());
-    }
-    if (const auto* box = qobject_cast<const QSpinBox*>(row->Editor())) {
-        return Value(box);
-    }
-    if (const auto* box = qobject_cast<const QComboBox*>(row->Editor())) {
-        const bool isColor = qobject_cast<const TPropertyColor*>(row) != nullptr;
-        return isColor ? QStringLiteral("%1 colours = %2").arg(box->count()).arg(box->currentText()) : Value(box);
-    }
-    return "of an unknown kind";
+    return (choices.isEmpty() ? QString() : choices.join(" x ") + QLatin1Char(' ')) + "= " + value + state;
 }
 
 QString KindAndLabel(const QString& rowText)

@@ -1,52 +1,18 @@
 #include "workbench/session/TRowEditor.h"
 
-#include "properties/rows/TCheckBox2Widget.h"
-#include "properties/rows/TLineEdit.h"
-#include "properties/rows/TPropertyCheck.h"
-#include "properties/rows/TPropertyCheck2.h"
-#include "properties/rows/TPropertyFloatSpin.h"
-#include "properties/rows/TPropertySize.h"
-#include "properties/rows/TPropertyText.h"
 #include "workbench/session/TSessionError.h"
 #include "workbench/session/WidgetActions.h"
 
-#include <workspace/TDoubleSpinBox.h>
-
-#include <QCheckBox>
 #include <QComboBox>
-#include <QTreeWidget>
 
 #include <algorithm>
 
 namespace {
 
-using TParts = QVector<TRowEditor::TPart>;
-
-/** The parts of each kind of row; a row whose editor is one widget has that one. */
-TParts AllParts(const TAbstractProperty& row, QWidget* editor)
-{
-    if (const auto* number = qobject_cast<const TPropertyFloatSpin*>(&row)) {
-        return {{QStringLiteral("check"), number->check}, {QString(), number->spin}};
-    }
-    if (const auto* size = qobject_cast<const TPropertySize*>(&row)) {
-        return {{QStringLiteral("width"), size->width}, {QStringLiteral("height"), size->height}};
-    }
-    if (const auto* text = qobject_cast<const TPropertyText*>(&row)) {
-        return {{QString(), text->line}, {QStringLiteral("show"), text->visible}};
-    }
-    if (qobject_cast<const TPropertyCheck*>(&row)) {
-        return {{QString(), editor->findChild<QCheckBox*>()}};
-    }
-    if (const auto* boxes = qobject_cast<TCheckBox2Widget*>(editor)) {
-        return {{QStringLiteral("1"), boxes->box1}, {QStringLiteral("2"), boxes->box2}};
-    }
-    return {{QString(), editor}};
-}
-
-QString NamesOf(const TParts& parts)
+QString NamesOf(const QVector<TAbstractProperty::Part>& parts)
 {
     QStringList names;
-    for (const TRowEditor::TPart& part : parts) {
+    for (const TAbstractProperty::Part& part : parts) {
         names.append(part.name.isEmpty() ? QStringLiteral("the value itself") : QLatin1Char('.') + part.name);
     }
     return names.join(QStringLiteral(", "));
@@ -54,18 +20,7 @@ QString NamesOf(const TParts& parts)
 
 } // namespace
 
-TRowEditor::TRowEditor(TAbstractProperty& propertyRow) : row(propertyRow)
-{
-    QWidget* editor = row.treeWidget()->itemWidget(&row, TAbstractProperty::editorColumn);
-    if (!editor) {
-        return;
-    }
-    for (const TPart& part : AllParts(row, editor)) {
-        if (part.widget && !part.widget->isHidden()) {
-            parts.append(part);
-        }
-    }
-}
+TRowEditor::TRowEditor(TAbstractProperty& propertyRow) : row(propertyRow), parts(row.Parts()) {}
 
 QString TRowEditor::Label() const
 {
@@ -78,7 +33,8 @@ QString TRowEditor::ShownValue() const
     for (const TPart& part : parts) {
         values.append(WidgetActions::ShownText(*part.widget));
     }
-    return values.join(qobject_cast<const TPropertySize*>(&row) ? QStringLiteral(" x ") : QStringLiteral(" "));
+    const bool isSize = !parts.isEmpty() && parts.last().name == QLatin1String("height");
+    return values.join(isSize ? QStringLiteral(" x ") : QStringLiteral(" "));
 }
 
 bool TRowEditor::IsEnabled() const
@@ -107,7 +63,7 @@ QString TRowEditor::Line() const
             words.append(part.name.isEmpty() ? QStringLiteral("(disabled)")
                                              : QStringLiteral("(%1 disabled)").arg(part.name));
         }
-        if (const auto* line = qobject_cast<const TLineEdit*>(part.widget); line && !line->IsEditable()) {
+        if (part.isReadOnly) {
             words.append(QStringLiteral("(read-only)"));
         }
     }

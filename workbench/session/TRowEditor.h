@@ -1,10 +1,6 @@
 #pragma once
 
-#include <QString>
-#include <QVector>
-#include <QWidget>
-
-class TAbstractProperty;
+#include "properties/rows/TAbstractProperty.h"
 
 /**
  * The editor of a row, as a person sees and uses it: the number, text or choice itself, and the parts that have a name
@@ -13,13 +9,6 @@ class TAbstractProperty;
 class TRowEditor
 {
 public:
-    /** One widget of the editor. */
-    struct TPart
-    {
-        QString name; ///< Empty for the one that holds the row's value.
-        QWidget* widget;
-    };
-
     /** The row must be in the panel's tree and outlive this object. */
     explicit TRowEditor(TAbstractProperty& propertyRow);
 
@@ -36,9 +25,11 @@ public:
     void Set(const QString& partName, const QString& value) const;
 
 private:
+    using TPart = TAbstractProperty::Part;
+
     const TPart& Part(const QString& name) const;
     bool IsEnabled() const;
 
     TAbstractProperty& row;
-    QVector<TPart> parts; ///< Those that are shown, from left to right.
+    QVector<TPart> parts;
 };

@@ -1,17 +1,8 @@
 #include "tests/workbench/support/PanelCells.h"
 
-#include "properties/rows/TCheckBox2Widget.h"
+#include "properties/rows/TAbstractProperty.h"
 #include "properties/rows/TLineEdit.h"
-#include "properties/rows/TPropertyCheck.h"
-#include "properties/rows/TPropertyCheck2.h"
-#include "properties/rows/TPropertyChoice.h"
-#include "properties/rows/TPropertyFloatSpin.h"
-#include "properties/rows/TPropertyIntSpin.h"
-#include "properties/rows/TPropertySize.h"
-#include "properties/rows/TPropertyText.h"
 #include "properties/TPropertySet.h"
-
-#include <workspace/TDoubleSpinBox.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -132,29 +123,8 @@ std::vector<PanelCell> PanelCells(const TPropertySet& set)
     for (const TAbstractProperty* row : set.Properties()) {
         const QString label = row->text(TAbstractProperty::labelColumn);
         const bool shown = row->treeWidget() && !row->QTreeWidgetItem::isHidden();
-        if (const auto* number = qobject_cast<const TPropertyFloatSpin*>(row)) {
-            cells.emplace_back(label, number->spin, shown);
-            if (!number->check->isHidden()) {
-                cells.emplace_back(label + QStringLiteral("check"), number->check, shown);
-            }
-        } else if (const auto* size = qobject_cast<const TPropertySize*>(row)) {
-            cells.emplace_back(label + QStringLiteral("width"), size->width, shown);
-            cells.emplace_back(label + QStringLiteral("height"), size->height, shown);
-        } else if (const auto* text = qobject_cast<const TPropertyText*>(row)) {
-            cells.emplace_back(label, text->line, shown, text->line->IsEditable());
-            if (!text->visible->isHidden()) {
-                cells.emplace_back(label + QStringLiteral("show"), text->visible, shown);
-            }
-        } else if (qobject_cast<const TPropertyCheck*>(row)) {
-            cells.emplace_back(label, row->Editor()->findChild<QCheckBox*>(), shown);
-        } else if (qobject_cast<const TPropertyCheck2*>(row)) {
-            const auto* boxes = qobject_cast<TCheckBox2Widget*>(row->Editor());
-            cells.emplace_back(label + QLatin1Char('1'), boxes->box1, shown);
-            cells.emplace_back(label + QLatin1Char('2'), boxes->box2, shown);
-        } else if (qobject_cast<const TPropertyIntSpin*>(row)) {
-            cells.emplace_back(label, row->Editor(), shown);
-        } else if (const auto* choice = dynamic_cast<const TPropertyChoice*>(row)) {
-            cells.emplace_back(label, choice->Box(), shown);
+        for (const TAbstractProperty::Part& part : row->Parts()) {
+            cells.emplace_back(label + part.name, part.widget, shown, !part.isReadOnly);
         }
     }
     return cells;

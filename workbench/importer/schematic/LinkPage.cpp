@@ -284,8 +284,8 @@ private:
         added->LinkToLast(other);
     }
 
-    /** Links pins at one point: all with the first one, and pins of different symbols pairwise. Pins that get no net from
-     *  a wire or a port store it themselves. */
+    /** Links pins at one point: all with the first one, and pins of different symbols pairwise. Pins that get no net
+     * from a wire or a port store it themselves. */
     static void LinkPins(const TConnectionPoint& point)
     {
         const bool hasPort = std::any_of(point.pins.begin(), point.pins.end(),

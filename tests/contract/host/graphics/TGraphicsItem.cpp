@@ -28,7 +28,14 @@ void TGraphicsItem::SetLayer(Osmirel::Layer newLayer) { Store(state.layer, newLa
 QColor TGraphicsItem::AltColor() const { return state.altColor; }
 void TGraphicsItem::SetAltColor(const QColor& color) { Store(state.altColor, color); }
 QString TGraphicsItem::Net() const { return state.net; }
-QString TGraphicsItem::OwnNet() const { return state.net; }
+
+void TGraphicsItem::TakeState(const TGraphicsItem& other)
+{
+    setPos(other.pos());
+    setRotation(other.rotation());
+    setVisible(other.isVisible());
+    state = other.state;
+}
 
 TItemScene* TGraphicsItem::Owner() const { return dynamic_cast<TItemScene*>(scene()); }
 TWorkspace* TGraphicsItem::Workspace() const { return Owner() ? Owner()->workspace : nullptr; }

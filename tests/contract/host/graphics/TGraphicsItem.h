@@ -35,7 +35,6 @@ public:
     QColor AltColor() const;
     void SetAltColor(const QColor& color);
     QString Net() const;
-    QString OwnNet() const;
 
     TItemScene* Owner() const;
     void AttachTo(TItemScene* newOwner);
@@ -54,6 +53,8 @@ protected:
         QString net;
     };
     TState state;
+    /** Takes over what all items have of their own. */
+    void TakeState(const TGraphicsItem& other);
 
     /** The items that this one holds a link to. Those with ends have a place for each, null for an end without a link;
      *  the others have one entry for each link. */

@@ -86,16 +86,20 @@ void TGraphicsWireItem::SetCompositionMode(int mode) { Store(compositionMode, mo
 TGraphicsItem* TGraphicsWireItem::CreateCopy() const
 {
     auto* copy = new TGraphicsWireItem;
-    copy->setPos(pos());
-    copy->setRotation(rotation());
-    copy->setVisible(isVisible());
-    copy->state = state;
-    copy->penWidth = penWidth;
-    copy->pen = pen;
-    copy->point1 = point1;
-    copy->point2 = point2;
-    copy->compositionMode = compositionMode;
+    copy->Assign(*this);
     return copy;
+}
+
+void TGraphicsWireItem::Assign(const TGraphicsItem& other)
+{
+    TakeState(other);
+    const auto& wire = static_cast<const TGraphicsWireItem&>(other);
+    penWidth = wire.penWidth;
+    pen = wire.pen;
+    point1 = wire.point1;
+    point2 = wire.point2;
+    compositionMode = wire.compositionMode;
+    CallOut();
 }
 
 int TGraphicsNetItem::type() const { return ItemType::NetWire; }

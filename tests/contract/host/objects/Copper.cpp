@@ -67,12 +67,15 @@ void TGraphicsViaItem::RemoveLinkedWire(TGraphicsSectionItem* wire)
 TGraphicsItem* TGraphicsViaItem::CreateCopy() const
 {
     auto* copy = new TGraphicsViaItem;
-    copy->setPos(pos());
-    copy->setRotation(rotation());
-    copy->setVisible(isVisible());
-    copy->state = state;
-    copy->copper = copper;
+    copy->Assign(*this);
     return copy;
+}
+
+void TGraphicsViaItem::Assign(const TGraphicsItem& other)
+{
+    TakeState(other);
+    copper = static_cast<const TGraphicsViaItem&>(other).copper;
+    CallOut();
 }
 
 int TGraphicsPadItem::type() const { return ItemType::Pad; }

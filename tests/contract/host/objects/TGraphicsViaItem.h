@@ -42,6 +42,7 @@ public:
     void AddLinkedWire(TGraphicsSectionItem* wire);
     void RemoveLinkedWire(TGraphicsSectionItem* wire);
     TGraphicsItem* CreateCopy() const;
+    void Assign(const TGraphicsItem& other);
 
 protected:
     struct TCopper

@@ -11,6 +11,7 @@ public:
     int CompositionMode() const;
     void SetCompositionMode(int mode);
     TGraphicsItem* CreateCopy() const;
+    void Assign(const TGraphicsItem& other);
 
 protected:
     int compositionMode = 0;
