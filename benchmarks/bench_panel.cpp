@@ -16,7 +16,7 @@
 
 namespace {
 
-/** Sets of few rows are replaced many times in a row: what is timed covers at least so many rows. */
+/** Small sets are replaced repeatedly: a timed interval covers at least this many rows. */
 constexpr int rowsInAStretch = 100;
 
 /** A set of rows of the common kinds in turn. */
@@ -56,12 +56,12 @@ public:
     }
     virtual ~Window() = default;
 
-    /** Makes a set, shows it instead of the one before, which is deleted, and paints. */
+    /** Creates a set, shows it instead of the former one, which is deleted, and paints. */
     void ReplaceSet(int rows)
     {
         Show(std::make_unique<SampleSet>(rows));
         QCoreApplication::processEvents();
-        // Without a running event loop the editors of the set before would pile up.
+        // Without a running event loop the editors of the former sets would accumulate.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
@@ -72,14 +72,14 @@ protected:
     TPropertyWidget panel;
 };
 
-/** The panel as it is. */
+/** The actual panel. */
 class PanelWindow : public Window
 {
 protected:
     void Show(std::unique_ptr<TPropertySet> next) override { panel.SetPropertySet(next.release()); }
 };
 
-/** The panel's tree, filled row by row: each is added and gets its editor at once. */
+/** The panel's tree, filled row by row: each row is added and gets its editor at once. */
 class RowByRowWindow : public Window
 {
 public:
@@ -116,7 +116,7 @@ private:
     std::unique_ptr<TPropertySet> shown;
 };
 
-/** The contestants for one number of rows, each with a set of as many on show. */
+/** The variants for one number of rows, each showing a set of that many. */
 struct Windows
 {
     explicit Windows(int rows)

@@ -14,7 +14,7 @@ namespace {
 constexpr double pitch = 30;
 constexpr int padsInARow = 100;
 
-/** A pour over through-hole pads of which every other one is of its net. */
+/** A pour over through-hole pads, every other one of its net. */
 class PouredBoard : public Bench::ShownBoard
 {
 public:
@@ -45,7 +45,7 @@ public:
     TGraphicsPourItem* pour = nullptr;
 };
 
-/** Everything that a fill has to look at, and nothing done with it. */
+/** Reads everything that a fill has to read, without using it. */
 void LookAtPads(const PouredBoard& board)
 {
     for (const TGraphicsPadItem* pad : board.pads) {
@@ -71,7 +71,7 @@ void Add(Bench::Shelf& shelf, const std::string& name, int fillType, bool therma
             if (filled.isEmpty()) {
                 qFatal("the pour has no copper");
             }
-            // A change elsewhere asks for no fill, so that looking once more takes what is there.
+            // A change elsewhere requests no fill, so that reading again returns the same copper.
             const double again =
                 Bench::SecondsOf([&board] { benchmark::DoNotOptimize(board.pour->FilledPath().elementCount()); });
             return Bench::Times{look, fill, again};

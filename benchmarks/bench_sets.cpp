@@ -36,10 +36,10 @@ using Bench::Items;
 using Bench::Kind;
 using Bench::Shelf;
 
-/** Small selections are scanned many at once: what is timed covers at least so many items. */
+/** Small selections are scanned repeatedly: a timed interval covers at least this many items. */
 constexpr int itemsInAStretch = 10'000;
 
-/** Of small selections so many sets are made, each with its rows. */
+/** The number of sets made from a small selection, each with its rows. */
 constexpr int setsInAStretch = 10;
 
 std::vector<Items> SelectionsOf(const BenchBoard& board, int size)
@@ -51,7 +51,7 @@ std::vector<Items> SelectionsOf(const BenchBoard& board, int size)
     return selections;
 }
 
-/** Benchmarks a set; @p make makes one for a selection of the board, and @p scan reads what the set has to read. */
+/** Benchmarks a set; @p make creates one for a selection of the board, and @p scan reads what the set must read. */
 template <class MakeSet>
 void Add(Shelf& shelf, const char* name, Kind kind, void (*scan)(const Items&), MakeSet make)
 {

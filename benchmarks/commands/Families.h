@@ -4,7 +4,7 @@ namespace Bench {
 
 class Shelf;
 
-// Each registers the commands of one family. Commands over the same items come together, since the shelf keeps only one
+// Each registers the commands of one family. Commands over the same items are together, since the shelf keeps only one
 // family of designs.
 void AddViasAndPads(Shelf& shelf);
 void AddDrawings(Shelf& shelf);

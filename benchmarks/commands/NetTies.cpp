@@ -26,7 +26,7 @@ struct TiesOfBoard
     QString State() const { return SortedState(board); }
 
     BenchBoard board;
-    TProject project; // Before the board, when they go.
+    TProject project; // Destroyed before the board.
     QList<Tie*> ties;
 };
 
@@ -66,7 +66,7 @@ struct TiesOfSchematic
     QList<Tie*> ties;
 };
 
-/** Edits all ties of a document. The command finds them anew, by their numbers, in all items of the document. */
+/** Edits all ties of a document. The command looks them up, by number, among all items of the document. */
 template <class Design, class NamedCommand, class Attribute>
 class TieEdit : public OneCommandEdit
 {

@@ -92,7 +92,7 @@ protected:
     Unrouted& board;
 };
 
-/** Gives every net another class, with a command for each, since the command is one of a single net. */
+/** Gives every net another class, with one command per net. */
 class ChangingClass : public NetsEdit
 {
 public:
@@ -148,7 +148,7 @@ private:
     }
 };
 
-/** Wires of two nets by turns, all of a net linked head to tail. */
+/** Alternating wires of two nets, all of a net linked head to tail. */
 class TwoNets : public NetBoard
 {
 public:

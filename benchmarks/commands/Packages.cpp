@@ -17,7 +17,7 @@ namespace {
 
 /**
  * Selected packages of two surface pads and two texts. A wire of the package's side is linked with the left pad; one of
- * the other side ends where that pad comes to lie when the package changes its side.
+ * the other side ends at the pad's position after the package has changed its side.
  */
 class PackageBoard : public ShownBoard
 {
@@ -77,7 +77,7 @@ private:
     }
 };
 
-/** A command over all packages of a board. All but the engine's look first which packages are still there. */
+/** A command over all packages of a board. All but the engine's first check which packages still exist. */
 class PackagesEdit : public OneCommandEdit
 {
 public:
@@ -258,8 +258,7 @@ private:
 template <class PackageEdit>
 void Add(Shelf& shelf, const char* name)
 {
-    // 1 000 000 packages with pads, texts and wires are 7 000 000 items, which need more memory than a machine may
-    // have.
+    // 1 000 000 packages with pads, texts and wires are 7 000 000 items, which may exceed the machine's memory.
     RegisterEdit(
         name, [&shelf](int size) { return std::make_unique<PackageEdit>(shelf, size); }, AllSizes(100'000));
 }

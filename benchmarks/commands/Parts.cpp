@@ -30,8 +30,8 @@ quint16 ComponentOf(int number, int components)
 }
 
 /**
- * Parts of two pins, two by two: of each two one pin lies on one of the other part, and at the pins outside a net wire
- * ends. Their packages have a pad each.
+ * Pairs of two-pin parts: one pin of each lies on one of the other part, and a net wire ends at the outer pins. Their
+ * packages have a pad each.
  */
 class PartSheet : public ProjectInStep
 {
@@ -46,7 +46,7 @@ public:
                 PlacePackage(number, component);
             }
         }
-        Settle(); // What is new in a scene is found slowly until it has been taken in.
+        Settle(); // Lookup of new items in a scene is slow until they are indexed.
         for (TGraphicsItem* item : qAsConst(parts)) {
             static_cast<TGraphicsPartItem*>(item)->Connect({});
         }
@@ -85,7 +85,7 @@ private:
     }
 
     static constexpr int mostComponents = 60'000;
-    int pairsInARow; ///< So that the sheet is as high as wide: a scene is searched more slowly along long rows.
+    int pairsInARow; ///< Makes the sheet square: lookup in a scene is slower along long rows.
 };
 
 /** Connects or disconnects all parts of a sheet. */
@@ -177,7 +177,7 @@ private:
     Command MakeCommand() const override { return std::make_unique<TCmdPartDisconnect>(sheet.parts, &sheet.project); }
 };
 
-/** Components of one part and one package, both with a text for the value; above 50 000 of two. */
+/** Components of one part and one package, of two above 50 000, all with a text for the value. */
 class ComponentSheet : public ProjectInStep
 {
 public:

@@ -18,7 +18,7 @@ namespace {
 
 /**
  * Ports without a visible name, each wired to a part with a single pin, and to the next port of its net, by net wires.
- * Packages of a pad each stand on the board for the first thousand parts: the rat lines of more would take long, though
+ * Packages of a pad each are on the board for the first thousand parts: the rat lines of more would take long, though
  * they are in no figure. Parts above 60 000 share numbers.
  */
 class PortSheet : public ProjectInStep
@@ -89,7 +89,7 @@ private:
     static constexpr double pitch = 100;
 };
 
-/** Renames all ports to one name that is new, so that their nets go. The loop knows them, and the components. */
+/** Renames all ports to one new name, so that their nets are deleted. The loop knows these, and the components. */
 class RenamingPorts : public OneCommandEdit
 {
 public:

@@ -24,7 +24,7 @@ struct KeepoutLayer
 
 void AddPours(Shelf& shelf)
 {
-    // Of a refill only the note is in the figures: the copper is worked out when it is next looked at.
+    // The figures include only the request for a refill: the copper is computed when it is next read.
     AddAttribute<TCmdPourClEtch>(shelf, "TCmdPourClEtch", Kind::Pour, 0.3);
     AddAttribute<TCmdPourClBorder>(shelf, "TCmdPourClBorder", Kind::Pour, 0.3);
     AddAttribute<TCmdPourClPour>(shelf, "TCmdPourClPour", Kind::Pour, 0.3);
@@ -37,7 +37,7 @@ void AddPours(Shelf& shelf)
     AddAttribute<TCmdPourOnlyConn>(shelf, "TCmdPourOnlyConn", Kind::Pour, true);
     AddAttribute<TCmdPourThermEn>(shelf, "TCmdPourThermEn", Kind::Pour, true);
     AddAttribute<TCmdPourNet>(shelf, "TCmdPourNet", Kind::Pour, QStringLiteral("GND"));
-    // Moving a pour that waits for its refill would work the copper out: these have never been asked to fill.
+    // Moving a pour with a pending refill would compute the copper: for these a fill was never requested.
     AddAttribute<TCmdPourLayer>(shelf, "TCmdPourLayer", Kind::UnfilledPour, Osmirel::CopperBottom);
 
     RegisterEdit("TCmdKeepoutLayEn", [&shelf](int size) {

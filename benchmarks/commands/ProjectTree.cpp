@@ -14,7 +14,7 @@ namespace Bench {
 
 namespace {
 
-/** A tree that is shown, with as many parts as pages. Numbers are shared by what comes after the largest. */
+/** A tree that is shown, with as many parts as pages. Entries after the largest number share numbers. */
 struct Tree
 {
     explicit Tree(int count)
@@ -67,7 +67,7 @@ public:
     void LoopBack() override
     {
         const auto& all = design.*entries;
-        for (std::size_t i = all.size(); i-- > 0;) { // As commands are undone.
+        for (std::size_t i = all.size(); i-- > 0;) { // In the order of undo.
             all[i]->setText(Entry::nameColumn, QString::number(i));
         }
     }
@@ -111,7 +111,7 @@ struct PageOpening
     static QString Describe(Opened page) { return QString::number(page); }
 };
 
-/** Opens one entry after the other, with a command for each, which is asked what to open. The loop stores that. */
+/** Opens one entry after the other, each with a command, and reads what to open. The loop stores that. */
 template <class Opening>
 class OpeningEntries : public Edit
 {
@@ -203,7 +203,7 @@ void Add(Shelf& shelf, const char* name, int largest)
 void AddProjectTree(Shelf& shelf)
 {
     Add<RenamingParts>(shelf, "TCmdPartRename", 100'000);
-    // The column of pages is measured anew for each: 3 ms.
+    // The column of pages is measured again for each: 3 ms.
     Add<RenamingPages>(shelf, "TCmdPageRename", 1'000);
     Add<OpeningEntries<PartOpening>>(shelf, "TCmdPartOpen", 100'000);
     Add<OpeningEntries<PageOpening>>(shelf, "TCmdPageOpen", 100'000);

@@ -17,7 +17,7 @@ namespace Bench {
 
 namespace {
 
-/** Net wires of two nets by turns, all of a net linked head to tail. */
+/** Alternating net wires of two nets, all of a net linked head to tail. */
 struct TwoNetsOfSheet
 {
     explicit TwoNetsOfSheet(int count)
@@ -85,7 +85,7 @@ private:
     TwoNetsOfSheet& design;
 };
 
-/** Buses of sixteen entries, each of which leads to a net wire that begins or ends at it by turns. */
+/** Buses of sixteen entries, each of which leads to a net wire that alternately begins or ends at it. */
 struct BusSheet
 {
     explicit BusSheet(int count)

@@ -10,7 +10,7 @@ namespace Bench {
 
 namespace {
 
-/** Gives all tags another name, with the value that the project holds under it. Undo looks up a value for each. */
+/** Gives all tags another name, with the project's value for it. Undo looks up a value for each. */
 class RenamingTags : public OneCommandEdit
 {
 public:

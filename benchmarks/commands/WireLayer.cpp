@@ -24,7 +24,7 @@ constexpr Osmirel::Layer newLayer = Osmirel::CopperBottom;
 constexpr int movingInAChain = 4;
 
 /**
- * Of each chain four wires move and two stay, and moving them does all that there is to do:
+ * Of each chain four wires move and two stay, which exercises every step of the command:
  *
  *     surface pad - a - b - moving junction - c - junction - d - staying wire
  *                                                  |
@@ -116,7 +116,7 @@ private:
     }
 };
 
-/** Moves four wires of each chain. The loop knows the chains, and so finds out nothing about them. */
+/** Moves four wires of each chain. The loop knows the chains, and needs no lookup. */
 class MovingWires : public OneCommandEdit
 {
 public:
@@ -218,7 +218,7 @@ private:
 
     Network& network;
     QList<TGraphicsWireItem*> wires;
-    std::vector<TGraphicsViaItem*> vias; ///< Two of each chain, while the loop is in force.
+    std::vector<TGraphicsViaItem*> vias; ///< Two of each chain, between the loop and its undo.
 };
 
 } // namespace

@@ -8,7 +8,7 @@ namespace Bench {
 
 using Items = QList<TGraphicsItem*>;
 
-// What a set has to know of its items, read and compared until it is known, and nothing else.
+// The minimum that a set must read: attributes, compared until they differ, and nothing else.
 
 void ScanVias(const Items& items);
 void ScanPads(const Items& items);

@@ -6,7 +6,7 @@
 
 #include <QStringList>
 
-/** Pieces that scans are written with. */
+/** Building blocks of scans. */
 namespace Bench {
 
 template <class... Values>
@@ -35,7 +35,7 @@ const Item* LastOf(const Items& items, int kind)
     return last;
 }
 
-/** The first one of a kind, where every item is looked at for its kind, as a set has to keep them. */
+/** The first one of a kind, after reading the kind of every item, since a set must collect them. */
 template <class Item>
 const Item* FirstOf(const Items& items, int kind)
 {

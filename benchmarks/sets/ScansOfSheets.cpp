@@ -14,7 +14,7 @@ namespace Bench {
 
 void ScanNetWires(const Items& items)
 {
-    // Their nets, each once: the level of all of them is edited.
+    // Their nets without duplicates: the level of all of them is edited.
     QSet<QString> nets;
     QString first;
     bool sameNet = true;

@@ -13,7 +13,7 @@
 
 namespace Bench {
 
-/** Small selections are timed many at once: what is timed covers at least so many items. */
+/** Small selections are edited repeatedly: a timed interval covers at least this many items. */
 constexpr int itemsInAStretch = 1'000;
 
 /**
@@ -127,7 +127,7 @@ private:
     std::vector<Selection> selections;
 };
 
-/** Benchmarks a command of the engine over items of a kind; @p arguments are what it is made with besides the
+/** Benchmarks a command of the engine over items of a kind; @p arguments are those of its constructor after the
  *  selection. */
 template <class NamedCommand, class... Arguments>
 void AddAttribute(Shelf& shelf, const char* name, Kind kind, Arguments... arguments)

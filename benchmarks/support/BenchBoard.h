@@ -10,12 +10,12 @@
 
 namespace Bench {
 
-/** What a board is filled with. */
+/** The items that a board is filled with. */
 enum class Kind {
     Via,
     Pad,
     Hole,
-    Drawing, ///< Rectangles and polygons by turns.
+    Drawing, ///< Primitives: alternating rectangles and polygons.
     Milling,
     Outline,
     Text,
@@ -24,10 +24,10 @@ enum class Kind {
     UnfilledPour,
     Keepout,
     NetTie,
-    NetTieSymbol, ///< Those of a schematic; that they lie on a board makes no difference to a set.
+    NetTieSymbol, ///< Those of a schematic; that they are on a board makes no difference to a set.
     Package,      ///< Without children.
-    // Kinds of the schematic. That they lie on a board makes no difference to what edits them.
-    NetWire, ///< Of a hundred nets by turns.
+    // Kinds of the schematic. That they are on a board makes no difference to sets and commands.
+    NetWire, ///< Of a hundred nets in turn.
     Bus,
     Pin, ///< Of no symbol.
     Port,
@@ -41,7 +41,7 @@ class ShownBoard : public TBoard
 public:
     ShownBoard();
 
-    /** Lets scene and view take in the changes, and nets and rat lines come up to date. */
+    /** Lets scene and view process the changes, and updates nets and rat lines. */
     void Settle();
 
     /** Places an item at scene coordinates. */
@@ -72,10 +72,10 @@ private:
     QList<TGraphicsItem*> made;
 };
 
-/** Where the item of a number lies in a grid. */
+/** The grid position of the item of a number. */
 QPointF GridPoint(int number, double pitch = 50, int itemsInARow = 1000);
 
-/** The most items of a kind that a board is made of. */
+/** The maximum number of items of a kind on a board. */
 int MostOf(Kind kind);
 
 BenchBoard& BoardOf(Shelf& shelf, Kind kind, int count);

@@ -159,7 +159,7 @@ TGraphicsItem* PlaceKeepout(ShownBoard& board, int number)
 
 TGraphicsItem* PlaceNetTie(ShownBoard& board, int number)
 {
-    // Ties bear numbers of 16 bits: beyond 65 536 they share them, and with them their values.
+    // Ties have 16-bit numbers: beyond 65 536 they share them, and with them their values.
     const auto ofTie = static_cast<quint16>(number);
     auto* tie = board.Place<TGraphicsNetTiePcbItem>(GridPoint(number));
     tie->SetNumber(ofTie);

@@ -11,13 +11,13 @@ class TGraphicsNetItem;
 
 namespace Bench {
 
-/** A schematic of one page, which a view shows. */
+/** A schematic of one page, shown by a view. */
 class ShownSheet : public TSchematic
 {
 public:
     ShownSheet();
 
-    /** Lets scene and view take in the changes. */
+    /** Lets scene and view process the changes. */
     void Settle();
 
     TSchematicPage& Sheet() { return *page; }
@@ -33,7 +33,7 @@ public:
         return placed;
     }
 
-    /** A net wire of a net, linked to nothing. */
+    /** A net wire of a net, without links. */
     TGraphicsNetItem* PlaceWire(const QPointF& from, const QPointF& to, const QString& net);
 
     void AddNet(const QString& name) { NetModel()->AddNet(name, QStringLiteral("Default"), QColor(), QColor(), 0); }

@@ -25,8 +25,8 @@ void ExpectSame(const std::string& name, const char* what, const QString& actual
     }
 }
 
-/** Sees that the command does what the loop does, that this is anything at all, and that both take it back alike: where
- *  an undo does not restore everything, neither does its loop. */
+/** Checks that the command does the same as the loop, that this changes anything, and that both undo it equally: if an
+ *  undo does not restore everything, neither does its loop. */
 void Check(const std::string& name, Edit& edit)
 {
     const QString before = edit.State();

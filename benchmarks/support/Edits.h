@@ -15,7 +15,7 @@ namespace Bench {
 
 using Command = std::unique_ptr<QUndoCommand>;
 
-/** An edit of items with commands, and the plain loops that do the same without any command. */
+/** An edit of items with commands, and the plain loops that do the same without commands. */
 class Edit
 {
 public:
@@ -27,32 +27,31 @@ public:
     /** Makes the commands that are redone and undone. */
     virtual void Prepare() = 0;
 
-    /** How many selections of the size asked for each step goes through. */
+    /** The number of selections of the requested size in each step. */
     virtual double Selections() const { return 1; }
 
-    /** Brings the items into the caches as far as they fit: every step begins like that. */
+    /** Warms up the caches with the items, as far as they fit: the start of every step. */
     virtual void ReadAll() = 0;
 
-    /** Edits every item without any command, and takes it back. */
+    /** Edits every item without a command, and reverts that. */
     virtual void Loop() = 0;
     virtual void LoopBack() = 0;
 
-    /** Makes commands that are not used, and deletes them. */
+    /** Creates commands and deletes them unused. */
     virtual void Construct() = 0;
     virtual void Discard() = 0;
 
     virtual void Redo() = 0;
     virtual void Undo() = 0;
 
-    /** Lets the document take in the changes, as it does after every edit: a change that waits for that costs less. */
+    /** Lets the document process the changes, as after every edit: further changes before that would cost less. */
     virtual void Settle() = 0;
 
-    /** What is compared to see that command and loop do the same. */
+    /** The state that is compared to check that command and loop do the same. */
     virtual QString State() = 0;
 };
 
-/** An edit that takes one command for each place, as the application pushes them: done in order and undone from the
- *  end. */
+/** An edit with one command for each place, as the application pushes them: done in order and undone in reverse. */
 class ManyCommandsEdit : public Edit
 {
 public:
@@ -70,7 +69,7 @@ private:
     std::vector<Command> unused;
 };
 
-/** An edit that takes a single command. */
+/** An edit with a single command. */
 class OneCommandEdit : public ManyCommandsEdit
 {
 protected:
@@ -87,7 +86,7 @@ std::vector<int> AllSizes(int largest = 1'000'000);
 
 /**
  * Registers "name/loop", "/loop back", "/construct", "/redo" and "/undo". Before a small size is measured, command and
- * loop are seen to do the same and to take it back; otherwise the program ends.
+ * loop are checked to do and undo the same; otherwise the program ends.
  */
 void RegisterEdit(const std::string& name, const MakeEdit& make, const std::vector<int>& sizes = AllSizes());
 

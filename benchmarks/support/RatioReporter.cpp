@@ -166,7 +166,7 @@ std::string RatioReporter::Ratio(const Subject& subject, const Goal& comparison,
     }
     Repetitions ratios;
     for (const auto& [repetition, time] : variant->bySize.at(size)) {
-        ratios[repetition] = time / baseline->bySize.at(size).at(repetition); // Of the same round.
+        ratios[repetition] = time / baseline->bySize.at(size).at(repetition); // In the same round.
     }
     const double ratio = MedianOf(ratios);
     const bool missed = std::any_of(goals.begin(), goals.end(), [&](const Goal& goal) {

@@ -10,7 +10,7 @@
 
 namespace Bench {
 
-/** Prints, when the last benchmark is done, a table of ratios and one of times, with a line for each subject. */
+/** Prints, after the last benchmark, a table of ratios and one of times, with a row for each subject. */
 class RatioReporter : public benchmark::BenchmarkReporter
 {
 public:
@@ -29,7 +29,7 @@ private:
         std::string name;
         std::map<int, Repetitions> bySize;
         double slope = 0;  ///< Fitted nanoseconds for each item.
-        double misfit = 0; ///< Root mean square of the distances from the fitted line, as a part of the mean.
+        double misfit = 0; ///< Root mean square of the distances from the fitted line, as a fraction of the mean.
     };
 
     struct Subject
@@ -47,7 +47,7 @@ private:
     std::string Ratio(const Subject& subject, const Goal& comparison, int size) const;
 
     std::vector<Goal> goals;
-    std::map<std::int64_t, std::vector<Run>> families; ///< In the order of registration, in which they are not run.
+    std::map<std::int64_t, std::vector<Run>> families; ///< In the order of registration, which is not that of the runs.
     std::vector<Subject> subjects;
 };
 

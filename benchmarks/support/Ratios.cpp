@@ -12,7 +12,7 @@ namespace Bench {
 
 namespace {
 
-/** Deals out the times of a subject's rounds to the benchmarks of its variants, whichever of them comes first. */
+/** Distributes the times of a subject's rounds to the benchmarks of its variants, in any order. */
 class Rounds
 {
 public:
@@ -101,7 +101,7 @@ void UseOffscreenPlatform()
 
 int RunAndCompare(int argc, char** argv, const std::vector<Goal>& goals, Order order)
 {
-    // What the caller gives comes later and so holds.
+    // The caller's arguments come later and so override these.
     std::vector<std::string> arguments{argv[0]};
     if (order == Order::Shuffled) {
         arguments.insert(arguments.end(), {"--benchmark_enable_random_interleaving=true", "--benchmark_repetitions=5"});

@@ -5,22 +5,22 @@
 #include <string>
 #include <vector>
 
-/** Benchmarks that come as variants of one task and are judged by the ratios of their times. */
+/** Benchmarks of variants of one task, evaluated by the ratios of their times. */
 namespace Bench {
 
 /** Seconds that each variant of a task took, in the order in which the variants are named. */
 using Times = std::vector<double>;
 
-/** From this size on a task is done once only, whatever the number of repetitions: all together it takes long. */
+/** From this size on a task runs only once, whatever the number of repetitions, since it takes long. */
 constexpr int smallestMeasuredOnce = 100'000;
 
 /** Does a task of the given size with every variant in turn. */
 using Round = std::function<Times(int size)>;
 
-/** Processor time of the calling thread in seconds: time in which other programs had the processor does not count. */
+/** Processor time of the calling thread in seconds, which excludes time used by other programs. */
 double ThreadSeconds();
 
-/** Times one stretch of work. */
+/** Times one interval of work. */
 template <class Work>
 double SecondsOf(Work work)
 {
@@ -43,7 +43,7 @@ Times MedianOfRounds(const std::function<Times()>& round);
 void Register(const std::string& subject, const std::vector<std::string>& variants, const std::vector<int>& sizes,
               const Round& round);
 
-/** What a variant is compared with, and the ratio that it is meant to keep to, if any, at one size or all. */
+/** The baseline of a variant, and its goal for the ratio, if any, at one size or all. */
 struct Goal
 {
     static constexpr int everySize = 0;
@@ -57,11 +57,11 @@ struct Goal
 /** Lets the program run without a screen; called before the `QApplication` is made. */
 void UseOffscreenPlatform();
 
-/** In which order the goes are done: a shelf of designs needs those of one subject together. */
+/** The order of the rounds: a shelf of designs needs those of one subject together. */
 enum class Order { Shuffled, AsRegistered };
 
 /**
- * Runs what is registered, repeated unless the command line says otherwise, and prints medians as a Markdown table: the
+ * Runs what is registered, repeatedly unless the command line overrides it, and prints medians as a Markdown table: the
  * time for each item, and for a variant that has a baseline the ratio to it, in bold where it misses its goal.
  * Returns the exit code.
  */

@@ -6,12 +6,12 @@
 
 namespace Bench {
 
-/** Designs are slow to make, so that each is made once. Those of one family are kept, until another one is asked for:
+/** Designs are slow to create, so each is created once. Those of one family are kept until another one is requested:
  *  all of them at once would not fit into memory. */
 class Shelf
 {
 public:
-    /** The design of a family and size; @p make makes it, as a `std::unique_ptr`. */
+    /** The design of a family and size; @p make creates it, as a `std::unique_ptr`. */
     template <class Design, class Make>
     Design& Get(const std::string& family, int size, Make make)
     {
