@@ -43,7 +43,7 @@ struct Chain
     TGraphicsWireItem* branch;
 };
 
-/** A board of chains, each on a net of its own, in a project that keeps nets up to date. */
+/** A board of chains, each on a net of its own, in a project in sync mode, which updates nets. */
 class Network : public ShownBoard
 {
 public:

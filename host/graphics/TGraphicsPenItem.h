@@ -5,7 +5,7 @@
 #include <QBrush>
 #include <QPen>
 
-/** An item that is drawn with a pen of its own. */
+/** An item that is drawn with its own pen. */
 class TGraphicsPenItem : public TGraphicsItem
 {
 public:

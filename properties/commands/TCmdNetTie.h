@@ -22,7 +22,7 @@ class PROPERTIES_EXPORT TCmdNetTieBase : public TReversibleCommand
 public:
     explicit TCmdNetTieBase(TProject* project);
 
-    /** The ties of the schematic as it stands now; none without a schematic. */
+    /** The present ties of the schematic; none without a schematic. */
     QList<TGraphicsNetTieSchItem*> GetNetTiesOnSch() const;
     /** The ties that the board's view shows; none without a board and its view. */
     QList<TGraphicsNetTiePcbItem*> GetNetTiesOnPcb() const;

@@ -7,8 +7,8 @@
 #include <algorithm>
 
 /**
- * The items that a view still shows, which tells commands which stored pointers dangle. An item that is not found is
- * never dereferenced. All operations are linear in the items.
+ * The items that a view still shows: commands use it to detect dangling pointers. An item that is not found is never
+ * dereferenced. All operations are linear in the items.
  */
 class TExistingItems
 {

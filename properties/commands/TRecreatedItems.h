@@ -10,7 +10,7 @@
  * and this object while it is not.
  *
  * Later commands on the undo stack may hold such an item: when all is undone and redone, they must find the
- * same object again. So a redo reuses the items of the last one and only sets their attributes anew.
+ * same object again. So a redo reuses the items of the last one and only updates their attributes.
  */
 template <class Item>
 class TRecreatedItems

@@ -6,7 +6,7 @@
 
 /**
  * The outer steps of every command: undo() is a no-op unless redo() acted since the last undo(). A second redo() in a
- * row acts once more.
+ * row acts again.
  *
  * A command cannot act while its context is missing, for example the board of its project: nothing changes. If redo()
  * could not act, the next undo() is a no-op. If undo() could not act, the command stays done, and so the next redo()

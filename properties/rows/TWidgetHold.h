@@ -4,8 +4,8 @@
 #include <QWidget>
 
 /**
- * Keeps a widget alive for as long as this object lives, while a signal of the widget is handled: the toolkit goes on
- * in the widget afterwards, and the handler may have deleted the panel, or run a dialog whose event loop performs
+ * Keeps a widget alive for as long as this object lives, while a signal of the widget is handled: the toolkit still
+ * uses the widget afterwards, and the handler may have deleted the panel, or run a dialog whose event loop performs
  * deferred deletions. A widget may be held several times; holding null is a no-op.
  */
 class TWidgetHold

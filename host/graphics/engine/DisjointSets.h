@@ -12,7 +12,7 @@ public:
     int Root(int number);
     /** The count of numbers. */
     int Size() const { return static_cast<int>(parents.size()); }
-    /** Makes one set of two, and tells whether they were different. */
+    /** Joins two sets, and returns whether they were different. */
     bool Join(int one, int other);
 
 private:
