@@ -302,6 +302,15 @@ const QList<Change>& StateChanges()
              On<TGraphicsEllipseItem>(
                  [](TGraphicsEllipseItem& ellipse) { ellipse.Brush().setStyle(Qt::CrossPattern); }),
              {"brush"}},
+            {"points of a milling path",
+             [](TestBoard& board) {
+                 TGraphicsItem* milling = Placed<TGraphicsPolylineItem>(board);
+                 milling->SetLayer(Osmirel::Milling);
+                 return milling;
+             },
+             On<TGraphicsPolylineItem>(
+                 [](TGraphicsPolylineItem& milling) { milling.SetPoints(QPolygonF(QRectF(0, 0, 1, 1))); }),
+             {"points"}},
             {"polyline corners",
              Placed<TGraphicsPolylineItem>,
              On<TGraphicsPolylineItem>(

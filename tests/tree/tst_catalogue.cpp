@@ -96,16 +96,15 @@ private slots:
     void listsWhatTheLibraryExports_data()
     {
         QTest::addColumn<QString>("prefix");
-        QTest::addColumn<int>("count");
-        QTest::newRow("sets") << "TPropertySetFor" << 19;
-        QTest::newRow("commands") << "TCmd" << 89;
+        QTest::newRow("sets") << "TPropertySetFor";
+        QTest::newRow("commands") << "TCmd";
     }
     void listsWhatTheLibraryExports()
     {
         QFETCH(QString, prefix);
-        QFETCH(int, count);
-        QCOMPARE(Listed(prefix), Exported(prefix + QStringLiteral("\\w+")));
-        QCOMPARE(Listed(prefix).size(), count);
+        const QStringList exported = Exported(prefix + QStringLiteral("\\w+"));
+        QVERIFY(!exported.isEmpty());
+        QCOMPARE(Listed(prefix), exported);
     }
 
     void saysWhereEachIsBuiltAndTested_data()
