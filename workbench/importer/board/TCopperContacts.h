@@ -2,6 +2,8 @@
 
 #include "workbench/importer/format/TGridPoint.h"
 
+#include <graphics/engine/TBoxIndex.h>
+
 #include <QVector>
 
 class TGraphicsItem;
@@ -12,13 +14,13 @@ class TCopperContacts
 public:
     explicit TCopperContacts(const QVector<TGraphicsItem*>& copper);
 
-    /** The item whose copper is there, the one with the nearest centre of several; null if there is none. */
+    /** The item whose copper is there, the first with the nearest centre of several; null if there is none. */
     TGraphicsItem* At(const TGridPoint& place) const;
     /** Where the items' own positions are. */
     const QVector<TGridPoint>& Centres() const { return centres; }
 
 private:
-    QHash<TGridPoint, QVector<TGraphicsItem*>> cells;
-    QVector<TGraphicsItem*> large; ///< What would fill too many cells.
+    QVector<TGraphicsItem*> items;
     QVector<TGridPoint> centres;
+    TBoxIndex boxes; ///< On the file's grid, by the items' numbers.
 };
