@@ -8,7 +8,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 packages=(
     g++ binutils cmake ninja-build
     qtbase5-dev qttools5-dev qttools5-dev-tools
-    libpolyclipping-dev libnanoflann-dev libbenchmark-dev librapidcheck-dev
+    libboost-dev libpolyclipping-dev libbenchmark-dev librapidcheck-dev
     fonts-dejavu-core
 )
 

@@ -1,6 +1,7 @@
 #include <application/engine/MissingConnections.h>
 
 #include <application/engine/SpanningTree.h>
+#include <graphics/engine/TBoxIndex.h>
 #include <graphics/engine/TLinkNode.h>
 #include <objects/TGraphicsKeepoutItem.h>
 #include <objects/TGraphicsPourItem.h>
@@ -8,8 +9,7 @@
 #include <objects/TGraphicsViaItem.h>
 
 #include <algorithm>
-#include <cmath>
-#include <numeric>
+#include <iterator>
 
 namespace {
 
@@ -25,60 +25,33 @@ bool ShareLayer(const TGraphicsViaItem& one, const TGraphicsViaItem& other)
     return oneFirst <= otherLast && otherFirst <= oneLast;
 }
 
-/** Joins the groups of pads and vias that overlap. */
-class OverlapFinder
+QRectF SceneBox(const TGraphicsViaItem* item)
 {
-public:
-    OverlapFinder(const QVector<const TGraphicsViaItem*>& copper, const QVector<int>& ofGroup, DisjointSets& toJoin)
-        : items(copper), groups(ofGroup), sets(toJoin)
-    {
-        for (const TGraphicsViaItem* item : items) {
-            boxes.append(item->sceneTransform().mapRect(item->Outline().boundingRect()));
-            cell = std::max({cell, boxes.last().width(), boxes.last().height()});
-        }
-        for (int i = 0; i < items.size(); ++i) {
-            cells[CellOf(i)].append(i);
-        }
-    }
+    return item->sceneTransform().mapRect(item->Outline().boundingRect());
+}
 
-    void Join()
-    {
-        for (int i = 0; i < items.size(); ++i) {
-            const QPair<int, int> at = CellOf(i);
-            for (int dx = -1; dx <= 1; ++dx) {
-                for (int dy = -1; dy <= 1; ++dy) {
-                    const QVector<int> near = cells.value({at.first + dx, at.second + dy});
-                    for (const int other : near) {
-                        JoinIfOverlapping(i, other);
-                    }
-                }
+bool Overlap(const TGraphicsViaItem& one, const TGraphicsViaItem& other)
+{
+    return ShareLayer(one, other) && one.mapFromItem(&other, other.Outline()).intersects(one.Outline());
+}
+
+/** Joins the groups of pads and vias that overlap; `groups` runs parallel to `items`. */
+void JoinOverlapping(const QVector<const TGraphicsViaItem*>& items, const QVector<int>& groups, DisjointSets& sets)
+{
+    QVector<QRectF> boxes;
+    boxes.reserve(items.size());
+    std::transform(items.cbegin(), items.cend(), std::back_inserter(boxes), SceneBox);
+    const TBoxIndex index(boxes, TBoxIndex::Of);
+    for (int i = 0; i < items.size(); ++i) {
+        const QVector<int> near = index.Meeting(TBoxIndex::Of(boxes[i]));
+        for (const int other : near) {
+            if (other > i && boxes[i].intersects(boxes[other]) && sets.Root(groups[i]) != sets.Root(groups[other])
+                && Overlap(*items[i], *items[other])) {
+                sets.Join(groups[i], groups[other]);
             }
         }
     }
-
-private:
-    QPair<int, int> CellOf(int i) const
-    {
-        const QPointF center = boxes[i].center();
-        return {static_cast<int>(std::floor(center.x() / cell)), static_cast<int>(std::floor(center.y() / cell))};
-    }
-
-    void JoinIfOverlapping(int i, int other)
-    {
-        if (other > i && boxes[i].intersects(boxes[other]) && ShareLayer(*items[i], *items[other])
-            && sets.Root(groups[i]) != sets.Root(groups[other])
-            && items[other]->mapToItem(items[i], items[other]->Outline()).intersects(items[i]->Outline())) {
-            sets.Join(groups[i], groups[other]);
-        }
-    }
-
-    const QVector<const TGraphicsViaItem*>& items;
-    const QVector<int>& groups;
-    DisjointSets& sets;
-    QVector<QRectF> boxes;
-    double cell = 1;
-    QHash<QPair<int, int>, QVector<int>> cells;
-};
+}
 
 QVector<QPointF> AnchorsOf(const TGraphicsItem& item)
 {
@@ -167,7 +140,7 @@ QVector<QLineF> BoardCopper::MissingConnections(const QString& net) const
             tree.AddPoint(anchor, group);
         }
     }
-    OverlapFinder(vias, groupsOfVias, sets).Join();
+    JoinOverlapping(vias, groupsOfVias, sets);
     for (const PourArea& pour : pours) {
         if (pour.pour->Net() != net || pour.pour->FillType() == Qt::NoBrush) {
             continue;

@@ -1,12 +1,11 @@
 #include <application/engine/SpanningTree.h>
 
-#include <nanoflann.hpp>
+#include <graphics/engine/TBoxIndex.h>
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
 #include <map>
-#include <memory>
 #include <numeric>
 #include <tuple>
 
@@ -27,78 +26,37 @@ struct Edge
     }
 };
 
-/** Points by number, as the library asks for them. */
-struct Cloud
-{
-    const QVector<QPointF>& points;
-    const Indices& numbers;
-
-    size_t kdtree_get_point_count() const { return numbers.size(); }
-    double kdtree_get_pt(size_t index, size_t dimension) const
-    {
-        const QPointF& point = points[numbers[index]];
-        return dimension == 0 ? point.x() : point.y();
-    }
-    template <class Box>
-    bool kdtree_get_bbox(Box&) const
-    {
-        return false;
-    }
-};
-
-using Tree = nanoflann::KDTreeSingleIndexAdaptor<nanoflann::L2_Simple_Adaptor<double, Cloud>, Cloud, 2, size_t>;
-
-/** The best line from a point to one of another set, if it is better than what is known. What the library fills. */
-class NearestOfOthers
-{
-public:
-    NearestOfOthers(const Indices& numbersOfTree, const std::vector<int>& setOfPoint, int fromPoint, const Edge& known)
-        : numbers(numbersOfTree), setOf(setOfPoint), from(fromPoint), best(known)
-    {}
-
-    const Edge& Best() const { return best; }
-
-    size_t size() const { return best.from < 0 ? 0 : 1; }
-    bool full() const { return best.from >= 0; }
-    /** A little more than the best, so that points just as near are looked at, and the choice is always the same. */
-    double worstDist() const { return std::nextafter(best.squareLength, std::numeric_limits<double>::infinity()); }
-    bool addPoint(double squareDistance, size_t index)
-    {
-        const int to = numbers[index];
-        if (setOf[static_cast<size_t>(to)] != setOf[static_cast<size_t>(from)]) {
-            best = std::min(best, Edge{squareDistance, std::min(from, to), std::max(from, to)});
-        }
-        return true;
-    }
-
-private:
-    const Indices& numbers;
-    const std::vector<int>& setOf;
-    int from;
-    Edge best;
-};
-
-/** A search tree over some of the points. */
+/** An index of some of the points. */
 class PointIndex
 {
 public:
-    PointIndex(const QVector<QPointF>& points, Indices ofThese)
-        : numbers(std::move(ofThese)), cloud{points, numbers}, tree(2, cloud)
+    PointIndex(const QVector<QPointF>& ofPoints, Indices ofThese)
+        : points(ofPoints), numbers(std::move(ofThese)), index(numbers, [&ofPoints](int number) {
+              const QPointF& point = ofPoints[number];
+              return TBoxIndex::Box{point.x(), point.y(), point.x(), point.y()};
+          })
     {}
 
+    /** The best line from a point to one of another set, if it is better than what is known. */
     Edge Nearest(const std::vector<int>& setOf, int from, const Edge& known) const
     {
-        NearestOfOthers nearest(numbers, setOf, from, known);
-        const QPointF& point = cloud.points[from];
-        const double place[] = {point.x(), point.y()};
-        tree.findNeighbors(nearest, place, nanoflann::SearchParams());
-        return nearest.Best();
+        const auto numberOf = [this](int place) { return numbers[static_cast<size_t>(place)]; };
+        const auto setOfNumber = [&setOf](int number) { return setOf[static_cast<size_t>(number)]; };
+        const int ownSet = setOfNumber(from);
+        const auto isOfAnother = [&](int place) { return setOfNumber(numberOf(place)) != ownSet; };
+        const int place = index.Nearest(points[from], std::sqrt(known.squareLength), isOfAnother);
+        if (place < 0) {
+            return known;
+        }
+        const int to = numberOf(place);
+        const QPointF way = points[to] - points[from];
+        return std::min(known, Edge{QPointF::dotProduct(way, way), std::min(from, to), std::max(from, to)});
     }
 
 private:
-    Indices numbers;
-    Cloud cloud;
-    Tree tree;
+    const QVector<QPointF>& points;
+    Indices numbers; ///< In ascending order, so that the first of several in the index is the first of the points.
+    TBoxIndex index;
 };
 
 /** Borůvka's algorithm: each round finds the shortest edge leaving each component. */

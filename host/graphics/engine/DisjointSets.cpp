@@ -1,5 +1,7 @@
 #include <graphics/engine/DisjointSets.h>
 
+#include <cstddef>
+
 int DisjointSets::Add()
 {
     parents.push_back(-1);
@@ -8,7 +10,7 @@ int DisjointSets::Add()
 
 int DisjointSets::Root(int number)
 {
-    const auto parent = [this](int of) -> int& { return parents[static_cast<size_t>(of)]; };
+    const auto parent = [this](int of) -> int& { return parents[static_cast<std::size_t>(of)]; };
     while (parent(number) >= 0) {
         const int above = parent(number);
         if (parent(above) >= 0) {
@@ -26,8 +28,8 @@ bool DisjointSets::Join(int one, int other)
     if (one == other) {
         return false;
     }
-    int& sizeOfOne = parents[static_cast<size_t>(one)];
-    int& sizeOfOther = parents[static_cast<size_t>(other)];
+    int& sizeOfOne = parents[static_cast<std::size_t>(one)];
+    int& sizeOfOther = parents[static_cast<std::size_t>(other)];
     if (sizeOfOne > sizeOfOther) {
         sizeOfOther += sizeOfOne;
         sizeOfOne = other;

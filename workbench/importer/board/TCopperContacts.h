@@ -2,6 +2,8 @@
 
 #include "workbench/importer/format/TGridPoint.h"
 
+#include <graphics/engine/TBoxIndex.h>
+
 #include <QVector>
 
 class TGraphicsItem;
@@ -12,13 +14,13 @@ class TCopperContacts
 public:
     explicit TCopperContacts(const QVector<TGraphicsItem*>& copper);
 
-    /** The item with copper at a place, the one with the nearest centre if there are several; null if there is none. */
+    /** The item with copper at a place, of several the first with the nearest centre; null if there is none. */
     TGraphicsItem* At(const TGridPoint& place) const;
     /** The positions of the items. */
     const QVector<TGridPoint>& Centres() const { return centres; }
 
 private:
-    QHash<TGridPoint, QVector<TGraphicsItem*>> cells;
-    QVector<TGraphicsItem*> large; ///< Items that would occupy too many cells.
+    QVector<TGraphicsItem*> items;
     QVector<TGridPoint> centres;
+    TBoxIndex boxes; ///< On the file's grid, by the items' numbers.
 };

@@ -1,9 +1,12 @@
 #include "workbench/importer/board/TTrackGroup.h"
 
-#include <application/engine/SpanningTree.h>
+#include "workbench/importer/format/GridBoxes.h"
+
+#include <graphics/engine/DisjointSets.h>
 
 #include <QSet>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -36,6 +39,32 @@ bool IsBetweenEnds(const TTrack& track, const TGridPoint& place)
     return Distance(place, track.start) > onMiddleLine && Distance(place, track.end) > onMiddleLine;
 }
 
+/** An index where a track's middle line meets all places within @p margin nanometres of it, and few others. */
+TBoxIndex IndexOf(const QVector<TGridPoint>& places, qint64 margin)
+{
+    constexpr qint64 rounding = 2; // Feet are rounded to whole nanometres.
+    return {places, [&](const TGridPoint& place) { return GridBoxes::Around(place, margin + rounding); }};
+}
+
+QVector<TGridPoint> WithoutRepeats(const QVector<TGridPoint>& places)
+{
+    QSet<TGridPoint> seen;
+    QVector<TGridPoint> once;
+    for (const TGridPoint& place : places) {
+        if (!seen.contains(place)) {
+            seen.insert(place);
+            once.append(place);
+        }
+    }
+    return once;
+}
+
+QLineF MiddleLine(const TTrack& track)
+{
+    return {static_cast<double>(track.start.x), static_cast<double>(track.start.y), static_cast<double>(track.end.x),
+            static_cast<double>(track.end.y)};
+}
+
 } // namespace
 
 void TTrackGroup::Add(const TTrack& track, int source)
@@ -56,22 +85,22 @@ void TTrackGroup::Join()
 
 void TTrackGroup::CutAtPlaces()
 {
-    QSet<TGridPoint> places(contacts.Centres().begin(), contacts.Centres().end());
+    QVector<TGridPoint> places = contacts.Centres();
     for (const TTrackPiece& piece : pieces) {
         places << piece.track.start << piece.track.end;
     }
-    TPlaceGrid grid;
-    for (const TGridPoint& place : qAsConst(places)) {
-        grid.Add(place);
-    }
+    places = WithoutRepeats(places);
+    const TBoxIndex index = IndexOf(places, onMiddleLine);
     std::vector<QVector<TGridPoint>> cuts(pieces.size());
     for (std::size_t i = 0; i < pieces.size(); ++i) {
         const TTrack& track = pieces[i].track;
-        grid.VisitNear(track.start, track.end, onMiddleLine, [&](const TGridPoint& place) {
+        const QVector<int> near = index.Meeting(MiddleLine(track));
+        for (const int number : near) {
+            const TGridPoint& place = places[number];
             if (Distance(place, Foot(track, place)) <= onMiddleLine && IsBetweenEnds(track, place)) {
                 cuts[i].append(place);
             }
-        });
+        }
     }
     Cut(cuts);
 }
@@ -161,7 +190,7 @@ std::vector<int> TTrackGroup::Islands() const
     return islands;
 }
 
-QHash<TGridPoint, TTrackGroup::TTouch> TTrackGroup::TouchesOf(const TPlaceGrid& loose) const
+QHash<TGridPoint, TTrackGroup::TTouch> TTrackGroup::TouchesOf(const QVector<TGridPoint>& ends) const
 {
     const std::vector<int> islands = Islands();
     QHash<TGridPoint, int> islandOf;
@@ -169,10 +198,16 @@ QHash<TGridPoint, TTrackGroup::TTouch> TTrackGroup::TouchesOf(const TPlaceGrid& 
         islandOf.insert(pieces[i].track.start, islands[i]);
         islandOf.insert(pieces[i].track.end, islands[i]);
     }
+    const auto widest = std::max_element(pieces.begin(), pieces.end(), [](const auto& one, const auto& other) {
+        return one.track.width < other.track.width;
+    });
+    const TBoxIndex index = IndexOf(ends, widest->track.width / 2);
     QHash<TGridPoint, TTouch> touches;
     for (std::size_t i = 0; i < pieces.size(); ++i) {
         const TTrack& track = pieces[i].track;
-        loose.VisitNear(track.start, track.end, track.width / 2, [&](const TGridPoint& end) {
+        const QVector<int> near = index.Meeting(MiddleLine(track));
+        for (const int number : near) {
+            const TGridPoint& end = ends[number];
             const TGridPoint foot = Foot(track, end);
             const double distance = Distance(end, foot);
             const bool isOther = islandOf.value(end) != islands[i];
@@ -181,7 +216,7 @@ QHash<TGridPoint, TTrackGroup::TTouch> TTrackGroup::TouchesOf(const TPlaceGrid& 
                 && (known == touches.constEnd() || distance < known->distance)) {
                 touches.insert(end, {distance, i, foot});
             }
-        });
+        }
     }
     return touches;
 }
@@ -192,11 +227,7 @@ void TTrackGroup::JoinLooseEnds()
     if (ends.isEmpty()) {
         return;
     }
-    TPlaceGrid loose;
-    for (const TGridPoint& end : ends) {
-        loose.Add(end);
-    }
-    const QHash<TGridPoint, TTouch> touches = TouchesOf(loose);
+    const QHash<TGridPoint, TTouch> touches = TouchesOf(ends);
     std::vector<QVector<TGridPoint>> cuts(pieces.size());
     for (const TGridPoint& end : ends) {
         const auto touch = touches.constFind(end);

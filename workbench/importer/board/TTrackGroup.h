@@ -1,7 +1,6 @@
 #pragma once
 
 #include "workbench/importer/board/TCopperContacts.h"
-#include "workbench/importer/board/TPlaceGrid.h"
 #include "workbench/importer/board/TTrack.h"
 
 #include <vector>
@@ -48,7 +47,7 @@ private:
     void CutAtPlaces();
     void FindContacts();
     void JoinLooseEnds();
-    QHash<TGridPoint, TTouch> TouchesOf(const TPlaceGrid& loose) const;
+    QHash<TGridPoint, TTouch> TouchesOf(const QVector<TGridPoint>& ends) const;
     QVector<TGridPoint> LooseEnds() const;
     /** A number for each piece, equal for connected pieces. */
     std::vector<int> Islands() const;

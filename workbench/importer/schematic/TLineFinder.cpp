@@ -1,30 +1,23 @@
 #include "workbench/importer/schematic/TLineFinder.h"
 
+#include "workbench/importer/format/GridBoxes.h"
+
 #include <algorithm>
+#include <iterator>
 #include <numeric>
 
-TLineFinder::TLineFinder(const std::vector<TSheetLine>& ofLines) : lines(ofLines)
-{
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        const TSheetLine& line = lines[i];
-        QVector<int>& kind = line.start.y == line.end.y   ? horizontal[line.start.y]
-                             : line.start.x == line.end.x ? vertical[line.start.x]
-                                                          : slanting;
-        kind.append(static_cast<int>(i));
-    }
-}
+TLineFinder::TLineFinder(const std::vector<TSheetLine>& ofLines)
+    : lines(ofLines), boxes(ofLines, [](const TSheetLine& line) { return GridBoxes::Spanning(line.start, line.end); })
+{}
 
 QVector<int> TLineFinder::LinesOver(const TGridPoint& place) const
 {
+    const QVector<int> near = boxes.Meeting(GridBoxes::Around(place));
     QVector<int> over;
-    const auto collect = [&](const QVector<int>& candidates) {
-        std::copy_if(candidates.begin(), candidates.end(), std::back_inserter(over), [&](int line) {
-            return IsOn(place, lines[static_cast<std::size_t>(line)].start, lines[static_cast<std::size_t>(line)].end);
-        });
-    };
-    collect(horizontal.value(place.y));
-    collect(vertical.value(place.x));
-    collect(slanting);
+    std::copy_if(near.begin(), near.end(), std::back_inserter(over), [&](int number) {
+        const TSheetLine& line = lines[static_cast<std::size_t>(number)];
+        return IsOn(place, line.start, line.end);
+    });
     return over;
 }
 

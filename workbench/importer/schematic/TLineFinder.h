@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workbench/importer/schematic/TSheetFile.h"
+#include <graphics/engine/TBoxIndex.h>
 
 /** Finds the lines of a sheet that pass through a point. */
 class TLineFinder
@@ -8,7 +9,7 @@ class TLineFinder
 public:
     explicit TLineFinder(const std::vector<TSheetLine>& ofLines);
 
-    /** The indices of the lines that contain the point, ends included. */
+    /** The indices of the lines that contain the point, ends included, in ascending order. */
     QVector<int> LinesOver(const TGridPoint& place) const;
 
     /** Whether a point is on the line between two others, ends included. */
@@ -16,7 +17,5 @@ public:
 
 private:
     const std::vector<TSheetLine>& lines;
-    QHash<qint64, QVector<int>> horizontal; ///< By y.
-    QHash<qint64, QVector<int>> vertical;   ///< By x.
-    QVector<int> slanting;
+    TBoxIndex boxes;
 };
