@@ -16,7 +16,7 @@ public:
     PanelCell(const QString& cellName, QWidget* editor, bool rowShown, bool partEditable = true);
 
     const QString& Name() const { return name; }
-    /** In the words of `ModelCell::Describe`. */
+    /** All that can be seen of it, in words. */
     QString Describe() const;
 
     bool CanBeEdited() const;
