@@ -16,9 +16,6 @@ public:
     PanelCell(const QString& cellName, QWidget* editor, bool rowShown, bool partEditable = true);
 
     const QString& Name() const { return name; }
-    /** All that can be seen of it, in words. */
-    QString Describe() const;
-
     bool CanBeEdited() const;
     /** The number of a number box. */
     double Number() const;
