@@ -10,7 +10,7 @@
 #include "properties/commands/TCmdProjectTree.h"
 #include "properties/commands/TCmdWire.h"
 #include "properties/commands/TCmdWireLayer.h"
-#include "tests/commands/LawMaking.h"
+#include "tests/laws/LawMaking.h"
 
 namespace Test {
 

@@ -1,7 +1,7 @@
 #include "tests/commands/LawRows.h"
-#include "tests/commands/LawTable.h"
 #include "tests/commands/MixedBoard.h"
 #include "tests/commands/ProjectLawTable.h"
+#include "tests/laws/LawTable.h"
 #include "tests/support/TestProgram.h"
 
 #include "properties/commands/CommandKind.h"

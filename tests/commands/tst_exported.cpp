@@ -1,5 +1,5 @@
-#include "tests/commands/LawTable.h"
 #include "tests/commands/ProjectLawTable.h"
+#include "tests/laws/LawTable.h"
 #include "tests/support/Places.h"
 #include "tests/support/Symbols.h"
 #include "tests/support/TestProgram.h"

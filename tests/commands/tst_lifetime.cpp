@@ -1,7 +1,7 @@
 #include "properties/commands/TCmdVia.h"
 #include "tests/commands/LawRows.h"
-#include "tests/commands/LawTable.h"
 #include "tests/commands/MixedBoard.h"
+#include "tests/laws/LawTable.h"
 #include "tests/support/TestProgram.h"
 
 #include <QtTest>

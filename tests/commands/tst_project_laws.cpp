@@ -1,6 +1,6 @@
 #include "tests/commands/LawRows.h"
-#include "tests/commands/LawTable.h"
 #include "tests/commands/ProjectLawTable.h"
+#include "tests/laws/LawTable.h"
 #include "tests/support/Observers.h"
 #include "tests/support/TestProgram.h"
 

@@ -10,8 +10,8 @@
 namespace Test {
 
 /**
- * All that the sources of a test, "area.name", say: its own, and those of its folder that belong to a header which it
- * includes: `LawTable.h` has `LawTable.cpp` and `LawTableOfPads.cpp`. Empty when there is no such test.
+ * All that the sources of a test, "area.name", say: its own, and those of its folder or of the laws that belong to a
+ * header which it includes: `LawTable.h` has `LawTable.cpp` and `LawTableOfPads.cpp`. Empty when there is no such test.
  */
 inline QString SourcesOf(const QString& test)
 {
@@ -25,13 +25,15 @@ inline QString SourcesOf(const QString& test)
     }
     const QString text = TextOf(own);
     QString sources = text;
-    const QDir dir(SourcePath(folder));
-    const QStringList headers = dir.entryList({QStringLiteral("*.h")});
-    for (const QString& header : headers) {
-        if (text.contains(QStringLiteral("#include \"%1%2\"").arg(folder, header))) {
-            const QStringList files = dir.entryList({header.chopped(2) + QLatin1Char('*')});
-            for (const QString& file : files) {
-                sources += TextOf(folder + file);
+    for (const QString& place : {folder, QStringLiteral("tests/laws/")}) {
+        const QDir dir(SourcePath(place));
+        const QStringList headers = dir.entryList({QStringLiteral("*.h")});
+        for (const QString& header : headers) {
+            if (text.contains(QStringLiteral("#include \"%1%2\"").arg(place, header))) {
+                const QStringList files = dir.entryList({header.chopped(2) + QLatin1Char('*')});
+                for (const QString& file : files) {
+                    sources += TextOf(place + file);
+                }
             }
         }
     }

@@ -28,27 +28,6 @@ double PanelCell::Number() const
     return whole ? whole->value() : qobject_cast<QDoubleSpinBox*>(widget)->value();
 }
 
-QString PanelCell::Describe() const
-{
-    const bool enabled = widget->isEnabled() && editable;
-    const QString state = QStringLiteral("%1 %2 %3 ")
-                              .arg(name, shown ? QStringLiteral("shown") : QStringLiteral("hidden"),
-                                   enabled ? QStringLiteral("enabled") : QStringLiteral("disabled"));
-    if (const auto* spin = qobject_cast<QDoubleSpinBox*>(widget)) {
-        return state + QString::number(spin->value(), 'f', spin->decimals());
-    }
-    if (const auto* whole = qobject_cast<QSpinBox*>(widget)) {
-        return state + QString::number(whole->value());
-    }
-    if (const auto* box = qobject_cast<QComboBox*>(widget)) {
-        return state + QStringLiteral("%1 of %2").arg(box->currentIndex()).arg(box->count());
-    }
-    if (const auto* check = qobject_cast<QCheckBox*>(widget)) {
-        return state + (check->isChecked() ? QStringLiteral("[x]") : QStringLiteral("[ ]"));
-    }
-    return state + QLatin1Char('"') + qobject_cast<TLineEdit*>(widget)->Text() + QLatin1Char('"');
-}
-
 void PanelCell::Enter(double number) const
 {
     if (auto* whole = qobject_cast<QSpinBox*>(widget)) {

@@ -16,9 +16,6 @@ public:
     PanelCell(const QString& cellName, QWidget* editor, bool rowShown, bool partEditable = true);
 
     const QString& Name() const { return name; }
-    /** In the words of `ModelCell::Describe`. */
-    QString Describe() const;
-
     bool CanBeEdited() const;
     /** The number of a number box. */
     double Number() const;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/commands/LawTable.h"
+#include "tests/laws/LawTable.h"
 #include "tests/support/TestBoard.h"
 
 #include <cxxabi.h>

@@ -1,7 +1,7 @@
 #include "properties/commands/TCmdLock.h"
 #include "properties/commands/TCmdPrimitive.h"
 #include "properties/commands/TCmdWire.h"
-#include "tests/commands/LawMaking.h"
+#include "tests/laws/LawMaking.h"
 
 namespace Test {
 

@@ -1,5 +1,5 @@
 #include "properties/commands/TCmdText.h"
-#include "tests/commands/LawMaking.h"
+#include "tests/laws/LawMaking.h"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 #include "properties/commands/TCmdPin.h"
 #include "properties/commands/TCmdPort.h"
 #include "properties/commands/TCmdTag.h"
-#include "tests/commands/LawMaking.h"
+#include "tests/laws/LawMaking.h"
 
 #include <graphics/TGraphicsTextItem.h>
 #include <objects/TGraphicsPinItem.h>

@@ -1,6 +1,6 @@
-#include "tests/commands/LawTable.h"
+#include "tests/laws/LawTable.h"
 
-#include "tests/commands/LawMaking.h"
+#include "tests/laws/LawMaking.h"
 
 namespace Test {
 

@@ -1,6 +1,6 @@
 #include "properties/commands/TCmdKeepout.h"
 #include "properties/commands/TCmdPour.h"
-#include "tests/commands/LawMaking.h"
+#include "tests/laws/LawMaking.h"
 
 #include <objects/TGraphicsKeepoutItem.h>
 

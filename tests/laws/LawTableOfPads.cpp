@@ -1,7 +1,7 @@
 #include "properties/commands/TCmdMask.h"
 #include "properties/commands/TCmdPad.h"
 #include "properties/commands/TCmdVia.h"
-#include "tests/commands/LawMaking.h"
+#include "tests/laws/LawMaking.h"
 
 namespace Test {
 
