@@ -332,6 +332,14 @@ private:
                        && Contains(source, QStringLiteral(R"((->|\.)%1\b(?! *\())").arg(member.name));
             });
         }
+        const QString asArgument = QStringLiteral(R"([(, ]%1[,)])").arg(member.name);
+        const bool isOfACall = member.spelling.startsWith("enum ")
+                               && std::any_of(symbols.cbegin(), symbols.cend(), [&asArgument](const QString& symbol) {
+                                      return Contains(symbol, asArgument);
+                                  });
+        if (isOfACall) {
+            return true;
+        }
         const QString qualified = member.enumeration.isEmpty() ? member.scope : member.scope + '|' + member.enumeration;
         return Contains(library, QStringLiteral(R"(\b(%1)::%2\b)").arg(qualified, member.name))
                || (Contains(library, QStringLiteral(" : public %1$").arg(member.scope))

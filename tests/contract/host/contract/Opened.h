@@ -38,6 +38,11 @@ struct TOfKind : Base
     int type() const override { return kind; }
 };
 
+struct TItem : TGraphicsItem
+{
+    using TGraphicsItem::StateOf;
+};
+
 struct TOutline : TGraphicsOutlineItem
 {
     using TGraphicsOutlineItem::path;

@@ -39,7 +39,7 @@ ContractHost::TDesign::TDesign()
     for (TGraphicsWireItem* section : {wire, nextWire}) {
         section->SetLayer(Osmirel::CopperTop);
         section->SetPenWidth(float(millimetre));
-        section->SetNet("N1");
+        Opened::TItem::StateOf(section).net = "N1";
     }
     wire->SetPoint2({100, 0});
     nextWire->SetPoint1({100, 0});
@@ -55,7 +55,7 @@ ContractHost::TDesign::TDesign()
 
     netTieSymbol->number = 7;
     netTieSymbol->SetName("NT1");
-    netWire->SetNet("N1");
+    Opened::TItem::StateOf(netWire).net = "N1";
     netWire->LinkTo(TGraphicsItem::LinkEnd::First, port->Pin());
     bus->SetLayer(Osmirel::SchematicBuses);
     bus->SetName("D[0..7]");

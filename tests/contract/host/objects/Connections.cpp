@@ -24,8 +24,6 @@ TGraphicsSectionItem::TGraphicsSectionItem()
     hasEnds = true;
 }
 
-QPointF TGraphicsSectionItem::Point1() const { return point1; }
-QPointF TGraphicsSectionItem::Point2() const { return point2; }
 void TGraphicsSectionItem::SetPoint1(const QPointF& point) { Store(point1, point); }
 void TGraphicsSectionItem::SetPoint2(const QPointF& point) { Store(point2, point); }
 QPointF TGraphicsSectionItem::ScenePoint(LinkEnd end) const
@@ -77,7 +75,6 @@ void TGraphicsSectionItem::Unlink(LinkEnd end)
 }
 
 void TGraphicsSectionItem::UpdateNet() { CallOut(); }
-void TGraphicsSectionItem::SetNet(const QString& net) { Store(state.net, net); }
 
 int TGraphicsWireItem::type() const { return ItemType::Wire; }
 int TGraphicsWireItem::CompositionMode() const { return compositionMode; }

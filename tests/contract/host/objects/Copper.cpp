@@ -33,13 +33,6 @@ void TGraphicsViaItem::Refresh() { CallOut(); }
 Osmirel::Layer TGraphicsViaItem::StartLayer() const { return copper.start; }
 Osmirel::Layer TGraphicsViaItem::EndLayer() const { return copper.end; }
 
-void TGraphicsViaItem::SetLayers(Osmirel::Layer start, Osmirel::Layer end)
-{
-    copper.start = start;
-    copper.end = end;
-    CallOut();
-}
-
 QList<Osmirel::Layer> TGraphicsViaItem::EtchLayers() const
 {
     QList<Osmirel::Layer> layers;
@@ -49,7 +42,6 @@ QList<Osmirel::Layer> TGraphicsViaItem::EtchLayers() const
     return layers;
 }
 
-void TGraphicsViaItem::SetNet(const QString& net) { Store(state.net, net); }
 QList<TGraphicsSectionItem*> TGraphicsViaItem::LinkedWires() const { return TypedLinks<TGraphicsSectionItem>(links); }
 
 void TGraphicsViaItem::AddLinkedWire(TGraphicsSectionItem* wire)

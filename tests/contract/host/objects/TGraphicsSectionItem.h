@@ -9,8 +9,6 @@
 class TGraphicsSectionItem : public TGraphicsPenItem
 {
 public:
-    QPointF Point1() const;
-    QPointF Point2() const;
     void SetPoint1(const QPointF& point);
     void SetPoint2(const QPointF& point);
     QPointF ScenePoint(LinkEnd end) const;
@@ -26,7 +24,6 @@ public:
     void Unlink(LinkEnd end);
 
     void UpdateNet();
-    void SetNet(const QString& net);
 
 protected:
     TGraphicsSectionItem();

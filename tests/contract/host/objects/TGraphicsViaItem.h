@@ -34,9 +34,7 @@ public:
 
     Osmirel::Layer StartLayer() const;
     Osmirel::Layer EndLayer() const;
-    void SetLayers(Osmirel::Layer start, Osmirel::Layer end);
     QList<Osmirel::Layer> EtchLayers() const;
-    void SetNet(const QString& net);
 
     QList<TGraphicsSectionItem*> LinkedWires() const;
     void AddLinkedWire(TGraphicsSectionItem* wire);
