@@ -188,7 +188,12 @@ void TCmdPackageValue::Write(TGraphicsPackageItem& package, const QString& text)
     package.SetValue(text);
 }
 
-TCmdPkgConnect::TCmdPkgConnect(const QList<TGraphicsItem*>& selection, TBoard* ofBoard) : board(ofBoard)
+TCmdPkgConnect::TCmdPkgConnect(const QList<TGraphicsItem*>& selection, TBoard* ofBoard)
+    : TCmdPkgConnect(selection, ofBoard, Action::Connect)
+{}
+
+TCmdPkgConnect::TCmdPkgConnect(const QList<TGraphicsItem*>& selection, TBoard* ofBoard, Action ofRedo)
+    : TConnectCommand(ofRedo), board(ofBoard)
 {
     const QList<TGraphicsItem*> once = EachOnce(selection);
     for (TGraphicsItem* item : once) {
@@ -211,14 +216,13 @@ void TCmdPkgConnect::ExistItems()
     existing.KeepOnlyExisting(savedConnections);
 }
 
-bool TCmdPkgConnect::Do()
+bool TCmdPkgConnect::Prepare()
 {
-    return ActOnAll(Action::Connect);
-}
-
-bool TCmdPkgConnect::Undo()
-{
-    return ActOnSaved(Action::Disconnect);
+    if (!ViewOf(board)) {
+        return false;
+    }
+    ExistItems();
+    return true;
 }
 
 QVector<TGraphicsItem*> TCmdPkgConnect::Act(Action action, TGraphicsItem& item,
@@ -231,58 +235,18 @@ QVector<TGraphicsItem*> TCmdPkgConnect::Act(Action action, TGraphicsItem& item,
                                             : act(static_cast<TGraphicsNetTiePcbItem&>(item));
 }
 
-bool TCmdPkgConnect::ActOnAll(Action action)
-{
-    if (!ViewOf(board)) {
-        return false;
-    }
-    ExistItems();
-    savedConnections.clear();
-    for (TGraphicsItem* item : qAsConst(items)) {
-        savedConnections.append(Act(action, *item, {}));
-    }
-    UpdateRats();
-    return true;
-}
-
-bool TCmdPkgConnect::ActOnSaved(Action action)
-{
-    if (!ViewOf(board)) {
-        return false;
-    }
-    ExistItems();
-    for (int i = 0; i < items.size(); ++i) {
-        const QVector<TGraphicsItem*> saved = savedConnections.value(i);
-        if (!saved.isEmpty()) { // Empty if the redo changed nothing; passed on, it would mean everything.
-            Act(action, *items.at(i), saved);
-        }
-    }
-    UpdateRats();
-    return true;
-}
-
-void TCmdPkgConnect::UpdateRats()
+void TCmdPkgConnect::Update()
 {
     // Intended: unlike a change of side, this also lists packages without a component, as number 0.
     board->UpdateRats(ComponentsOf(items, true));
 }
 
 TCmdPkgDisconnect::TCmdPkgDisconnect(const QList<TGraphicsItem*>& selection, TBoard* ofBoard)
-    : TCmdPkgConnect(selection, ofBoard)
+    : TCmdPkgConnect(selection, ofBoard, Action::Disconnect)
 {}
 
 TCommandKind TCmdPkgDisconnect::Kind() const
 {
     return {"PkgDisconnect", QT_TRANSLATE_NOOP("TCommandKind", "Disconnect %1"),
             QT_TRANSLATE_NOOP("TCommandKind", "packages")};
-}
-
-bool TCmdPkgDisconnect::Do()
-{
-    return ActOnAll(Action::Disconnect);
-}
-
-bool TCmdPkgDisconnect::Undo()
-{
-    return ActOnSaved(Action::Connect);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "properties/commands/TConnectCommand.h"
 #include "properties/commands/TReversibleCommand.h"
 
 #include <properties/Export.h>
@@ -85,7 +86,7 @@ protected:
 };
 
 /** Connects packages and net ties of the board, each once, to what their pads touch. */
-class PROPERTIES_EXPORT TCmdPkgConnect : public TReversibleCommand
+class PROPERTIES_EXPORT TCmdPkgConnect : public TConnectCommand
 {
 public:
     TCmdPkgConnect(const QList<TGraphicsItem*>& selection, TBoard* board);
@@ -96,25 +97,17 @@ public:
     TCommandKind Kind() const override;
 
 protected:
-    bool Do() override;
-    bool Undo() override;
+    TCmdPkgConnect(const QList<TGraphicsItem*>& selection, TBoard* board, Action ofRedo);
 
-    enum class Action { Connect, Disconnect };
-
-    /** Calls the action on every item for everything it touches, keeps the results, and updates the rat lines. False
-     *  without the board's view. */
-    bool ActOnAll(Action action);
-    /** Calls the action on every item for its kept result, and updates the rat lines. False without the board's view.
-     */
-    bool ActOnSaved(Action action);
+    /** False without the board's view. */
+    bool Prepare() override;
+    QVector<TGraphicsItem*> Act(Action action, TGraphicsItem& item,
+                                const QVector<TGraphicsItem*>& connections) override;
+    /** Updates the rat lines. */
+    void Update() override;
 
 private:
-    static QVector<TGraphicsItem*> Act(Action action, TGraphicsItem& item, const QVector<TGraphicsItem*>& connections);
-    void UpdateRats();
-
     TBoard* board;
-    QList<TGraphicsItem*> items;
-    QVector<QVector<TGraphicsItem*>> savedConnections; ///< From the last redo; parallel to `items` since then.
 };
 
 /** Disconnects packages and net ties of the board. */
@@ -123,8 +116,4 @@ class PROPERTIES_EXPORT TCmdPkgDisconnect : public TCmdPkgConnect
 public:
     TCmdPkgDisconnect(const QList<TGraphicsItem*>& selection, TBoard* board);
     TCommandKind Kind() const override;
-
-protected:
-    bool Do() override;
-    bool Undo() override;
 };

@@ -7,14 +7,19 @@
 #include <application/TBoard.h>
 #include <objects/TGraphicsPartItem.h>
 
-TCmdPartConnect::TCmdPartConnect(const QList<TGraphicsItem*>& selection, TProject* ofProject) : project(ofProject)
+TCmdPartConnect::TCmdPartConnect(const QList<TGraphicsItem*>& selection, TProject* ofProject)
+    : TCmdPartConnect(selection, ofProject, Action::Connect)
+{}
+
+TCmdPartConnect::TCmdPartConnect(const QList<TGraphicsItem*>& selection, TProject* ofProject, Action ofRedo)
+    : TConnectCommand(ofRedo), project(ofProject)
 {
     TUniqueNumbers numbers;
     const QList<TGraphicsItem*> once = EachOnce(selection);
     for (TGraphicsItem* item : once) {
         if (item->type() == ItemType::Part) {
-            parts.append(static_cast<TGraphicsPartItem*>(item)); // Intended: their existence is not checked later.
-            numbers.Add(parts.last()->ComponentNumber());
+            items.append(item); // Intended: their existence is not checked later.
+            numbers.Add(static_cast<TGraphicsPartItem*>(item)->ComponentNumber());
         }
     }
     components = numbers.List();
@@ -34,62 +39,29 @@ void TCmdPartConnect::UpdatePCB()
     }
 }
 
-bool TCmdPartConnect::Do()
+bool TCmdPartConnect::Prepare()
 {
-    ActOnAll(Action::Connect);
     return true;
 }
 
-bool TCmdPartConnect::Undo()
+QVector<TGraphicsItem*> TCmdPartConnect::Act(Action action, TGraphicsItem& item,
+                                             const QVector<TGraphicsItem*>& connections)
 {
-    ActOnSaved(Action::Disconnect);
-    return true;
+    auto& part = static_cast<TGraphicsPartItem&>(item);
+    return action == Action::Connect ? part.Connect(connections) : part.Disconnect(connections);
 }
 
-QVector<TGraphicsItem*> TCmdPartConnect::Act(Action action, TGraphicsPartItem& part,
-                                             const QVector<TGraphicsItem*>& items)
+void TCmdPartConnect::Update()
 {
-    return action == Action::Connect ? part.Connect(items) : part.Disconnect(items);
-}
-
-void TCmdPartConnect::ActOnAll(Action action)
-{
-    savedConnections.resize(0); // Keeps its capacity.
-    for (TGraphicsPartItem* part : qAsConst(parts)) {
-        savedConnections.append(Act(action, *part, {}));
-    }
-    UpdatePCB();
-}
-
-void TCmdPartConnect::ActOnSaved(Action action)
-{
-    for (int i = 0; i < parts.size(); ++i) {
-        const QVector<TGraphicsItem*> saved = savedConnections.value(i);
-        if (!saved.isEmpty()) { // Empty if the redo changed nothing; passed on, it would mean everything.
-            Act(action, *parts.at(i), saved);
-        }
-    }
     UpdatePCB();
 }
 
 TCmdPartDisconnect::TCmdPartDisconnect(const QList<TGraphicsItem*>& selection, TProject* ofProject)
-    : TCmdPartConnect(selection, ofProject)
+    : TCmdPartConnect(selection, ofProject, Action::Disconnect)
 {}
 
 TCommandKind TCmdPartDisconnect::Kind() const
 {
     return {"PartDisconnect", QT_TRANSLATE_NOOP("TCommandKind", "Disconnect %1"),
             QT_TRANSLATE_NOOP("TCommandKind", "parts")};
-}
-
-bool TCmdPartDisconnect::Do()
-{
-    ActOnAll(Action::Disconnect);
-    return true;
-}
-
-bool TCmdPartDisconnect::Undo()
-{
-    ActOnSaved(Action::Connect);
-    return true;
 }
