@@ -165,14 +165,20 @@ class TestRealDesigns : public QObject
 
 private slots:
     void initTestCase() { window = std::make_unique<Test::PanelWindow>(); }
-    void cleanupTestCase() { window.reset(); }
+    void cleanupTestCase()
+    {
+        window.reset();
+        QVERIFY(allEdits > 0);
+    }
 
     void designsAreThere()
     {
         if (Test::DesignsFolder().isEmpty()) {
             QSKIP("there is no folder of real designs");
         }
-        QVERIFY(!Files().isEmpty());
+        if (Files().isEmpty()) {
+            QSKIP("there are no real designs that can be opened");
+        }
     }
 
     void everyEditIsUndoneAndRedone_data()
@@ -225,7 +231,7 @@ private slots:
         stack.clear();
         design.reset();
         qInfo("%d items, %d edits", items.size(), edits);
-        QVERIFY(edits > 0 || QTest::currentTestFailed());
+        allEdits += edits;
     }
 
     void Push(TUndoCommand* command) { stack.push(command); }
@@ -420,6 +426,7 @@ private:
 
     std::unique_ptr<Test::PanelWindow> window;
     QUndoStack stack;
+    int allEdits = 0; ///< Of all designs; one alone may have nothing to edit.
     std::unique_ptr<TDesign> design;
     Items items;
     QSet<const TGraphicsItem*> opened; ///< The same items.
