@@ -240,7 +240,7 @@ private:
     /** Projects, and boards without one. */
     static QStringList Files()
     {
-        QStringList files = Test::RealDesigns("*.kicad_pro");
+        QStringList files = Test::RealProjects();
         const QStringList boards = Test::RealDesigns("*.kicad_pcb");
         std::copy_if(boards.cbegin(), boards.cend(), std::back_inserter(files), [&files](const QString& board) {
             return !files.contains(QString(board).replace(QStringLiteral(".kicad_pcb"), QStringLiteral(".kicad_pro")));

@@ -55,3 +55,14 @@ QStringList Test::RealDesigns(const QString& pattern)
 #endif
     return designs;
 }
+
+QStringList Test::RealProjects()
+{
+    QStringList projects = RealDesigns(QStringLiteral("*.kicad_pro"));
+    const auto hasNoSchematic = [](const QString& project) {
+        const QFileInfo info(project);
+        return !QFile::exists(info.path() + QLatin1Char('/') + info.completeBaseName() + QLatin1String(".kicad_sch"));
+    };
+    projects.erase(std::remove_if(projects.begin(), projects.end(), hasNoSchematic), projects.end());
+    return projects;
+}

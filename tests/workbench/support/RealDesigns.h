@@ -10,4 +10,7 @@ namespace Test {
  */
 QStringList RealDesigns(const QString& pattern);
 
+/** The projects among them that have a schematic; they may have a board. */
+QStringList RealProjects();
+
 } // namespace Test
