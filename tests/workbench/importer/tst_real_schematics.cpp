@@ -78,10 +78,7 @@ int PinsToLink(const TSheetHierarchy& hierarchy)
             for (const TPagePin& pin : symbol.pins) {
                 const bool isOnWire = std::any_of(wires.begin(), wires.end(),
                                                   [&pin](const TSheetLine& wire) { return IsOver(pin.place, wire); });
-                count += !IsPowerSymbol(symbol) && !others.contains(symbol.reference)
-                                 && (isOnWire || places.value(pin.place) > 1)
-                             ? 1
-                             : 0;
+                count += !IsPowerSymbol(symbol) && (isOnWire || places.value(pin.place) > 1) ? 1 : 0;
             }
         }
     }
