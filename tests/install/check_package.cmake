@@ -10,7 +10,7 @@ file(GLOB_RECURSE files LIST_DIRECTORIES false RELATIVE ${prefix} ${prefix}/*)
 set(others ${files})
 list(FILTER others EXCLUDE REGEX "^lib.*/libproperties[a-z_]*\\.so[.0-9]*$")
 list(FILTER others EXCLUDE REGEX "^lib.*/cmake/Properties(Host)?/[A-Za-z-]+\\.cmake$")
-list(FILTER others EXCLUDE REGEX "^include/properties(-host)?/([a-z]+/)?[A-Za-z0-9]+\\.h$")
+list(FILTER others EXCLUDE REGEX "^include/properties(-host)?/([a-z]+/(engine/)?)?[A-Za-z0-9]+\\.h$")
 if(others)
     message(FATAL_ERROR "installed, and not for those who embed the library: ${others}")
 endif()
@@ -33,7 +33,7 @@ foreach(compiler IN LISTS COMPILERS)
     # One vtable and one typeinfo of each class, and they are the library's.
     execute_process(COMMAND ${NM} --demangle --defined-only ${build}/uses_every_class
         OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
-    string(REGEX MATCHALL "[^\n]*(vtable|typeinfo|typeinfo name) for T(Cmd|Property|AttributeCommand|MergingCommand|NetTieCommand)[^\n]*"
+    string(REGEX MATCHALL "[^\n]*(vtable|typeinfo|typeinfo name) for T(Cmd|Property|AttributeCommand|MergingCommand|NetTieCommand|ConnectCommand|ReversibleCommand)[^\n]*"
         copies "${symbols}")
     list(FILTER copies EXCLUDE REGEX " U ")
     if(copies)
