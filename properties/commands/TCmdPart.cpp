@@ -39,11 +39,6 @@ void TCmdPartConnect::UpdatePCB()
     }
 }
 
-bool TCmdPartConnect::Prepare()
-{
-    return true;
-}
-
 QVector<TGraphicsItem*> TCmdPartConnect::Act(Action action, TGraphicsItem& item,
                                              const QVector<TGraphicsItem*>& connections)
 {

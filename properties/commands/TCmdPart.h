@@ -19,7 +19,6 @@ public:
 protected:
     TCmdPartConnect(const QList<TGraphicsItem*>& selection, TProject* project, Action ofRedo);
 
-    bool Prepare() override;
     QVector<TGraphicsItem*> Act(Action action, TGraphicsItem& item,
                                 const QVector<TGraphicsItem*>& connections) override;
     void Update() override;

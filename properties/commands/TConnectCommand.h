@@ -24,8 +24,8 @@ protected:
     bool Do() final;
     bool Undo() final;
 
-    /** Called first at every redo and undo: false if the command cannot act. */
-    virtual bool Prepare() = 0;
+    /** Called first at every redo and undo: false if the command cannot act. It always can unless a class says so. */
+    virtual bool Prepare() { return true; }
     /** Connects or disconnects one item: with @p connections empty from everything that it touches, otherwise exactly
      *  those. Returns what was linked or cut. */
     virtual QVector<TGraphicsItem*> Act(Action action, TGraphicsItem& item,

@@ -165,20 +165,14 @@ class TestRealDesigns : public QObject
 
 private slots:
     void initTestCase() { window = std::make_unique<Test::PanelWindow>(); }
-    void cleanupTestCase()
-    {
-        window.reset();
-        QVERIFY(allEdits > 0);
-    }
+    void cleanupTestCase() { window.reset(); }
 
     void designsAreThere()
     {
         if (Test::DesignsFolder().isEmpty()) {
             QSKIP("there is no folder of real designs");
         }
-        if (Files().isEmpty()) {
-            QSKIP("there are no real designs that can be opened");
-        }
+        QVERIFY(!Files().isEmpty());
     }
 
     void everyEditIsUndoneAndRedone_data()
@@ -231,7 +225,8 @@ private slots:
         stack.clear();
         design.reset();
         qInfo("%d items, %d edits", items.size(), edits);
-        allEdits += edits;
+        const bool isKnown = Test::IsAtHand(file) || file == SampleProjectFile() || file == SampleBoardFile();
+        QVERIFY(edits > 0 || !isKnown || QTest::currentTestFailed());
     }
 
     void Push(TUndoCommand* command) { stack.push(command); }
@@ -426,7 +421,6 @@ private:
 
     std::unique_ptr<Test::PanelWindow> window;
     QUndoStack stack;
-    int allEdits = 0; ///< Of all designs; one alone may have nothing to edit.
     std::unique_ptr<TDesign> design;
     Items items;
     QSet<const TGraphicsItem*> opened; ///< The same items.

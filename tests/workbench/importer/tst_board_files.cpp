@@ -14,6 +14,7 @@ using BoardTexts::Board;
 using BoardTexts::BoardWithLayers;
 using BoardTexts::Footprint;
 using ImportedItems::All;
+using ImportedItems::Import;
 using ImportedItems::Only;
 
 namespace {
@@ -22,11 +23,6 @@ QByteArray Sample()
 {
     QFile file(Test::SourcePath("workbench/samples/sample.kicad_pcb"));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-TImportResult Import(const QByteArray& text)
-{
-    return ImportBoardText(text, QStringLiteral("board"));
 }
 
 /** A layer table of so many copper layers by their standard names, in an order that is not that of the board. */

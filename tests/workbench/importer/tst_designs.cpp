@@ -16,10 +16,9 @@
 #include <cmath>
 
 using ImportedItems::All;
+using ImportedItems::millimetre;
 
 namespace {
-
-constexpr double millimetre = 300 / 25.4;
 
 /** A place to the nanometre, which is the file's own grid: equal places are the same however they were computed. */
 using TGridPoint = QPair<qint64, qint64>;
@@ -148,16 +147,15 @@ private slots:
         QCOMPARE(All<TGraphicsTextItem>(imported).size(), written - notItems);
         const bool hasEdge = text.CountMatches("\\(layer \"?Edge\\.Cuts\"?\\)") > 0;
         QVERIFY(All<TGraphicsOutlineItem>(imported).size() <= (hasEdge ? 1 : 0)); // None where no curve is closed.
-        QVERIFY(!sample.contains(file) || All<TGraphicsOutlineItem>(imported).size() == 1);
+        const bool isKnown = Test::IsAtHand(file) || sample.contains(file);
+        QVERIFY(!isKnown || All<TGraphicsOutlineItem>(imported).size() == 1);
         for (const auto* package : All<TGraphicsPackageItem>(imported)) {
-            QVERIFY2(package->RefDesText() || package->RefDes().isEmpty(), qPrintable(package->RefDes()));
-            QVERIFY2(package->ValueText() || package->Value().isEmpty(), qPrintable(package->RefDes()));
+            QVERIFY2(package->RefDesText() || (!isKnown && package->RefDes().isEmpty()), qPrintable(package->RefDes()));
+            QVERIFY2(package->ValueText() || (!isKnown && package->Value().isEmpty()), qPrintable(package->RefDes()));
         }
     }
 
     void putsPadsWhereTracksEnd_data() { AddFiles(designs); }
-
-    /** Of many, most: boards that are not routed to their end have few. */
 
     void putsPadsWhereTracksEnd()
     {
@@ -184,9 +182,15 @@ private slots:
         }
         qInfo("A track ends on %d of %d pads; in the middle of %d of %d of turned packages, of %d if turned wrongly",
               reached, tracked, met, turned, metIfTurnedWrongly);
-        constexpr int many = 50;
-        QVERIFY(tracked < many || 2 * reached > tracked);
-        QVERIFY(turned < many || metIfTurnedWrongly <= met); // Both, where packages are symmetrical.
+        if (Test::IsAtHand(file)) {
+            QVERIFY(2 * reached > tracked);
+            QVERIFY(4 * met >= turned);
+            QVERIFY(10 * metIfTurnedWrongly <= met);
+        } else { // Boards may not be routed to their end, and packages may be symmetrical.
+            constexpr int many = 50;
+            QVERIFY(tracked < many || 2 * reached > tracked);
+            QVERIFY(turned < many || metIfTurnedWrongly <= met);
+        }
     }
 
 private:

@@ -19,17 +19,12 @@ using BoardTexts::Board;
 using BoardTexts::BoardWithLayers;
 using BoardTexts::Footprint;
 using ImportedItems::All;
+using ImportedItems::Import;
+using ImportedItems::millimetre;
 using ImportedItems::NotShown;
 using ImportedItems::Only;
 
 namespace {
-
-constexpr double millimetre = 300 / 25.4;
-
-TImportResult Import(const QByteArray& text)
-{
-    return ImportBoardText(text, QStringLiteral("board"));
-}
 
 bool IsNear(const QPointF& one, const QPointF& other)
 {

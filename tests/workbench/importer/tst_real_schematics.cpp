@@ -126,6 +126,7 @@ private slots:
         QCOMPARE(All<TGraphicsPortItem>(result).size(), ports);
         QCOMPARE(All<TGraphicsBusEntryItem>(result).size(), entries);
         QVERIFY(All<TGraphicsJunctionItem>(result).size() >= static_cast<int>(junctions));
+        QVERIFY(parts > 0 || !Test::IsAtHand(file));
     }
 
     void linksEveryPinThatMeetsSomething_data() { AddDesigns(); }
@@ -138,7 +139,9 @@ private slots:
         const auto linked = std::count_if(pins.begin(), pins.end(), [](const TGraphicsPinItem* pin) {
             return pin->parentItem()->type() != ItemType::Port && !pin->Links().isEmpty();
         });
-        QCOMPARE(static_cast<int>(linked), PinsToLink(Hierarchy(file)));
+        const int toLink = PinsToLink(Hierarchy(file));
+        QCOMPARE(static_cast<int>(linked), toLink);
+        QVERIFY(toLink > 0 || !Test::IsAtHand(file));
     }
 
     void linksOnlyWhatMeets_data() { AddDesigns(); }
@@ -260,7 +263,7 @@ private slots:
                 }
             }
         }
-        QVERIFY(compared > 0 || packages.isEmpty() || pinNets.isEmpty());
+        QVERIFY(compared > 0 || !Test::IsAtHand(file));
     }
 
 private:

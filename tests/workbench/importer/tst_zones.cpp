@@ -16,12 +16,12 @@
 using BoardTexts::Board;
 using BoardTexts::BoardWithLayers;
 using ImportedItems::All;
+using ImportedItems::millimetre;
 using ImportedItems::NotShown;
 using ImportedItems::Only;
 
 namespace {
 
-constexpr double millimetre = 300 / 25.4;
 constexpr auto square = "(polygon (pts (xy 0 0) (xy 10 0) (xy 10 10) (xy 0 10)))";
 
 TImportResult Import(const QByteArray& elements)

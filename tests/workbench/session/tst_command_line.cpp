@@ -121,6 +121,18 @@ void TestCommandLine::saysWhatItDoesNotUnderstand_data()
     row({"--rename"}, "--rename needs TEXT");
     row({"--values", "1"}, "--values: takes on or off, not \"1\"");
     row({"--bypass", "yes"}, "--bypass: takes on or off, not \"yes\"");
+    row({"--priority", "10"}, "--priority: takes Default, 1, 2, 3, 4, 5, 6, 7, 8, 9, not \"10\"");
+    row({"--priority", "default"}, "--priority: takes Default, ");
+    row({"--tie-width", "1,2"}, "--tie-width: \"1,2\" is not a valid length in millimetres");
+    row({"--tie-width", "0"}, "--tie-width: \"0\" is not a valid length");
+    row({"--tie-width", "nan"}, "--tie-width: \"nan\" is not a valid length");
+    row({"--resize", "3"}, "--resize: \"3\" is not a valid size: width,height in millimetres");
+    row({"--resize", "3,-1"}, "--resize: \"3,-1\" is not a valid size");
+    row({"--rename-page", "Front"}, "--rename-page: \"Front\" is not a valid renaming: what=name");
+    row({"--rename-page", "=Front"}, "--rename-page: \"=Front\" is not a valid renaming");
+    row({"--rename-part", "R1="}, "--rename-part: \"R1=\" is not a valid renaming");
+    row({"--page"}, "--page needs PAGE");
+    row({"--open-part"}, "--open-part needs PART");
 }
 
 void TestCommandLine::saysWhatItDoesNotUnderstand()

@@ -157,7 +157,7 @@ void TestProgram::realDesignsComeBackAfterUndo_data()
 void TestProgram::realDesignsComeBackAfterUndo()
 {
     QFETCH(QString, file);
-    if (!ContentOf(file).contains("(via")) {
+    if (!Test::IsAtHand(file) && !ContentOf(file).contains("(via")) {
         QSKIP("This board has no vias");
     }
     const QTemporaryDir folder;
@@ -207,7 +207,8 @@ void TestProgram::realProjectsComeBackAfterUndo()
                                        "--dump",
                                        "undone"},
                                       folder.path());
-    if (run.messages.contains(" has no ")) {
+    static const QRegularExpression lacks(R"(\(--select (part|pin|netwire)\): .* has no \1)");
+    if (!Test::IsAtHand(file) && lacks.match(run.messages).hasMatch()) {
         QSKIP("The first page lacks a kind");
     }
     QVERIFY2(run.code == 0, qPrintable(run.messages));

@@ -7,6 +7,14 @@
 /** Looks into what an import gave. */
 namespace ImportedItems {
 
+constexpr double millimetre = 300 / 25.4; ///< In scene units.
+
+/** A board file that has no project; messages call it "board". */
+inline TImportResult Import(const QByteArray& text)
+{
+    return ImportBoardText(text, QStringLiteral("board"));
+}
+
 /** The items of exactly this class, in the order of the file. */
 template <class Item>
 QList<Item*> All(const TImportResult& imported)

@@ -4,7 +4,6 @@
 #include "workbench/editing/DesignActions.h"
 #include "workbench/editing/TSelection.h"
 #include "workbench/session/CommandLine.h"
-#include "workbench/session/TSessionError.h"
 
 #include <graphics/TGraphicsRectItem.h>
 #include <objects/TGraphicsBusEntryItem.h>
@@ -62,8 +61,6 @@ private slots:
     void areUndoneAndRedone();
     void saysWhatIsNeeded_data();
     void saysWhatIsNeeded();
-    void argumentsAreChecked_data();
-    void argumentsAreChecked();
     void optionsAndKeysAreUnique();
     void aValueReachesPartPackageAndModel();
     void aValueOfAPackageReachesThePart();
@@ -137,40 +134,6 @@ void TestActions::saysWhatIsNeeded()
     QVERIFY2(outcome.messages.contains("select " + needed), qPrintable(outcome.messages));
     QCOMPARE(workbench.window->UndoStack().count(), 0);
     QCOMPARE(workbench.Dump(), before);
-}
-
-void TestActions::argumentsAreChecked_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("cause");
-
-    const auto row = [](const QStringList& arguments, const char* cause) {
-        QTest::newRow(qPrintable(arguments.join(' '))) << arguments << QString(cause);
-    };
-    row({"--priority", "10"}, "--priority: takes Default, 1, 2, 3, 4, 5, 6, 7, 8, 9, not \"10\"");
-    row({"--priority", "default"}, "--priority: takes Default, ");
-    row({"--tie-width", "1,2"}, "--tie-width: \"1,2\" is not a valid length in millimetres");
-    row({"--tie-width", "0"}, "--tie-width: \"0\" is not a valid length");
-    row({"--tie-width", "nan"}, "--tie-width: \"nan\" is not a valid length");
-    row({"--resize", "3"}, "--resize: \"3\" is not a valid size: width,height in millimetres");
-    row({"--resize", "3,-1"}, "--resize: \"3,-1\" is not a valid size");
-    row({"--rename-page", "Front"}, "--rename-page: \"Front\" is not a valid renaming: what=name");
-    row({"--rename-page", "=Front"}, "--rename-page: \"=Front\" is not a valid renaming");
-    row({"--rename-part", "R1="}, "--rename-part: \"R1=\" is not a valid renaming");
-    row({"--page"}, "--page needs PAGE");
-    row({"--open-part"}, "--open-part needs PART");
-}
-
-void TestActions::argumentsAreChecked()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(QString, cause);
-    try {
-        TCommandLine::Parse(arguments);
-        QFAIL("The command line was understood");
-    } catch (const TSessionError& error) {
-        QVERIFY2(error.Cause().startsWith(cause), qPrintable(error.Cause()));
-    }
 }
 
 void TestActions::optionsAndKeysAreUnique()
